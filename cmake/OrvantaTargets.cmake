@@ -1,0 +1,55 @@
+# What every target of the tree shares, and the two helpers that make a room and a test.
+
+# The folder that can be run and copied as it stands: the program and all that must lie beside it.
+set(ORVANTA_BIN_DIR ${PROJECT_BINARY_DIR}/bin)
+# Where the same folder goes when it is installed; bin/orvanta is a link into it.
+set(ORVANTA_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/orvanta)
+
+add_library(orvanta_options INTERFACE)
+target_compile_options(orvanta_options INTERFACE
+    -Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<BOOL:${ORVANTA_WERROR}>:-Werror>)
+target_compile_definitions(orvanta_options INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH)
+if(ORVANTA_SANITIZE)
+    target_compile_options(orvanta_options INTERFACE "-fsanitize=${ORVANTA_SANITIZE}")
+    target_link_options(orvanta_options INTERFACE "-fsanitize=${ORVANTA_SANITIZE}")
+    if(ORVANTA_SANITIZE MATCHES undefined)
+        target_compile_options(orvanta_options INTERFACE -fno-sanitize-recover=undefined)
+    endif()
+endif()
+
+# orvanta_room(NAME SOURCES file... [USES target...])
+# One folder of the house: the static library orvanta_NAME. Its own folder is the only include
+# path it adds, so including a room that is not named under USES is a build error.
+function(orvanta_room name)
+    cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+    add_library(orvanta_${name} STATIC ${ROOM_SOURCES})
+    target_include_directories(orvanta_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(orvanta_${name} PUBLIC ${ROOM_USES} PRIVATE orvanta_options)
+endfunction()
+
+# orvanta_test(NAME LABEL unit|engine|system SOURCES file... [USES target...] [TIMEOUT seconds]
+#              [COMMAND prefix...])
+# One test program. Unit tests draw on the offscreen platform. COMMAND is put before the program,
+# for those that need the lab. Home, temporary and runtime folders are private to the test.
+function(orvanta_test name)
+    cmake_parse_arguments(TEST "" "LABEL;TIMEOUT" "SOURCES;USES;COMMAND" ${ARGN})
+    if(NOT TEST_TIMEOUT)
+        set(TEST_TIMEOUT 120)
+    endif()
+    add_executable(${name} ${TEST_SOURCES})
+    target_link_libraries(${name} PRIVATE ${TEST_USES} Qt5::Test orvanta_options)
+    set(private ${CMAKE_CURRENT_BINARY_DIR}/${name}.private)
+    file(MAKE_DIRECTORY ${private}/home ${private}/tmp ${private}/run)
+    file(CHMOD ${private}/run PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+    add_test(NAME ${name} COMMAND ${TEST_COMMAND} $<TARGET_FILE:${name}>)
+    set(environment "HOME=${private}/home" "TMPDIR=${private}/tmp" "XDG_RUNTIME_DIR=${private}/run"
+        "LC_ALL=C.UTF-8" "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
+        "UBSAN_OPTIONS=print_stacktrace=1"
+        "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
+    if(TEST_LABEL STREQUAL "unit")
+        list(APPEND environment "QT_QPA_PLATFORM=offscreen")
+    endif()
+    set_tests_properties(${name} PROPERTIES
+        LABELS ${TEST_LABEL} TIMEOUT ${TEST_TIMEOUT} ENVIRONMENT "${environment}")
+endfunction()
