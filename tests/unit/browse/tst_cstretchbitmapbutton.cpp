@@ -1,0 +1,314 @@
+#include "ButtonGeometry.h"
+#include "CStretchBitmapButton.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+// The left half of the test bitmaps, by state.
+const QColor upColor(0, 0, 160);
+const QColor downColor(160, 0, 0);
+const QColor disabledColor(40, 40, 40);
+const QColor upRightColor(0, 160, 0);
+
+/// A window with one button in it.
+struct Stage {
+    explicit Stage(const QString &name)
+    {
+        window.resize(400, 300);
+        button = new CStretchBitmapButton(name, &window);
+    }
+
+    void open()
+    {
+        button->show();
+        window.show();
+        window.activateWindow();
+    }
+    QLabel *caption() const { return button->findChild<QLabel *>("caption"); }
+    QColor colorAt(int x, int y) { return window.grab().toImage().pixelColor(x, y); }
+
+    QWidget window;
+    CStretchBitmapButton *button = nullptr;
+};
+
+/// Mirrors the whole program for the length of a test.
+struct RightToLeft {
+    RightToLeft() { QApplication::setLayoutDirection(Qt::RightToLeft); }
+    ~RightToLeft() { QApplication::setLayoutDirection(Qt::LeftToRight); }
+    Q_DISABLE_COPY(RightToLeft)
+};
+
+} // namespace
+
+class TestCStretchBitmapButton : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aBitmapIsShrunkToASixthOfTheScreenAndNeverEnlarged_data();
+    void aBitmapIsShrunkToASixthOfTheScreenAndNeverEnlarged();
+    void captionsShrinkOnNarrowScreens_data();
+    void captionsShrinkOnNarrowScreens();
+    void theButtonIsBornHiddenAndAsLargeAsItsBitmap_data();
+    void theButtonIsBornHiddenAndAsLargeAsItsBitmap();
+    void theBitmapIsStretchedOverTheWholeButton();
+    void thePressedButtonShowsItsDownBitmap();
+    void aDisabledButtonStaysDisabledLookingUnderThePress();
+    void aButtonWithoutBitmapsDrawsNothing();
+    void theCaptionStandsInTheRightThreeFifths();
+    void theCaptionFontIsBlackWeightArial();
+    void aLongCaptionNeitherEnlargesTheButtonNorMovesItsColumn();
+    void aClickOnTheCaptionPressesTheButton();
+    void aRightToLeftCaptionGetsTwoLeadingBlanks();
+    void aRightToLeftLanguageLeavesThePictureAsItIs();
+    void assistiveToolsHearTheCaptionOnOneLine_data();
+    void assistiveToolsHearTheCaptionOnOneLine();
+    void aDisabledCaptionIsDimmer();
+    void tabReachesTheButtonAndSpacePressesIt();
+    void onlyTheKeyboardFocusIsMarked();
+};
+
+void TestCStretchBitmapButton::aBitmapIsShrunkToASixthOfTheScreenAndNeverEnlarged_data()
+{
+    QTest::addColumn<QSize>("bitmap");
+    QTest::addColumn<int>("screenWidth");
+    QTest::addColumn<QSize>("expected");
+    QTest::newRow("too wide on 1920") << QSize(400, 300) << 1920 << QSize(320, 240);
+    QTest::newRow("fits on 1920") << QSize(300, 200) << 1920 << QSize(300, 200);
+    QTest::newRow("exactly a cell") << QSize(320, 240) << 1920 << QSize(320, 240);
+    QTest::newRow("the cell is truncated") << QSize(171, 171) << 1027 << QSize(171, 171);
+    QTest::newRow("a pixel too wide") << QSize(172, 172) << 1027 << QSize(171, 171);
+    QTest::newRow("no bitmap") << QSize(0, 0) << 1920 << QSize(0, 0);
+}
+
+void TestCStretchBitmapButton::aBitmapIsShrunkToASixthOfTheScreenAndNeverEnlarged()
+{
+    QFETCH(QSize, bitmap);
+    QFETCH(int, screenWidth);
+    QTEST(ButtonGeometry::fittedBitmapSize(bitmap, screenWidth), "expected");
+}
+
+void TestCStretchBitmapButton::captionsShrinkOnNarrowScreens_data()
+{
+    QTest::addColumn<int>("screenWidth");
+    QTest::addColumn<int>("points");
+    QTest::newRow("640") << 640 << 6;
+    QTest::newRow("800") << 800 << 8;
+    QTest::newRow("1023") << 1023 << 10;
+    QTest::newRow("1024") << 1024 << 11;
+    QTest::newRow("1920") << 1920 << 11;
+}
+
+void TestCStretchBitmapButton::captionsShrinkOnNarrowScreens()
+{
+    QFETCH(int, screenWidth);
+    QTEST(ButtonGeometry::captionPointSize(screenWidth), "points");
+}
+
+void TestCStretchBitmapButton::theButtonIsBornHiddenAndAsLargeAsItsBitmap_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSize>("bitmap");
+    QTest::newRow("small") << "Small" << QSize(90, 60);
+    QTest::newRow("wider than a cell") << "Wide" << QSize(200, 100);
+    QTest::newRow("missing") << "NoSuchName" << QSize(0, 0);
+}
+
+void TestCStretchBitmapButton::theButtonIsBornHiddenAndAsLargeAsItsBitmap()
+{
+    QFETCH(QString, name);
+    QFETCH(QSize, bitmap);
+    const int screenWidth = QGuiApplication::primaryScreen()->availableGeometry().width();
+    const QSize expected = ButtonGeometry::fittedBitmapSize(bitmap, screenWidth);
+
+    const Stage stage(name);
+    QVERIFY(stage.button->isHidden());
+    QVERIFY(!stage.button->isCheckable());
+    QCOMPARE(stage.button->objectName(), name);
+    QCOMPARE(stage.button->size(), expected);
+    QCOMPARE(stage.button->baseSize(), expected);
+}
+
+void TestCStretchBitmapButton::theBitmapIsStretchedOverTheWholeButton()
+{
+    Stage stage("Small");
+    stage.button->setGeometry(10, 20, 200, 120);
+    stage.open();
+    QCOMPARE(stage.colorAt(10, 20), upColor);
+    QCOMPARE(stage.colorAt(106, 139), upColor);
+    QCOMPARE(stage.colorAt(114, 20), upRightColor);
+    QCOMPARE(stage.colorAt(209, 139), upRightColor);
+}
+
+void TestCStretchBitmapButton::thePressedButtonShowsItsDownBitmap()
+{
+    Stage stage("Small");
+    stage.open();
+    QTest::mousePress(stage.button, Qt::LeftButton);
+    QCOMPARE(stage.colorAt(2, 30), downColor);
+    QTest::mouseRelease(stage.button, Qt::LeftButton);
+    QCOMPARE(stage.colorAt(2, 30), upColor);
+}
+
+void TestCStretchBitmapButton::aDisabledButtonStaysDisabledLookingUnderThePress()
+{
+    Stage stage("Small");
+    stage.button->setEnabled(false);
+    stage.open();
+    QTest::mousePress(stage.button, Qt::LeftButton);
+    stage.button->setDown(true);
+    QCOMPARE(stage.colorAt(2, 30), disabledColor);
+}
+
+void TestCStretchBitmapButton::aButtonWithoutBitmapsDrawsNothing()
+{
+    Stage stage("NoSuchName");
+    stage.window.setPalette(QPalette(Qt::magenta));
+    stage.button->setGeometry(0, 0, 100, 60);
+    stage.open();
+    const QImage shown = stage.window.grab().toImage();
+    QCOMPARE(shown.pixelColor(50, 30), shown.pixelColor(300, 200));
+    QCOMPARE(shown.pixelColor(0, 0), shown.pixelColor(300, 200));
+}
+
+void TestCStretchBitmapButton::theCaptionStandsInTheRightThreeFifths()
+{
+    Stage stage("Small");
+    stage.button->setGeometry(0, 0, 200, 100);
+    stage.button->setCaptionText("Live");
+    stage.open();
+    QCOMPARE(stage.caption()->geometry(), QRect(80, 0, 120, 100));
+    QVERIFY(stage.caption()->wordWrap());
+    QCOMPARE(stage.caption()->text(), QString("Live"));
+}
+
+void TestCStretchBitmapButton::theCaptionFontIsBlackWeightArial()
+{
+    const Stage stage("Small");
+    const QFont font = stage.caption()->font();
+    const int screenWidth = QGuiApplication::primaryScreen()->availableGeometry().width();
+    QCOMPARE(font.family(), QString("Arial"));
+    QCOMPARE(font.weight(), 87);
+    QCOMPARE(font.italic(), false);
+    QCOMPARE(font.pointSize(), ButtonGeometry::captionPointSize(screenWidth));
+}
+
+void TestCStretchBitmapButton::aLongCaptionNeitherEnlargesTheButtonNorMovesItsColumn()
+{
+    Stage stage("Small");
+    stage.button->setCaptionText(QString("Unreasonably").repeated(10));
+    stage.open();
+    QCOMPARE(stage.button->size(), QSize(90, 60));
+    QCOMPARE(stage.caption()->geometry(), QRect(36, 0, 54, 60));
+    stage.button->setGeometry(0, 0, 50, 20);
+    QCOMPARE(stage.button->size(), QSize(50, 20));
+}
+
+void TestCStretchBitmapButton::aClickOnTheCaptionPressesTheButton()
+{
+    Stage stage("Small");
+    stage.button->setCaptionText("Photo");
+    stage.open();
+    const QSignalSpy clicked(stage.button, &QPushButton::clicked);
+    const QPoint onCaption(60, 30);
+    QCOMPARE(stage.window.childAt(onCaption), stage.button);
+    QTest::mouseClick(stage.window.windowHandle(), Qt::LeftButton, {}, onCaption);
+    QCOMPARE(clicked.count(), 1);
+}
+
+void TestCStretchBitmapButton::aRightToLeftCaptionGetsTwoLeadingBlanks()
+{
+    const RightToLeft mirrored;
+    const Stage stage("Small");
+    stage.button->setCaptionText("Live");
+    QCOMPARE(stage.caption()->text(), QString("  Live"));
+    QCOMPARE(stage.button->accessibleName(), QString("Live"));
+}
+
+void TestCStretchBitmapButton::aRightToLeftLanguageLeavesThePictureAsItIs()
+{
+    const RightToLeft mirrored;
+    Stage stage("Small");
+    stage.button->move(0, 0);
+    stage.open();
+    QCOMPARE(stage.button->layoutDirection(), Qt::LeftToRight);
+    QCOMPARE(stage.caption()->layoutDirection(), Qt::RightToLeft);
+    QCOMPARE(stage.caption()->x(), 36);
+    QCOMPARE(stage.colorAt(2, 30), upColor);
+}
+
+void TestCStretchBitmapButton::assistiveToolsHearTheCaptionOnOneLine_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("spoken");
+    QTest::newRow("plain") << "Live"
+                           << "Live";
+    QTest::newRow("two lines") << "Continuous\nCapture"
+                               << "Continuous Capture";
+    QTest::newRow("indented second line") << "Movie /\n    Photo"
+                                          << "Movie / Photo";
+    QTest::newRow("no caption") << ""
+                                << "Small";
+}
+
+void TestCStretchBitmapButton::assistiveToolsHearTheCaptionOnOneLine()
+{
+    QFETCH(QString, caption);
+    const Stage stage("Small");
+    QCOMPARE(stage.button->accessibleName(), QString("Small"));
+    stage.button->setCaptionText("Something else");
+    stage.button->setCaptionText(caption);
+    QCOMPARE(stage.caption()->text(), caption);
+    QTEST(stage.button->accessibleName(), "spoken");
+}
+
+void TestCStretchBitmapButton::aDisabledCaptionIsDimmer()
+{
+    const Stage stage("Small");
+    const QPalette colors = stage.caption()->palette();
+    const QColor &enabled = colors.color(QPalette::Active, QPalette::WindowText);
+    const QColor &disabled = colors.color(QPalette::Disabled, QPalette::WindowText);
+    QCOMPARE(enabled, QColor(Qt::white));
+    QCOMPARE(colors.color(QPalette::Inactive, QPalette::WindowText), enabled);
+    QVERIFY(disabled.value() < enabled.value() * 2 / 3);
+}
+
+void TestCStretchBitmapButton::tabReachesTheButtonAndSpacePressesIt()
+{
+    Stage stage("Small");
+    auto *second = new CStretchBitmapButton("Small", &stage.window);
+    second->move(100, 0);
+    second->show();
+    stage.open();
+    QVERIFY(QTest::qWaitForWindowActive(&stage.window));
+    const QSignalSpy clicked(second, &QPushButton::clicked);
+    stage.button->setFocus();
+    QTest::keyClick(&stage.window, Qt::Key_Tab);
+    QVERIFY(second->hasFocus());
+    QTest::keyClick(second, Qt::Key_Space);
+    QCOMPARE(clicked.count(), 1);
+}
+
+void TestCStretchBitmapButton::onlyTheKeyboardFocusIsMarked()
+{
+    Stage stage("Small");
+    stage.button->move(0, 0);
+    stage.open();
+    QVERIFY(QTest::qWaitForWindowActive(&stage.window));
+    stage.button->setFocus(Qt::MouseFocusReason);
+    QVERIFY(stage.button->hasFocus());
+    stage.window.setAttribute(Qt::WA_KeyboardFocusChange, false);
+    QCOMPARE(stage.colorAt(4, 30), upColor);
+
+    QTest::keyClick(&stage.window, Qt::Key_Tab);
+    QVERIFY(stage.button->hasFocus());
+    QVERIFY(stage.colorAt(4, 30).value() > 200);
+    QVERIFY(stage.colorAt(1, 30).value() < upColor.value());
+}
+
+QTEST_MAIN(TestCStretchBitmapButton)
+#include "tst_cstretchbitmapbutton.moc"
