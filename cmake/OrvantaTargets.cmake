@@ -29,16 +29,23 @@ function(orvanta_room name)
 endfunction()
 
 # orvanta_test(NAME LABEL unit|engine|system SOURCES file... [USES target...] [TIMEOUT seconds]
-#              [COMMAND prefix...])
-# One test program. Unit tests draw on the offscreen platform. COMMAND is put before the program,
-# for those that need the lab. Home, temporary and runtime folders are private to the test.
+#              [COMMAND prefix...] [LAB option...])
+# One test program. Unit tests draw on the offscreen platform. COMMAND is put before the program.
+# Home, temporary and runtime folders are private to the test. With LAB the program runs inside a
+# lab of its own, with these options of tests/lab/lab, such as --camera cam1:1280x720; an option
+# that says the default, --screen 1024x768, gives a lab without cameras.
 function(orvanta_test name)
-    cmake_parse_arguments(TEST "" "LABEL;TIMEOUT" "SOURCES;USES;COMMAND" ${ARGN})
+    cmake_parse_arguments(TEST "" "LABEL;TIMEOUT" "SOURCES;USES;COMMAND;LAB" ${ARGN})
     if(NOT TEST_TIMEOUT)
         set(TEST_TIMEOUT 120)
     endif()
     add_executable(${name} ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE ${TEST_USES} Qt5::Test orvanta_options)
+    if(TEST_LAB)
+        list(PREPEND TEST_COMMAND ${PROJECT_SOURCE_DIR}/tests/lab/lab
+            --tools $<TARGET_FILE_DIR:labcam> ${TEST_LAB} --)
+        add_dependencies(${name} labcam)
+    endif()
     set(private ${CMAKE_CURRENT_BINARY_DIR}/${name}.private)
     file(MAKE_DIRECTORY ${private}/home ${private}/tmp ${private}/run)
     file(CHMOD ${private}/run PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
