@@ -1,0 +1,190 @@
+#include "FakeEngine.h"
+
+#include "GrabThread.h"
+#include "LiveVideoData.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace {
+
+LiveVideoData *s_engine = nullptr; // the one that lives, null when there is none
+
+void note(const QString &call)
+{
+    FakeEngine::script().calls.append(call);
+}
+
+QImage pictureToSave()
+{
+    const FakeEngine &script = FakeEngine::script();
+    if (!script.picture.isNull()) {
+        return script.picture;
+    }
+    QImage plain(script.nativeSize, QImage::Format_RGB32);
+    plain.fill(Qt::darkCyan);
+    return plain;
+}
+
+} // namespace
+
+FakeEngine &FakeEngine::script()
+{
+    static FakeEngine theScript;
+    return theScript;
+}
+
+void FakeEngine::reset()
+{
+    script() = FakeEngine();
+}
+
+void FakeEngine::loseCamera()
+{
+    Q_ASSERT(s_engine);
+    Q_EMIT s_engine->disconnectDevice();
+}
+
+int FakeEngine::callCount(const QString &operation)
+{
+    const QString opening = operation + QLatin1Char('(');
+    const QStringList &calls = script().calls;
+    return int(std::count_if(calls.begin(), calls.end(),
+                             [&](const QString &call) { return call.startsWith(opening); }));
+}
+
+class LiveVideoData::Private { };
+
+LiveVideoData::LiveVideoData()
+{
+    s_engine = this;
+}
+
+LiveVideoData::~LiveVideoData()
+{
+    note(QStringLiteral("~LiveVideoData()"));
+    if (s_engine == this) {
+        s_engine = nullptr;
+    }
+}
+
+void LiveVideoData::SetTarget(QWidget *target)
+{
+    note(QStringLiteral("SetTarget()"));
+    FakeEngine::script().target = target;
+}
+
+QStringList LiveVideoData::GetVideoDeviceList()
+{
+    note(QStringLiteral("GetVideoDeviceList()"));
+    return FakeEngine::script().deviceNames;
+}
+
+void LiveVideoData::SetVideoDevice(int index)
+{
+    note(QStringLiteral("SetVideoDevice(%1)").arg(index));
+    FakeEngine::script().videoDevice = index;
+}
+
+void LiveVideoData::Create()
+{
+    note(QStringLiteral("Create()"));
+    const FakeEngine &script = FakeEngine::script();
+    supported = script.supported;
+    videoPresent = script.supported && script.videoPresent;
+    created = videoPresent && script.createOpens;
+    nativeWidth = created ? script.nativeSize.width() : 0;
+    nativeHeight = created ? script.nativeSize.height() : 0;
+}
+
+void LiveVideoData::Start()
+{
+    note(QStringLiteral("Start()"));
+    FakeEngine::script().started = true;
+}
+
+void LiveVideoData::Stop()
+{
+    note(QStringLiteral("Stop()"));
+    FakeEngine::script().started = false;
+}
+
+void LiveVideoData::Reset()
+{
+    note(QStringLiteral("Reset()"));
+}
+
+void LiveVideoData::Release()
+{
+    note(QStringLiteral("Release()"));
+    created = false;
+    FakeEngine::script().started = false;
+    FakeEngine::script().recording.clear();
+}
+
+bool LiveVideoData::SaveBitmap(QString path) // NOLINT(performance-unnecessary-value-param)
+{
+    note(QStringLiteral("SaveBitmap(%1)").arg(path));
+    return FakeEngine::script().saveBitmapSucceeds && pictureToSave().save(path);
+}
+
+void LiveVideoData::Record(const QString &path)
+{
+    note(QStringLiteral("Record(%1)").arg(path));
+    FakeEngine &script = FakeEngine::script();
+    if (!script.videoDeviceValid || !script.audioDeviceValid) {
+        return;
+    }
+    script.recording = path;
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(script.movie);
+    }
+}
+
+void LiveVideoData::RecordStop()
+{
+    note(QStringLiteral("RecordStop()"));
+    FakeEngine::script().recording.clear();
+}
+
+bool LiveVideoData::IsValidVideoDevice()
+{
+    note(QStringLiteral("IsValidVideoDevice()"));
+    return FakeEngine::script().videoDeviceValid;
+}
+
+bool LiveVideoData::IsValidAudioDevice()
+{
+    note(QStringLiteral("IsValidAudioDevice()"));
+    return FakeEngine::script().audioDeviceValid;
+}
+
+QStringList LiveVideoData::GetResoList()
+{
+    note(QStringLiteral("GetResoList()"));
+    return FakeEngine::script().resolutions;
+}
+
+void LiveVideoData::SetResolution(int width, int height)
+{
+    note(QStringLiteral("SetResolution(%1, %2)").arg(width).arg(height));
+}
+
+void LiveVideoData::grab() { }
+
+void LiveVideoData::RecordMovie() { }
+
+void LiveVideoData::device() { }
+
+class GrabThread::Private { };
+
+GrabThread::GrabThread(QObject *parent)
+    : QThread(parent)
+{
+}
+
+GrabThread::~GrabThread() = default;
+
+void GrabThread::run() { }

@@ -1,0 +1,50 @@
+#ifndef FAKEENGINE_H
+#define FAKEENGINE_H
+
+#include <QByteArray>
+#include <QImage>
+#include <QPointer>
+#include <QSize>
+#include <QStringList>
+#include <QWidget>
+
+/**
+ * The script of the engine that stands in for the real one: what its operations shall find and
+ * answer, and what was asked of it.
+ *
+ * There is one script for the whole test program; whichever LiveVideoData is alive plays it. Call
+ * reset() before each test. As it comes, it is one working camera with a microphone.
+ */
+struct FakeEngine {
+    static FakeEngine &script();
+    /// Sets every knob to its first value and forgets all calls; an engine that lives stays open.
+    static void reset();
+    /// Emits disconnectDevice() on the calling thread, as the engine may do on its own.
+    static void loseCamera();
+    /// How often an operation was called, whatever its arguments: callCount("SaveBitmap").
+    static int callCount(const QString &operation);
+
+    // What the engine finds.
+    QStringList deviceNames = {QStringLiteral("Fake Camera")};
+    bool supported = true; ///< capture is possible at all
+    bool videoPresent = true;
+    bool createOpens = true; ///< Create() opens the camera, when it is supported and present
+    QSize nativeSize = {1280, 720}; ///< px
+    QStringList resolutions = {QStringLiteral("640x480"), QStringLiteral("1280x720")};
+
+    // What the engine answers.
+    bool videoDeviceValid = true;
+    bool audioDeviceValid = true;
+    bool saveBitmapSucceeds = true; ///< when false, nothing is written
+    QImage picture; ///< what SaveBitmap() writes; null: a plain picture of nativeSize
+    QByteArray movie = QByteArrayLiteral("a movie"); ///< what a movie holds after Record()
+
+    // What was asked of it.
+    QStringList calls; ///< in order, with arguments, as in "SetResolution(640, 480)"
+    QPointer<QWidget> target; ///< what SetTarget() was given
+    int videoDevice = -1; ///< what SetVideoDevice() was given last
+    bool started = false; ///< between Start() and Stop() or Release()
+    QString recording; ///< path between Record() and RecordStop() or Release(), else empty
+};
+
+#endif
