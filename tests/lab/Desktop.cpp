@@ -1,0 +1,259 @@
+#include "Desktop.h"
+
+#include <QColor>
+
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
+
+namespace {
+
+constexpr unsigned leftButton = 1;
+constexpr long maximumItems = 4096;
+
+// Windows of other programs may vanish between two requests; that is no reason to end.
+int ignoreError(Display *, XErrorEvent *)
+{
+    return 0;
+}
+
+QString textProperty(Display *display, ::Window window, const char *name)
+{
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long left = 0;
+    unsigned char *data = nullptr;
+    XGetWindowProperty(display, window, XInternAtom(display, name, False), 0, maximumItems, False,
+                       XInternAtom(display, "UTF8_STRING", False), &type, &format, &count, &left,
+                       &data);
+    const QString text =
+        data ? QString::fromUtf8(reinterpret_cast<char *>(data), int(count)) : QString();
+    if (data) {
+        XFree(data);
+    }
+    return text;
+}
+
+QRect geometryOnScreen(Display *display, ::Window window)
+{
+    XWindowAttributes attributes = {};
+    if (!XGetWindowAttributes(display, window, &attributes)) {
+        return {};
+    }
+    int x = 0;
+    int y = 0;
+    ::Window child = 0;
+    XTranslateCoordinates(display, window, DefaultRootWindow(display), 0, 0, &x, &y, &child);
+    return {x, y, attributes.width, attributes.height};
+}
+
+} // namespace
+
+Desktop::Desktop()
+    : m_display(XOpenDisplay(nullptr))
+{
+    XSetErrorHandler(ignoreError);
+}
+
+Desktop::~Desktop()
+{
+    if (m_display) {
+        XCloseDisplay(m_display);
+    }
+}
+
+QRect Desktop::screen() const
+{
+    if (!m_display) {
+        return {};
+    }
+    const int number = DefaultScreen(m_display);
+    return {0, 0, DisplayWidth(m_display, number), DisplayHeight(m_display, number)};
+}
+
+QImage Desktop::screenshot() const
+{
+    if (!m_display) {
+        return {};
+    }
+    XImage *shot =
+        XGetImage(m_display, DefaultRootWindow(m_display), 0, 0, unsigned(screen().width()),
+                  unsigned(screen().height()), AllPlanes, ZPixmap);
+    if (!shot) {
+        return {};
+    }
+    QImage picture;
+    if (shot->bits_per_pixel == 32) {
+        picture = QImage(reinterpret_cast<uchar *>(shot->data), shot->width, shot->height,
+                         shot->bytes_per_line, QImage::Format_RGB32)
+                      .copy();
+    }
+    XDestroyImage(shot);
+    return picture;
+}
+
+QColor Desktop::pixel(QPoint at) const
+{
+    const QImage picture = screenshot();
+    return picture.valid(at) ? picture.pixelColor(at) : QColor();
+}
+
+QVector<Desktop::Window> Desktop::windows() const
+{
+    QVector<Window> found;
+    if (!m_display) {
+        return found;
+    }
+    const quint32 root = quint32(DefaultRootWindow(m_display));
+    const QVector<quint32> active = cardinals(root, "_NET_ACTIVE_WINDOW");
+    for (const quint32 id : cardinals(root, "_NET_CLIENT_LIST_STACKING")) {
+        const Window window = describe(id, active.value(0));
+        if (!window.geometry.isEmpty()) {
+            found.append(window);
+        }
+    }
+    return found;
+}
+
+QVector<Desktop::Window> Desktop::windowsOf(qint64 pid) const
+{
+    QVector<Window> found;
+    for (const Window &window : windows()) {
+        if (window.pid == pid) {
+            found.append(window);
+        }
+    }
+    return found;
+}
+
+Desktop::Window Desktop::topWindowOf(qint64 pid) const
+{
+    const QVector<Window> found = windowsOf(pid);
+    return found.isEmpty() ? Window() : found.last();
+}
+
+QVector<QRect> Desktop::popups() const
+{
+    QVector<QRect> found;
+    if (!m_display) {
+        return found;
+    }
+    ::Window root = 0;
+    ::Window parent = 0;
+    ::Window *children = nullptr;
+    unsigned count = 0;
+    XQueryTree(m_display, DefaultRootWindow(m_display), &root, &parent, &children, &count);
+    for (unsigned i = 0; i < count; ++i) {
+        XWindowAttributes attributes = {};
+        if (XGetWindowAttributes(m_display, children[i], &attributes)
+            && attributes.override_redirect && attributes.map_state == IsViewable
+            && attributes.c_class == InputOutput) {
+            found.append(geometryOnScreen(m_display, children[i]));
+        }
+    }
+    if (children) {
+        XFree(children);
+    }
+    return found;
+}
+
+void Desktop::closeWindow(quint32 id) const
+{
+    if (!m_display) {
+        return;
+    }
+    XEvent event = {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = id;
+    event.xclient.message_type = XInternAtom(m_display, "_NET_CLOSE_WINDOW", False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = CurrentTime;
+    event.xclient.data.l[1] = 2; // asked for by the user, not by a program
+    XSendEvent(m_display, DefaultRootWindow(m_display), False,
+               SubstructureRedirectMask | SubstructureNotifyMask, &event);
+    XSync(m_display, False);
+}
+
+void Desktop::moveMouse(QPoint to) const
+{
+    if (m_display) {
+        XTestFakeMotionEvent(m_display, DefaultScreen(m_display), to.x(), to.y(), CurrentTime);
+        XSync(m_display, False);
+    }
+}
+
+void Desktop::pressMouse(QPoint at) const
+{
+    moveMouse(at);
+    if (m_display) {
+        XTestFakeButtonEvent(m_display, leftButton, True, CurrentTime);
+        XSync(m_display, False);
+    }
+}
+
+void Desktop::releaseMouse() const
+{
+    if (m_display) {
+        XTestFakeButtonEvent(m_display, leftButton, False, CurrentTime);
+        XSync(m_display, False);
+    }
+}
+
+void Desktop::click(QPoint at) const
+{
+    pressMouse(at);
+    releaseMouse();
+}
+
+void Desktop::pressKey(const char *name) const
+{
+    if (!m_display) {
+        return;
+    }
+    const KeyCode code = XKeysymToKeycode(m_display, XStringToKeysym(name));
+    XTestFakeKeyEvent(m_display, code, True, CurrentTime);
+    XTestFakeKeyEvent(m_display, code, False, CurrentTime);
+    XSync(m_display, False);
+}
+
+void Desktop::type(const QString &text) const
+{
+    for (const QChar c : text) {
+        pressKey(c == '/' ? "slash" : c == '.' ? "period" : QString(c).toLatin1().constData());
+    }
+}
+
+Desktop::Window Desktop::describe(quint32 id, quint32 activeId) const
+{
+    Window window;
+    window.id = id;
+    window.title = textProperty(m_display, id, "_NET_WM_NAME");
+    window.pid = cardinals(id, "_NET_WM_PID").value(0);
+    window.geometry = geometryOnScreen(m_display, id);
+    window.isActive = id == activeId;
+    return window;
+}
+
+QVector<quint32> Desktop::cardinals(quint32 window, const char *property) const
+{
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long left = 0;
+    unsigned char *data = nullptr;
+    XGetWindowProperty(m_display, window, XInternAtom(m_display, property, False), 0, maximumItems,
+                       False, AnyPropertyType, &type, &format, &count, &left, &data);
+    QVector<quint32> values;
+    if (data && format == 32) { // Xlib hands 32-bit items out as longs
+        const auto *items = reinterpret_cast<const unsigned long *>(data);
+        for (unsigned long i = 0; i < count; ++i) {
+            values.append(quint32(items[i]));
+        }
+    }
+    if (data) {
+        XFree(data);
+    }
+    return values;
+}

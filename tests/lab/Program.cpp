@@ -1,0 +1,68 @@
+#include "Program.h"
+
+#include <QDate>
+#include <QDir>
+
+#include <unistd.h>
+
+Program::Program(const QString &executable)
+    : m_executable(executable)
+    , m_environment(QProcessEnvironment::systemEnvironment())
+{
+    QDir(m_folder.path()).mkdir("home");
+    QDir(m_folder.path()).mkdir("tmp");
+    m_environment.insert("HOME", home());
+    m_environment.insert("TMPDIR", m_folder.filePath("tmp"));
+    m_process.setProcessChannelMode(QProcess::MergedChannels);
+}
+
+Program::~Program()
+{
+    if (isRunning()) {
+        kill();
+    }
+}
+
+void Program::setEnvironment(const QString &name, const QString &value)
+{
+    m_environment.insert(name, value);
+}
+
+void Program::start()
+{
+    m_process.setProcessEnvironment(m_environment);
+    m_process.setWorkingDirectory(home());
+    m_process.start(m_executable, QStringList());
+    m_process.waitForStarted(5000);
+}
+
+void Program::kill()
+{
+    m_process.kill();
+    m_process.waitForFinished(5000);
+}
+
+bool Program::isRunning() const
+{
+    return m_process.state() != QProcess::NotRunning;
+}
+
+bool Program::hasEndedWithin(int milliseconds)
+{
+    return !isRunning() || m_process.waitForFinished(milliseconds);
+}
+
+QString Program::temporaryArea() const
+{
+    return m_folder.filePath("tmp") + "/TavelinCamera_" + QString::number(geteuid());
+}
+
+QStringList Program::captured() const
+{
+    return QDir(temporaryArea()).entryList(QDir::Files | QDir::Hidden, QDir::Time | QDir::Reversed);
+}
+
+QString Program::saveFolder() const
+{
+    return home() + "/TavelinCamera/" + QDate::currentDate().toString("yyyyMMdd");
+}

@@ -1,0 +1,50 @@
+#ifndef PROGRAM_H
+#define PROGRAM_H
+
+#include "Desktop.h"
+
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+
+// One run, or several runs after each other, of the camera program for one user of the lab: home
+// and temporary folder are this object's own, so what a test finds on disk comes from its own
+// clicks. The program is ended, with kill if need be, when the object goes.
+class Program {
+public:
+    explicit Program(const QString &executable);
+    ~Program();
+    Program(const Program &) = delete;
+    Program &operator=(const Program &) = delete;
+
+    void setEnvironment(const QString &name, const QString &value);
+
+    // Starts the program without waiting for a window.
+    void start();
+    // As the machine does it when it goes down or runs out of memory.
+    void kill();
+    bool isRunning() const;
+    // True when the program has ended by itself within the limit.
+    bool hasEndedWithin(int milliseconds);
+    int exitStatus() const { return m_process.exitCode(); }
+    bool hasCrashed() const { return m_process.exitStatus() != QProcess::NormalExit; }
+    qint64 pid() const { return m_process.processId(); }
+    QString output() { return QString::fromUtf8(m_process.readAll()); }
+
+    QString home() const { return m_folder.filePath("home"); }
+    QString settingsFile() const { return home() + "/.halcyra_orvantacc.ini"; }
+    // Where everything captured lies until it is saved.
+    QString temporaryArea() const;
+    // File names in the temporary area, hidden ones too; the oldest first.
+    QStringList captured() const;
+    // Where "Yes" puts things today when nothing else is set.
+    QString saveFolder() const;
+
+private:
+    QTemporaryDir m_folder;
+    QString m_executable;
+    QProcessEnvironment m_environment;
+    QProcess m_process;
+};
+
+#endif // PROGRAM_H
