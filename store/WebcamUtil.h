@@ -1,0 +1,154 @@
+#ifndef WEBCAMUTIL_H
+#define WEBCAMUTIL_H
+
+#include <QDateTime>
+#include <QMessageBox>
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+/**
+ * The media store: where captured photos and movies lie, how they are called, and how they are
+ * listed, saved and thrown away. It also asks for free space and shows the program's message boxes.
+ *
+ * Everything captured is first written flat into the temporary area, a folder of the user's own
+ * below the system's temporary folder that outlives the program. It leaves the area only by
+ * saveData() or deleteData(). A file counts as captured when its name begins with "photo" or
+ * "movie"; anything else that strays in is neither saved nor deleted.
+ *
+ * The class is never instantiated: its state belongs to the process. It has no locks and is used
+ * from the GUI thread only. No operation throws, and only the message boxes show anything; a
+ * failure is a false or an empty string, and the caller decides what to say.
+ *
+ * File names in lists are bare; join them to getTemporaryPath() with "/".
+ */
+class WebcamUtil {
+public:
+    WebcamUtil() = delete;
+
+    /** The home folder; empty until first asked for, or when it could not be made. */
+    static QString m_apppath;
+    /** The temporary area; empty means not yet set up, or set-up failed. */
+    static QString m_pictureDataPath;
+    /** The photos found by the last setTempBmpFilenameList(). */
+    static QStringList m_tempbmpfilenameList;
+    /** Meant for movie names; nothing fills it, see setTempMovieFilnameList(). */
+    static QStringList m_tempmoviefilenameList;
+    /** What isSaveFile() last found, newest first. A record only: saving lists the area afresh. */
+    static QStringList m_savefilenameList;
+
+    // WebcamUtilPaths.cpp: the folders
+
+    /** Finds the home folder, making it if it is missing. */
+    static void setAppPath();
+    /** The home folder, found on first use; empty if it is missing and cannot be made. */
+    static QString getAppPath();
+    /** The home folder as it is now; the settings offer it as the place to save to. */
+    static QString getDocumentPath();
+    /** Finds the temporary area, making it if it is missing. */
+    static void setTemporaryPath();
+    /** The temporary area, set up on first use; empty if it cannot be made, and tried again. */
+    static QString getTemporaryPath();
+    /** Removes the temporary area if it is empty, and forgets it either way. */
+    static void deleteTemporaryPath();
+    /**
+     * Whether the folder @p path may be written to, judged by its entry in the folder above it and
+     * not by trying. A root folder and a folder reached through a symbolic link are refused.
+     */
+    static bool hasWriteAccess(const QString &path);
+
+    // WebcamUtilNames.cpp: names made of the moment of capture, in local time
+    // A name carries no counter: photos of the same millisecond, or movies of the same second,
+    // share it.
+
+    /** yyyyMMddhhmmsszzz */
+    static QString CurrentTimeQString(const QDateTime &moment = QDateTime::currentDateTime());
+    /** yyyyMMddhhmmss */
+    static QString CurrentSecondString(const QDateTime &moment = QDateTime::currentDateTime());
+    /** yyyyMMdd */
+    static QString CurrentDateString(const QDateTime &moment = QDateTime::currentDateTime());
+    /** "photo" + milliseconds + ".png", without a folder. */
+    static QString CreatePhotofilename(const QDateTime &moment = QDateTime::currentDateTime());
+    /** "photo" + milliseconds + "tmp.png", without a folder. */
+    static QString CreateTempPhotofilename(const QDateTime &moment = QDateTime::currentDateTime());
+    /** Full path in the temporary area: "movie" + seconds + ".mov". */
+    static QString CreateMoviefilename(const QDateTime &moment = QDateTime::currentDateTime());
+    /** Full path in the temporary area: "movie" + seconds + "tmpphoto", with no suffix. */
+    static QString CreateTempMoviefilename(const QDateTime &moment = QDateTime::currentDateTime());
+    /** Makes the day's folder below @p base; its absolute path, or empty if it cannot be made. */
+    static QString CreateSavePath(const QString &base,
+                                  const QDateTime &moment = QDateTime::currentDateTime());
+
+    // WebcamUtilListing.cpp: what the temporary area holds
+
+    /** Captured files whose names match one of the wildcard @p patterns, oldest first. */
+    static QStringList getFileList(const QStringList &patterns);
+    /** Reads the names of the captured photos into m_tempbmpfilenameList. */
+    static void setTempBmpFilenameList();
+    /** The captured photos, oldest first. */
+    static QStringList getTempPhotoNameList();
+    /** Does nothing: movies are listed by getMovieFileList() without a cache. */
+    static void setTempMovieFilnameList();
+    /**
+     * The still pictures of the movies, oldest movie first. A movie without its still picture is
+     * left out, and so is a picture without its movie.
+     */
+    static QStringList getMovieFileList();
+    /** Whether there is any file at all to ask about at exit, captured or not. */
+    static bool isSaveFile();
+    /** Whether there is any file at all, in spite of the name. */
+    static bool isMovieFile();
+    /** Whether there is a "photo*.bmp"; photos are written as .png, so there is usually none. */
+    static bool isPhotoFile();
+
+    // WebcamUtilSaving.cpp: leaving the temporary area
+
+    /**
+     * Moves everything captured into "TavelinCamera/<day of @p moment>" below @p target, newest
+     * first. Stops at the first file that cannot be moved: that file and the ones after it stay in
+     * the temporary area, and nothing half written is left in the folder. A file that is already
+     * there under the same name was saved before and is kept; the captured one is removed.
+     *
+     * False if the folder cannot be made, a file could not be moved, or there was nothing to save.
+     * A copy to another file system takes its time; the wait cursor is shown meanwhile.
+     */
+    static bool saveData(const QString &target,
+                         const QDateTime &moment = QDateTime::currentDateTime());
+    /** Deletes everything captured. A file that cannot be deleted stays, silently. */
+    static void deleteData();
+    /** Deletes the file at @p path, if it can be. */
+    static void deletetmpfile(const QString &path);
+
+    // WebcamUtilDisk.cpp: room for the next capture
+
+    /**
+     * Whether more than 300 MB are free for the temporary area; a capture is not begun with less.
+     * False too when the area cannot be made or asked.
+     */
+    static bool chkdiskFreeSpace();
+    /** The rule behind chkdiskFreeSpace(): strictly more than 300 MB, 1 MB being 1,048,576 bytes.
+     */
+    static bool isEnoughSpace(quint64 blockSize, quint64 availableBlocks);
+
+    // WebcamUtilMessages.cpp: message boxes, modal, centred on the desktop, with one OK button
+
+    /** Says that the disk is too full for a capture. */
+    static void ShowDiskWorningMessage(QWidget *parent);
+    static void infoMessage(const QString &text, QWidget *parent);
+    static void WarningMessage(const QString &text, QWidget *parent);
+    static void CriticalMessage(const QString &text, QWidget *parent);
+    /**
+     * Fixes @p widget at its preferred size and centres it on the whole desktop, wherever its
+     * parent is. A null widget is left alone.
+     */
+    static void moveToCenter(QWidget *widget, QWidget *parent);
+
+private:
+    static QString ensuredFolder(const QString &path);
+    static bool isCaptured(const QString &name);
+    static QStringList listTemporaryArea(const QStringList &patterns = {});
+    static void showMessage(QMessageBox::Icon icon, const QString &text, QWidget *parent);
+};
+
+#endif

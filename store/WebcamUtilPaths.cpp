@@ -1,0 +1,88 @@
+// The folders of the media store: the home folder and the temporary area.
+
+#include "WebcamUtil.h"
+
+#include <QDir>
+
+#include <unistd.h>
+
+QString WebcamUtil::m_apppath;
+QString WebcamUtil::m_pictureDataPath;
+QStringList WebcamUtil::m_tempbmpfilenameList;
+QStringList WebcamUtil::m_tempmoviefilenameList;
+QStringList WebcamUtil::m_savefilenameList;
+
+namespace {
+
+QString temporaryAreaName()
+{
+    return QStringLiteral("/TavelinCamera");
+}
+
+} // namespace
+
+void WebcamUtil::setAppPath()
+{
+    m_apppath = ensuredFolder(QDir::homePath());
+}
+
+QString WebcamUtil::getAppPath()
+{
+    if (m_apppath.isEmpty())
+        setAppPath();
+    return m_apppath;
+}
+
+QString WebcamUtil::getDocumentPath()
+{
+    return QDir::homePath();
+}
+
+void WebcamUtil::setTemporaryPath()
+{
+    // The user's number keeps the areas of several users of one machine apart.
+    m_pictureDataPath = ensuredFolder(QDir::tempPath() + temporaryAreaName() + QLatin1Char('_')
+                                      + QString::number(geteuid()));
+}
+
+QString WebcamUtil::getTemporaryPath()
+{
+    if (m_pictureDataPath.isEmpty())
+        setTemporaryPath();
+    return m_pictureDataPath;
+}
+
+void WebcamUtil::deleteTemporaryPath()
+{
+    // An area that was never set up is looked for without the user's number. That is meant.
+    const QString path =
+        m_pictureDataPath.isEmpty() ? QDir::tempPath() + temporaryAreaName() : m_pictureDataPath;
+    const QDir folder(path);
+    if (folder.exists())
+        folder.rmpath(path);
+    m_pictureDataPath.clear();
+}
+
+bool WebcamUtil::hasWriteAccess(const QString &path)
+{
+    QDir folder(path);
+    if (!folder.exists() || folder.isRoot())
+        return false;
+    folder.setPath(folder.absolutePath());
+    const QString name = folder.dirName();
+    if (!folder.cdUp())
+        return false;
+    const QStringList writable = folder.entryList(QDir::Dirs | QDir::Writable | QDir::Hidden
+                                                      | QDir::NoSymLinks | QDir::NoDotAndDotDot,
+                                                  QDir::Unsorted);
+    return writable.contains(name, Qt::CaseSensitive);
+}
+
+/** The absolute path of the folder, made with its parents if need be; empty if it cannot be. */
+QString WebcamUtil::ensuredFolder(const QString &path)
+{
+    const QDir folder(path);
+    if (!folder.exists() && !folder.mkpath(folder.absolutePath()))
+        return QString();
+    return folder.absolutePath();
+}
