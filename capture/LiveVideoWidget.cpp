@@ -1,0 +1,265 @@
+#include "LiveVideoWidget.h"
+
+#include "WebcamUtil.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLoggingCategory>
+#include <QPalette>
+#include <QTimer>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcCapture, "orvanta.capture", QtWarningMsg)
+
+constexpr int kBurstIntervalMs = 5000;
+
+// Nearly a hairline (normal is 50), so that the word hides as little of the picture as it can.
+constexpr int kHairlineWeight = 5;
+
+QPalette greenOnBlack(QPalette palette)
+{
+    palette.setBrush(QPalette::Window, QBrush(Qt::black));
+    palette.setBrush(QPalette::WindowText, QBrush(Qt::green));
+    return palette;
+}
+
+} // namespace
+
+LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags f)
+    : QWidget(parent, f)
+    , m_shotTimer(new QTimer(this))
+    , m_videoFrame(new QFrame(this))
+{
+    setAttribute(Qt::WA_OpaquePaintEvent, false);
+    setAttribute(Qt::WA_NoSystemBackground, false);
+    setAttribute(Qt::WA_PaintOnScreen, false);
+    setPalette(greenOnBlack(palette()));
+    // Black until the first picture comes, instead of the window behind.
+    setAutoFillBackground(true);
+    setAccessibleName(tr("Live picture"));
+    setAccessibleDescription(tr("What the camera sees now"));
+
+    connect(m_shotTimer, &QTimer::timeout, this, &LiveVideoWidget::execShot);
+    connect(&m_engine, &LiveVideoData::disconnectDevice, this,
+            &LiveVideoWidget::slotdisconnectDevice);
+    createVideoFrame();
+    createLiveLabel();
+}
+
+// The engine, a member, closes the camera here, before the frame it draws into goes as a child.
+LiveVideoWidget::~LiveVideoWidget() = default;
+
+void LiveVideoWidget::createVideoFrame()
+{
+    auto *box = new QHBoxLayout(this);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->addWidget(m_videoFrame);
+    adjustSize();
+    m_engine.SetTarget(m_videoFrame);
+}
+
+void LiveVideoWidget::createLiveLabel()
+{
+    m_liveLabel = new QLabel(tr("LIVE"), this);
+    m_liveLabel->setAutoFillBackground(true);
+    m_liveLabel->setPalette(greenOnBlack(m_liveLabel->palette()));
+    m_liveLabel->setFont(QFont(QStringLiteral("Arial"), 24, kHairlineWeight, false));
+    m_liveLabel->adjustSize();
+    m_liveLabel->raise();
+    m_liveLabel->hide();
+}
+
+/// Null: nothing is ever painted on this widget itself, the engine paints in the frame on top.
+QPaintEngine *LiveVideoWidget::paintEngine() const
+{
+    return nullptr;
+}
+
+void LiveVideoWidget::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_engine.Reset();
+    update();
+}
+
+QStringList LiveVideoWidget::getVideoDeviceList()
+{
+    return m_engine.GetVideoDeviceList();
+}
+
+void LiveVideoWidget::setVideoDevice(int index)
+{
+    m_engine.SetVideoDevice(index);
+}
+
+void LiveVideoWidget::Create()
+{
+    if (m_engine.created) {
+        return;
+    }
+    m_engine.Create();
+    if (!m_engine.supported) {
+        WebcamUtil::CriticalMessage(tr("Not Suport"), this); // this spelling is translated
+        return;
+    }
+    m_videoValid = m_engine.videoPresent;
+    m_audioValid = true;
+    if (!m_videoValid) {
+        // The window reports a missing camera later and in its own words, so no message here.
+        qCDebug(lcCapture) << tr("Cannot find Video Devices.");
+    }
+}
+
+bool LiveVideoWidget::isCreate() const
+{
+    return m_engine.created;
+}
+
+QSize LiveVideoWidget::getNativeSize() const
+{
+    return {m_engine.nativeWidth, m_engine.nativeHeight};
+}
+
+void LiveVideoWidget::Start()
+{
+    if (!m_engine.created) {
+        return;
+    }
+    m_liveLabel->hide();
+    m_engine.Start();
+    m_liveLabel->show();
+}
+
+void LiveVideoWidget::Stop()
+{
+    m_engine.Stop();
+    endBurst();
+}
+
+void LiveVideoWidget::Reset()
+{
+    m_engine.Reset();
+}
+
+void LiveVideoWidget::Release()
+{
+    if (m_engine.created) {
+        m_engine.Release();
+    }
+    endBurst();
+    m_videoValid = false;
+}
+
+void LiveVideoWidget::endBurst()
+{
+    m_shotCount = 0;
+    m_shotTimer->stop();
+}
+
+QStringList LiveVideoWidget::GetResoList()
+{
+    return m_engine.GetResoList();
+}
+
+void LiveVideoWidget::setResolution(const QString &text)
+{
+    const QStringList sides = text.split(QLatin1Char('x'));
+    if (sides.size() >= 2 && m_engine.created) {
+        m_engine.SetResolution(sides.at(0).toInt(), sides.at(1).toInt());
+    }
+}
+
+QString LiveVideoWidget::SaveBmp()
+{
+    if (!m_engine.created) {
+        return QString();
+    }
+    const QString name = WebcamUtil::CreatePhotofilename();
+    const QString path = WebcamUtil::getTemporaryPath() + QLatin1Char('/') + name;
+    return m_engine.SaveBitmap(path) ? name : QString();
+}
+
+bool LiveVideoWidget::Record()
+{
+    m_movieFileName = WebcamUtil::CreateMoviefilename();
+    m_engine.Record(m_movieFileName);
+    if (!m_engine.IsValidVideoDevice()) {
+        return recordWithoutVideo();
+    }
+    if (!m_engine.IsValidAudioDevice()) {
+        return recordWithoutAudio();
+    }
+    QString stillPath = m_movieFileName;
+    stillPath.replace(QLatin1String(".mov"), QLatin1String("tmp.png"));
+    m_engine.SaveBitmap(stillPath); // a movie without its still picture is still a movie
+    return true;
+}
+
+/// Always false, for Record() to return.
+bool LiveVideoWidget::recordWithoutVideo()
+{
+    m_videoValid = false;
+    QString message = tr("The video device is invalid. "
+                         "Please confirm whether the device is correctly connected. ");
+    // Meant as it reads: a microphone that works is what makes the message name both devices.
+    if (m_engine.IsValidAudioDevice()) {
+        message = tr("The video device and the audio device are invalid. "
+                     "Please confirm whether the device is correctly connected. ");
+        m_audioValid = false;
+    }
+    WebcamUtil::WarningMessage(message, this);
+    return false;
+}
+
+/// Always false, for Record() to return.
+bool LiveVideoWidget::recordWithoutAudio()
+{
+    m_audioValid = false;
+    WebcamUtil::WarningMessage(tr("The audio device is invalid. "
+                                  "Please confirm whether the device is correctly connected."),
+                               this);
+    return false;
+}
+
+void LiveVideoWidget::RecordStop()
+{
+    m_engine.RecordStop();
+}
+
+bool LiveVideoWidget::isAudioDeviceValid()
+{
+    return m_engine.IsValidAudioDevice();
+}
+
+bool LiveVideoWidget::isAudioPresent()
+{
+    return m_audioValid && isAudioDeviceValid();
+}
+
+void LiveVideoWidget::ContinuesShot(int max)
+{
+    m_shotCount = 0;
+    m_maximumShots = max;
+    m_shotList.clear();
+    m_shotTimer->start(kBurstIntervalMs);
+}
+
+void LiveVideoWidget::execShot()
+{
+    // The bare name, unlike a photo's: a burst writes into the current folder.
+    const QString name = WebcamUtil::CreatePhotofilename();
+    m_engine.SaveBitmap(name);
+    m_shotList.append(name);
+    ++m_shotCount;
+    if (m_shotCount >= m_maximumShots) {
+        m_shotTimer->stop();
+        Q_EMIT ShotMax();
+    }
+}
+
+void LiveVideoWidget::slotdisconnectDevice()
+{
+    Q_EMIT disconnectDevice();
+}

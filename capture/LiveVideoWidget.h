@@ -1,0 +1,112 @@
+#ifndef LIVEVIDEOWIDGET_H
+#define LIVEVIDEOWIDGET_H
+
+#include "LiveVideoData.h"
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+class QFrame;
+class QLabel;
+class QTimer;
+
+/**
+ * The view of the camera, and the only way to it: owns the capture engine and gives it a frame to
+ * show the picture in, stores photos and movies under the names of the temporary area, and tells
+ * the user what the engine cannot say itself.
+ *
+ * States: not created until Create() has opened the camera, and again after Release(). Operations
+ * that need an open camera do nothing without one, or return a null string.
+ *
+ * GUI thread only. The engine may announce a lost camera from its own thread; disconnectDevice()
+ * of this class always leaves from the GUI thread. Messages are modal: the operation returns when
+ * the user has read them.
+ */
+class LiveVideoWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit LiveVideoWidget(QWidget *parent = nullptr, Qt::WindowFlags f = {});
+    ~LiveVideoWidget() override;
+
+    QPaintEngine *paintEngine() const override;
+
+    /// Names in device order; a position in the list is what setVideoDevice() takes.
+    QStringList getVideoDeviceList();
+    /// Selects the camera that the next Create() opens.
+    void setVideoDevice(int index);
+
+    /// Opens the camera unless it is open already. Ask isCreate() and isVideoValid() afterwards.
+    void Create();
+    bool isCreate() const;
+    /// px, the camera's own picture; valid after Create().
+    QSize getNativeSize() const;
+
+    void Start();
+    void Stop();
+    void Reset();
+    /// Closes the camera; Create() opens it again.
+    void Release();
+
+    QStringList GetResoList();
+    /// @p text is width, "x" and height in px, such as "640x480". Text without an "x" is ignored.
+    void setResolution(const QString &text);
+
+    /// Writes one photo into the temporary area. Its bare file name, or a null string on failure.
+    QString SaveBmp();
+
+    /**
+     * Starts a movie and saves its first picture beside it. When a device is missing, says so and
+     * returns false; the engine has then been told to record all the same, as it must be before
+     * it can answer for its devices.
+     */
+    bool Record();
+    void RecordStop();
+    /// Full path of the movie that Record() began last.
+    QString movieFileName() const { return m_movieFileName; }
+
+    /// What Create(), Record() and Release() have found out so far; true until they have.
+    bool isVideoValid() const { return m_videoValid; }
+    bool isAudioValid() const { return m_audioValid; }
+    /// The engine's own answer, now: is there a microphone to record with?
+    bool isAudioDeviceValid();
+    /// Neither Record() nor the engine has anything against the microphone.
+    bool isAudioPresent();
+
+Q_SIGNALS:
+    void ShotMax(); ///< a burst has taken its last photo
+    void disconnectDevice(); ///< the open camera is gone
+
+public Q_SLOTS:
+    /// Takes @p max photos, one every 5 s and the first after 5 s; then ShotMax().
+    void ContinuesShot(int max);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private Q_SLOTS:
+    void execShot();
+    void slotdisconnectDevice();
+
+private:
+    void createVideoFrame();
+    void createLiveLabel();
+    void endBurst();
+    bool recordWithoutVideo();
+    bool recordWithoutAudio();
+
+    LiveVideoData m_engine;
+    QString m_movieFileName;
+    QLabel *m_liveLabel = nullptr; ///< "LIVE", over the picture
+    QTimer *m_shotTimer;
+    int m_maximumShots = 0; ///< wanted in the current burst
+    int m_shotCount = 0; ///< taken in the current burst
+    QFrame *m_videoFrame; ///< the engine shows the picture in it
+    bool m_videoValid = true;
+    bool m_audioValid = true;
+    QStringList m_shotList; ///< names of the current burst's photos
+};
+
+#endif
