@@ -101,6 +101,8 @@ private slots:
     void everyIconCanBeMadeOutInEveryState();
     void aWhiteCaptionCanBeReadOnEveryEnabledFace_data() { buttonRows(); }
     void aWhiteCaptionCanBeReadOnEveryEnabledFace();
+    void edgesStaySmoothWhenShrunkToTheNearestPixel_data();
+    void edgesStaySmoothWhenShrunkToTheNearestPixel();
     void noTwoButtonsLookTheSame();
     void theWindowIconHoldsTheSizesThatDesktopsAskFor();
     void theDialogIconLoads();
@@ -205,6 +207,36 @@ void TestResources::aWhiteCaptionCanBeReadOnEveryEnabledFace()
     // 7 is what guidelines for readable text ask of the best class, 4.5 of the ordinary one.
     QVERIFY(contrast(faceColour(bitmap(name, "up")), qRgb(255, 255, 255)) >= 7.0);
     QVERIFY(contrast(faceColour(bitmap(name, "dw")), qRgb(255, 255, 255)) >= 4.5);
+}
+
+void TestResources::edgesStaySmoothWhenShrunkToTheNearestPixel_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::newRow("a sixth of 1024") << 170;
+    QTest::newRow("a sixth of 1366") << 227;
+    QTest::newRow("a sixth of 1920") << 320;
+}
+
+// Of all steps to the right that cross half of the way from face to icon, few may jump it whole.
+void TestResources::edgesStaySmoothWhenShrunkToTheNearestPixel()
+{
+    QFETCH(int, width);
+    const QImage image = bitmap("Live", "up").scaledToWidth(width, Qt::FastTransformation);
+    const int face = qGreen(faceColour(bitmap("Live", "up")));
+    const int middle = (face + 255) / 2;
+    const int wholeStep = (255 - face) * 9 / 10;
+    int crossings = 0;
+    int jumps = 0;
+    for (int y = image.height() / 8; y < image.height() * 7 / 8; ++y) {
+        for (int x = width / 20; x < width * 2 / 5; ++x) {
+            const int left = qGreen(image.pixel(x, y));
+            const int right = qGreen(image.pixel(x + 1, y));
+            crossings += (left < middle) != (right < middle) ? 1 : 0;
+            jumps += qAbs(left - right) > wholeStep ? 1 : 0;
+        }
+    }
+    QVERIFY2(crossings > 50, qPrintable(QString::number(crossings)));
+    QVERIFY2(jumps * 3 < crossings, qPrintable(QString("%1 of %2").arg(jumps).arg(crossings)));
 }
 
 void TestResources::noTwoButtonsLookTheSame()
