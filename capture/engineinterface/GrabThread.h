@@ -4,14 +4,26 @@
 #include "EngineExport.h"
 
 #include <QImage>
+#include <QSize>
 #include <QThread>
 
 #include <memory>
 #include <opencv2/core/mat.hpp>
 
+class CameraFrame;
+class CameraPipeline;
+
 /**
- * The engine's worker: takes frames from the camera, keeps the newest one and converts it for the
- * screen. The program never builds, starts or connects to one.
+ * The engine's worker: opens one camera, takes its frames until it is told to stop or the camera
+ * is lost, keeps the newest frame and converts it for the screen. The program never builds, starts
+ * or connects to one.
+ *
+ * A thread serves one opening of one camera: capture() once, then retire(). Opening and closing a
+ * camera can block inside a driver or a media server, so both happen here and nothing waits for
+ * them without a limit.
+ *
+ * Threads: the public operations are called on the GUI thread, run() is the worker; both signals
+ * leave from the worker. A signal only says "look again": it may arrive after retire().
  */
 class ORVANTA_ENGINE_EXPORT GrabThread : public QThread {
     Q_OBJECT
@@ -20,18 +32,51 @@ public:
     explicit GrabThread(QObject *parent = nullptr);
     ~GrabThread() override;
 
+    /// Takes the camera over and starts to open it.
+    void capture(std::unique_ptr<CameraPipeline> camera);
+
+    /// True as soon as the first frame is there; false when the camera failed or @p milliseconds
+    /// passed without one.
+    bool waitForFrame(int milliseconds);
+
+    /// True once the camera failed by itself: an error, the end of its stream, or silence.
+    bool hasFailed() const;
+
+    /// The size in device pixels in which pictures are wanted; empty while nobody sees them, which
+    /// spares all conversion. A picture that was made before is forgotten.
+    void setPictureSize(const QSize &size);
+
+    /// The newest picture in the wanted size; made on the spot when a frame but no picture is there
+    /// yet. Null without a frame or a wanted size. Taking it lets the next grabtrue() come.
+    QImage takePicture();
+
+    /// The newest full-size frame, null before the first and after the camera is gone. The frame
+    /// stays readable for as long as the caller holds it, also when the camera vanishes.
+    std::shared_ptr<const CameraFrame> newestFrame() const;
+
+    /// Ends and deletes @p thread. Waits a moment for it; one that hangs in a driver is left to
+    /// end and delete itself. Null is fine.
+    static void retire(GrabThread *thread);
+
 Q_SIGNALS:
+    /// The camera failed; comes once and not when the thread was told to stop.
     void deviceerr();
+    /// A new picture waits in takePicture(); not repeated until it was taken.
     void grabtrue();
 
 protected:
     void run() override;
 
 private:
+    void grabUntilEnd();
+    void keepFrame(const std::shared_ptr<CameraFrame> &frame);
+    void makePicture(const CameraFrame &frame);
+    void forgetFrames();
+
     class Private;
-    std::unique_ptr<Private> d;
-    cv::Mat m_lastFrame; ///< the last grabbed frame
-    QImage m_picture; ///< its picture as the target shows it; released before the frame
+    std::unique_ptr<Private> d; ///< first, so that it goes last: it keeps m_lastFrame's pixels
+    cv::Mat m_lastFrame; ///< view of the last grabbed frame, no copy; guarded by d->mutex
+    QImage m_picture; ///< its picture as the target shows it; guarded by d->mutex
 };
 
 #endif

@@ -15,48 +15,106 @@ class QWidget;
 /**
  * The capture engine: one camera, its live picture in a widget of the caller's, stills and movies.
  *
- * Every operation is called on the GUI thread, in any state and in any order; none throws, none
- * blocks without a limit. The engine grabs on a thread of its own (GrabThread).
+ * Every operation is called on the GUI thread, in any state and in any order; none throws and none
+ * blocks without a limit (listing 2 s, opening 5 s on top of that, closing 2 s). The very first
+ * call in a session may take longer while GStreamer indexes its plug-ins.
+ *
+ * What an operation does in which state ("-" is nothing at all):
+ *
+ *   operation             idle               open              showing            lost
+ *   --------------------  -----------------  ----------------  -----------------  ----------------
+ *   SetTarget             paints it black    paints it black   moves the picture  paints it black
+ *   GetVideoDeviceList    lists              lists             lists              lists
+ *   SetVideoDevice        for next Create    for next Create   for next Create    for next Create
+ *   Create                -> open, or idle   -                 -                  -> open, or idle
+ *   Start                 -                  -> showing        -                  -
+ *   Stop                  -                  -                 -> open            -
+ *   Reset                 repaints black     repaints black    repaints           repaints black
+ *   Release               -                  -> idle           -> idle            -> idle
+ *   SaveBitmap            false              newest frame      newest frame       false
+ *   Record, RecordStop    -                  -                 -                  -
+ *   IsValidVideoDevice    false              false             false              false
+ *   IsValidAudioDevice    microphone?        microphone?       microphone?        microphone?
+ *   GetResoList           empty              the camera's      the camera's       empty
+ *   SetResolution         -                  reopens           reopens, shows on  -
+ *
+ * idle: no camera. open: the camera runs and the newest frame is kept, the target is black.
+ * showing: the target shows the picture as well. lost: the camera went away by itself;
+ * disconnectDevice() was emitted once, the target is black, `created` stays true until Release().
+ *
+ * A movie cannot be recorded yet: Record() leaves no file and IsValidVideoDevice() says so.
+ *
+ * The target is painted from its own paint event, by an event filter, and is never owned: it may be
+ * resized, hidden, given another parent or destroyed at any time. No picture is converted while it
+ * is hidden.
+ *
+ * Threads: frames are taken and converted on a GrabThread. All signals leave on the GUI thread.
  */
 class ORVANTA_ENGINE_EXPORT LiveVideoData : public QObject {
     Q_OBJECT
 
 public:
     LiveVideoData();
-    ~LiveVideoData() override;
+    ~LiveVideoData() override; ///< closes everything still open
 
+    /// The widget the picture is painted into; null for none.
     void SetTarget(QWidget *target);
+
+    /// The cameras' names; the position is the index for SetVideoDevice(). Cameras of one name are
+    /// numbered. Answers within 2 s with what has been found by then.
     QStringList GetVideoDeviceList();
+
+    /// Chooses a camera of the last list for the next Create(). The camera is remembered by what it
+    /// is, not by its place: plugged in again it is found under any index. An index that the
+    /// list does not have is no camera. Without any choice it is the first one.
     void SetVideoDevice(int index);
+
+    /// Opens the chosen camera in its best mode and returns once its first frame has come; gives up
+    /// after 5 s. Sets all five members below. When it was the only camera at the time of its
+    /// choice and is gone, the first one that is there now is opened in its place.
     void Create();
+
     void Start();
     void Stop();
     void Reset();
     void Release();
+
+    /// Writes the newest frame at the camera's full size, in the format that the extension of
+    /// @p path names. The file appears complete or not at all. False when there is no frame, the
+    /// format is unknown or the file cannot be written.
     bool SaveBitmap(QString path);
+
     void Record(const QString &path);
     void RecordStop();
-    bool IsValidVideoDevice();
-    bool IsValidAudioDevice();
+    bool IsValidVideoDevice(); ///< always false: see above
+    bool IsValidAudioDevice(); ///< a sound source that is no loudspeaker's monitor is there
+
+    /// The sizes the open camera can deliver, "1280x720", largest first.
     QStringList GetResoList();
+
+    /// Reopens the camera in one of its sizes (px); a size it does not have changes nothing. A
+    /// camera that does not come back counts as lost.
     void SetResolution(int width, int height);
 
     // Read by the caller, written by the engine only.
     bool created = false; ///< Create() has opened the camera; false again after Release()
     bool supported = false; ///< capture is possible on this system at all; set by Create()
-    bool videoPresent = false; ///< a camera was found; set by Create()
+    /// A camera was found that can be used; set by Create(). A camera that is busy, forbidden or
+    /// silent counts as none, so that the user is told.
+    bool videoPresent = false;
     int nativeWidth = 0; ///< px, the camera's own picture; valid after Create()
     int nativeHeight = 0; ///< px
 
 Q_SIGNALS:
-    void devicestop();
-    void deviceerr();
-    void disconnectDevice();
+    void devicestop(); ///< the camera was closed, by Release() or by its loss
+    void deviceerr(); ///< the camera could not be opened, or was lost
+    void disconnectDevice(); ///< the open camera was lost; once per loss
 
 public Q_SLOTS:
-    void grab();
-    void RecordMovie();
-    void device();
+    // For the engine's own connections.
+    void grab(); ///< a new picture is ready: have the target repainted
+    void RecordMovie(); ///< the recording is to end: its camera is lost or closed
+    void device(); ///< cameras came or went, or the open one failed: see whether it is lost
 
 private:
     class Private;
