@@ -1,0 +1,40 @@
+#include "CameraFrame.h"
+
+CameraFrame::CameraFrame(GstMiniHandle<GstSample> sample)
+    : m_sample(std::move(sample))
+{
+    GstVideoInfo info;
+    GstBuffer *buffer = gst_sample_get_buffer(m_sample.get());
+    GstCaps *caps = gst_sample_get_caps(m_sample.get());
+    if (buffer && caps && gst_video_info_from_caps(&info, caps))
+        m_mapped = gst_video_frame_map(&m_picture, &info, buffer, GST_MAP_READ);
+}
+
+CameraFrame::~CameraFrame()
+{
+    if (m_mapped)
+        gst_video_frame_unmap(&m_picture);
+}
+
+std::shared_ptr<CameraFrame> CameraFrame::fromSample(GstMiniHandle<GstSample> sample)
+{
+    if (!sample)
+        return nullptr;
+    const std::shared_ptr<CameraFrame> frame(new CameraFrame(std::move(sample)));
+    return frame->m_mapped ? frame : nullptr;
+}
+
+QSize CameraFrame::size() const
+{
+    return {GST_VIDEO_FRAME_WIDTH(&m_picture), GST_VIDEO_FRAME_HEIGHT(&m_picture)};
+}
+
+cv::Mat CameraFrame::view() const
+{
+    const int width = GST_VIDEO_FRAME_COMP_WIDTH(&m_picture, 0);
+    const int bytes = GST_VIDEO_FRAME_COMP_PSTRIDE(&m_picture, 0);
+    // A matrix has no read-only form; nobody writes through this one.
+    return {GST_VIDEO_FRAME_HEIGHT(&m_picture), width, CV_8UC(qBound(1, bytes, 4)),
+            GST_VIDEO_FRAME_PLANE_DATA(&m_picture, 0),
+            size_t(GST_VIDEO_FRAME_PLANE_STRIDE(&m_picture, 0))};
+}

@@ -1,0 +1,113 @@
+#include "CameraPipeline.h"
+
+#include "EngineLog.h"
+
+#include <QVector>
+
+std::unique_ptr<CameraPipeline> CameraPipeline::build(GstObjectHandle<GstElement> source,
+                                                      GstMiniHandle<GstCaps> format,
+                                                      const CameraMode &mode)
+{
+    std::unique_ptr<CameraPipeline> camera(new CameraPipeline);
+    camera->m_mode = mode;
+    if (!source || !format || !camera->assemble(std::move(source), std::move(format)))
+        return nullptr;
+    return camera;
+}
+
+CameraPipeline::~CameraPipeline()
+{
+    close();
+}
+
+static GstElement *makeFilter(GstCaps *format)
+{
+    GstElement *filter = gst_element_factory_make("capsfilter", nullptr);
+    g_object_set(filter, "caps", format, nullptr);
+    return filter;
+}
+
+// A damaged picture is dropped; whether too many are is for the watch over silence to say.
+static GstElement *makeDecoder()
+{
+    GstElement *decoder = gst_element_factory_make("jpegdec", nullptr);
+    if (decoder)
+        g_object_set(decoder, "max-errors", -1, nullptr);
+    return decoder;
+}
+
+// Keeps the newest frame only and never makes the camera wait.
+static GstElement *makeSink()
+{
+    GstElement *sink = gst_element_factory_make("appsink", "frames");
+    const GstMiniHandle<GstCaps> raw(gst_caps_new_empty_simple("video/x-raw"));
+    g_object_set(sink, "caps", raw.get(), "max-buffers", 1U, "drop", TRUE, "sync", FALSE, "async",
+                 FALSE, "enable-last-sample", FALSE, nullptr);
+    return sink;
+}
+
+// Frames are taken as they come, and a node that went away must not be replaced by another camera.
+static void tuneSource(GstElement *source)
+{
+    GObjectClass *type = G_OBJECT_GET_CLASS(source);
+    if (!g_object_class_find_property(type, "stream-properties"))
+        return;
+    const GstStructureHandle stream(
+        gst_structure_new("props", "node.dont-reconnect", G_TYPE_BOOLEAN, TRUE, nullptr));
+    g_object_set(source, "do-timestamp", TRUE, "stream-properties", stream.get(), nullptr);
+}
+
+bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<GstCaps> format)
+{
+    m_pipeline = ownFloating(gst_pipeline_new("camera"));
+    m_bus.reset(gst_element_get_bus(m_pipeline.get()));
+    tuneSource(source.get());
+    QVector<GstElement *> chain{source.get(), makeFilter(format.get())};
+    if (m_mode.coding == CameraMode::Coding::Jpeg)
+        chain.append(makeDecoder());
+    GstElement *tee = gst_element_factory_make("tee", "split");
+    GstElement *sink = makeSink();
+    chain += {tee, sink};
+    bool whole = true;
+    for (GstElement *element : qAsConst(chain))
+        whole = element && gst_bin_add(GST_BIN(m_pipeline.get()), element) && whole;
+    for (int i = 1; whole && i < chain.size(); ++i)
+        whole = gst_element_link(chain.at(i - 1), chain.at(i));
+    if (!whole) {
+        qCWarning(engineLog, "the camera's chain cannot be built");
+        return false;
+    }
+    m_sink.reset(static_cast<GstElement *>(gst_object_ref(sink)));
+    return true;
+}
+
+bool CameraPipeline::play()
+{
+    return gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE;
+}
+
+GstMiniHandle<GstSample> CameraPipeline::nextSample(int milliseconds)
+{
+    return GstMiniHandle<GstSample>(gst_app_sink_try_pull_sample(
+        GST_APP_SINK(m_sink.get()), GstClockTime(milliseconds) * GST_MSECOND));
+}
+
+QString CameraPipeline::failure()
+{
+    const GstMiniHandle<GstMessage> message(
+        gst_bus_pop_filtered(m_bus.get(), GstMessageType(GST_MESSAGE_ERROR | GST_MESSAGE_EOS)));
+    if (!message)
+        return {};
+    if (GST_MESSAGE_TYPE(message.get()) == GST_MESSAGE_EOS)
+        return QStringLiteral("its stream ended");
+    GError *reason = nullptr;
+    gst_message_parse_error(message.get(), &reason, nullptr);
+    const GlibErrorHandle error(reason);
+    return QString::fromUtf8(error->message);
+}
+
+void CameraPipeline::close()
+{
+    if (m_pipeline)
+        gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
+}

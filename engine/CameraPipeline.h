@@ -1,0 +1,57 @@
+#ifndef CAMERAPIPELINE_H
+#define CAMERAPIPELINE_H
+
+#include "CameraMode.h"
+#include "GstHandles.h"
+
+#include <gst/app/gstappsink.h>
+
+#include <QString>
+
+#include <memory>
+
+/**
+ * The chain from one camera to its newest frame:
+ *
+ *   source ! one fixed format ! (JPEG decoder) ! tee ! appsink that keeps one frame
+ *
+ * The format is fixed right behind the source, because a source that is left to choose takes a poor
+ * mode or, on the media server, none at all. A movie's branch joins at the tee.
+ *
+ * Made on the GUI thread, then used by one worker only; play(), close() and destruction may hang
+ * in a driver.
+ */
+class CameraPipeline {
+public:
+    /// Takes over @p source, an element that was just made. Null when the chain cannot be built.
+    static std::unique_ptr<CameraPipeline> build(GstObjectHandle<GstElement> source,
+                                                 GstMiniHandle<GstCaps> format,
+                                                 const CameraMode &mode);
+    ~CameraPipeline();
+    CameraPipeline(const CameraPipeline &) = delete;
+    CameraPipeline &operator=(const CameraPipeline &) = delete;
+
+    const CameraMode &mode() const { return m_mode; }
+
+    /// Starts the camera; false when it refuses at once.
+    bool play();
+
+    /// The next frame, or the newest when several have come; null after @p milliseconds.
+    GstMiniHandle<GstSample> nextSample(int milliseconds);
+
+    /// What ended the camera, empty while it is well.
+    QString failure();
+
+    void close();
+
+private:
+    CameraPipeline() = default;
+    bool assemble(GstObjectHandle<GstElement> source, GstMiniHandle<GstCaps> format);
+
+    CameraMode m_mode;
+    GstObjectHandle<GstElement> m_pipeline;
+    GstObjectHandle<GstBus> m_bus;
+    GstObjectHandle<GstElement> m_sink;
+};
+
+#endif

@@ -1,0 +1,209 @@
+#include "GrabThread.h"
+
+#include "CameraFrame.h"
+#include "CameraPipeline.h"
+#include "EngineLog.h"
+#include "PictureConverter.h"
+
+#include <QElapsedTimer>
+
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+
+static const int closeLimit = 2000; // ms
+static const int pullLimit = 50; // ms; how long a stop may go unnoticed
+static const int picturesUnseen = 3; // in a row, before no more are made
+
+class GrabThread::Private {
+public:
+    enum class State { Opening, Running, Failed };
+
+    // Worker only.
+    std::unique_ptr<CameraPipeline> camera; ///< handed over before the worker starts
+    PictureConverter converter{QImage::Format_RGB32};
+    QImage spare; ///< memory of a picture that was replaced, for the next one
+    quint64 frames = 0;
+    quint64 pictures = 0;
+
+    std::atomic<bool> stop{false};
+
+    /// Guards everything below, and the thread's m_lastFrame and m_picture.
+    mutable std::mutex mutex;
+    std::condition_variable changed; ///< the first frame came, or the camera failed
+    State state = State::Opening;
+    std::shared_ptr<const CameraFrame> frame;
+    QSize pictureSize;
+    bool announced = false; ///< grabtrue() is under way and its picture was not taken yet
+    int unseen = 0; ///< pictures made since one was taken
+};
+
+GrabThread::GrabThread(QObject *parent)
+    : QThread(parent)
+    , d(std::make_unique<Private>())
+{
+    setObjectName(QStringLiteral("grab"));
+}
+
+GrabThread::~GrabThread() = default;
+
+void GrabThread::capture(std::unique_ptr<CameraPipeline> camera)
+{
+    d->camera = std::move(camera);
+    start();
+}
+
+bool GrabThread::waitForFrame(int milliseconds)
+{
+    std::unique_lock<std::mutex> lock(d->mutex);
+    d->changed.wait_for(lock, std::chrono::milliseconds(milliseconds),
+                        [this] { return d->state != Private::State::Opening; });
+    return d->state == Private::State::Running;
+}
+
+bool GrabThread::hasFailed() const
+{
+    const std::lock_guard<std::mutex> lock(d->mutex);
+    return d->state == Private::State::Failed;
+}
+
+void GrabThread::setPictureSize(const QSize &size)
+{
+    const std::lock_guard<std::mutex> lock(d->mutex);
+    if (size == d->pictureSize)
+        return;
+    d->pictureSize = size;
+    d->unseen = 0;
+    m_picture = QImage();
+}
+
+QImage GrabThread::takePicture()
+{
+    std::unique_lock<std::mutex> lock(d->mutex);
+    d->announced = false;
+    d->unseen = 0;
+    if (!m_picture.isNull() || !d->frame || d->pictureSize.isEmpty())
+        return m_picture;
+    const std::shared_ptr<const CameraFrame> frame = d->frame;
+    const QSize size = d->pictureSize;
+    lock.unlock();
+    return PictureConverter(QImage::Format_RGB32).convert(*frame, size);
+}
+
+std::shared_ptr<const CameraFrame> GrabThread::newestFrame() const
+{
+    const std::lock_guard<std::mutex> lock(d->mutex);
+    return d->frame;
+}
+
+void GrabThread::retire(GrabThread *thread)
+{
+    if (!thread)
+        return;
+    thread->disconnect();
+    thread->d->stop = true;
+    // Deletes itself when it ends late; until then nothing refers to it any more.
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    if (thread->wait(closeLimit)) {
+        thread->disconnect();
+        delete thread;
+    } else {
+        qCWarning(engineLog, "the camera does not close; it is left behind");
+    }
+}
+
+void GrabThread::run()
+{
+    if (d->camera->play())
+        grabUntilEnd();
+    else
+        qCInfo(engineLog) << "the camera refuses:" << d->camera->failure();
+    forgetFrames();
+    if (!d->stop) {
+        {
+            const std::lock_guard<std::mutex> lock(d->mutex);
+            d->state = Private::State::Failed;
+            d->changed.notify_all();
+        }
+        Q_EMIT deviceerr();
+    }
+    d->camera.reset(); // may take long, so everybody has been told before
+    qCDebug(engineLog) << d->frames << "frames taken," << d->pictures << "converted";
+}
+
+// A camera that hangs reports nothing: its frames just stop.
+void GrabThread::grabUntilEnd()
+{
+    const double rate = d->camera->mode().rate();
+    const int silenceLimit = qMax(1000, rate > 0 ? int(5000 / rate) : 0); // ms
+    QElapsedTimer silence;
+    silence.start();
+    while (!d->stop) {
+        const std::shared_ptr<CameraFrame> frame =
+            CameraFrame::fromSample(d->camera->nextSample(pullLimit));
+        const QString failure = d->camera->failure();
+        if (!failure.isEmpty()) {
+            qCInfo(engineLog) << "the camera failed:" << failure;
+            return;
+        }
+        if (frame) {
+            silence.start();
+            keepFrame(frame);
+            makePicture(*frame);
+        } else if (d->frames > 0 && silence.elapsed() > silenceLimit) {
+            qCInfo(engineLog) << "no frame for" << silence.elapsed() << "ms";
+            return;
+        }
+    }
+}
+
+void GrabThread::keepFrame(const std::shared_ptr<CameraFrame> &frame)
+{
+    ++d->frames;
+    std::shared_ptr<const CameraFrame> previous = frame;
+    const std::lock_guard<std::mutex> lock(d->mutex);
+    m_lastFrame = frame->view();
+    d->frame.swap(previous);
+    if (d->state == Private::State::Opening) {
+        d->state = Private::State::Running;
+        d->changed.notify_all();
+    }
+}
+
+// Newest wins: a picture that nobody took yet is replaced without a second announcement. When
+// several in a row were not taken (the window is minimised, or the program is busy) none is made
+// until one is.
+void GrabThread::makePicture(const CameraFrame &frame)
+{
+    QSize size;
+    {
+        const std::lock_guard<std::mutex> lock(d->mutex);
+        if (d->pictureSize.isEmpty() || d->unseen >= picturesUnseen)
+            return;
+        size = d->pictureSize;
+    }
+    QImage picture = d->converter.convert(frame, size, std::move(d->spare));
+    ++d->pictures;
+    bool announce = false;
+    {
+        const std::lock_guard<std::mutex> lock(d->mutex);
+        if (size != d->pictureSize)
+            return; // the target changed meanwhile
+        m_picture.swap(picture);
+        ++d->unseen;
+        announce = !d->announced;
+        d->announced = true;
+    }
+    d->spare = std::move(picture);
+    if (announce)
+        Q_EMIT grabtrue();
+}
+
+void GrabThread::forgetFrames()
+{
+    std::shared_ptr<const CameraFrame> last;
+    const std::lock_guard<std::mutex> lock(d->mutex);
+    m_picture = QImage();
+    m_lastFrame = cv::Mat();
+    d->frame.swap(last);
+}
