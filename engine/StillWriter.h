@@ -1,0 +1,12 @@
+#ifndef STILLWRITER_H
+#define STILLWRITER_H
+
+class QImage;
+class QString;
+
+/// Writes @p picture (RGB888) to @p path in the format that the path's extension names. It is
+/// written under a hidden name in the same folder first and takes its own name when it is complete,
+/// so that nobody lists half a picture. False, and nothing left behind, when that fails.
+bool writeStill(const QImage &picture, const QString &path);
+
+#endif
