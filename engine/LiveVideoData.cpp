@@ -1,0 +1,333 @@
+#include "LiveVideoData.h"
+
+#include "CameraFrame.h"
+#include "CameraPipeline.h"
+#include "CapsModes.h"
+#include "DemoCamera.h"
+#include "DeviceList.h"
+#include "DeviceProviders.h"
+#include "EngineLog.h"
+#include "GrabThread.h"
+#include "GstStart.h"
+#include "ModeChooser.h"
+#include "PictureConverter.h"
+#include "StillWriter.h"
+#include "TargetPainter.h"
+
+#include <QElapsedTimer>
+
+static const std::chrono::milliseconds listLimit(1900); // the promise is 2 s
+static const int openLimit = 5000; // ms
+
+/// A listed camera and what opens it.
+struct Camera {
+    ListedDevice listed;
+    GstDeviceHandle device; ///< null for the demonstration camera
+};
+
+class LiveVideoData::Private {
+public:
+    explicit Private(LiveVideoData *engine)
+        : q(engine)
+        , providers([engine] {
+            QMetaObject::invokeMethod(engine, "device", Qt::QueuedConnection);
+        })
+    {
+    }
+
+    static QVector<Camera> listCameras();
+    bool open(const Camera &camera, const QSize &size);
+    void close();
+    void loseCamera();
+    void setShowing(bool on);
+    void followTarget();
+    QVector<CameraMode> modes() const;
+
+    LiveVideoData *q;
+    DeviceProviders providers;
+    TargetPainter painter;
+    QVector<ListedDevice> lastList; ///< what the indices of SetVideoDevice() mean
+    DeviceChoice choice;
+
+    // Of the open camera.
+    GrabThread *thread = nullptr; ///< null while there is none, or it is lost
+    Camera camera;
+    bool showing = false;
+};
+
+static QVector<ListedDevice> devicesOf(const QVector<Camera> &cameras)
+{
+    QVector<ListedDevice> devices;
+    for (const Camera &camera : cameras)
+        devices.append(camera.listed);
+    return devices;
+}
+
+QVector<Camera> LiveVideoData::Private::listCameras()
+{
+    if (!gstreamerIsReady())
+        return {};
+    DeviceProviders::start(listLimit);
+    QVector<DeviceRecord> records;
+    QVector<GstDeviceHandle> handles;
+    const QVector<DeviceProviders::Camera> found = DeviceProviders::cameras();
+    for (const DeviceProviders::Camera &known : found) {
+        records.append(known.record);
+        handles.append(known.device);
+    }
+    if (demoCameraIsWanted()) {
+        records.append(demoCameraRecord());
+        handles.append(nullptr);
+    }
+    QVector<Camera> cameras;
+    const QVector<ListedDevice> devices = listedDevices(records);
+    for (const ListedDevice &device : devices)
+        cameras.append({device, handles.at(device.record)});
+    return cameras;
+}
+
+static std::unique_ptr<CameraPipeline> makePipeline(const Camera &camera, const QSize &size)
+{
+    GstMiniHandle<GstCaps> offered;
+    QVector<CameraMode> modes{demoCameraMode()};
+    if (camera.device) {
+        offered.reset(gst_device_get_caps(camera.device.get()));
+        modes = modesOf(offered.get());
+    } else {
+        offered.reset(gst_caps_new_empty_simple("video/x-raw"));
+    }
+    const int best = bestMode(modes, size);
+    if (best < 0)
+        return nullptr;
+    const CameraMode mode = modes.at(best);
+    qCInfo(engineLog) << camera.listed.name << "in" << mode.format << mode.size() << mode.rate();
+    GstObjectHandle<GstElement> source = camera.device
+        ? ownFloating(gst_device_create_element(camera.device.get(), nullptr))
+        : makeDemoCamera();
+    return CameraPipeline::build(std::move(source), fixedCaps(offered.get(), mode), mode);
+}
+
+bool LiveVideoData::Private::open(const Camera &chosen, const QSize &size)
+{
+    std::unique_ptr<CameraPipeline> pipeline = makePipeline(chosen, size);
+    if (!pipeline)
+        return false;
+    camera = chosen;
+    thread = new GrabThread;
+    connect(thread, &GrabThread::grabtrue, q, &LiveVideoData::grab);
+    connect(thread, &GrabThread::deviceerr, q, &LiveVideoData::device);
+    thread->capture(std::move(pipeline));
+    const bool opened = thread->waitForFrame(openLimit);
+    const std::shared_ptr<const CameraFrame> frame = thread->newestFrame();
+    if (!opened || !frame) {
+        qCInfo(engineLog) << chosen.listed.name << "gives no picture";
+        close();
+        return false;
+    }
+    q->nativeWidth = frame->size().width();
+    q->nativeHeight = frame->size().height();
+    return true;
+}
+
+void LiveVideoData::Private::close()
+{
+    GrabThread::retire(thread);
+    thread = nullptr;
+    camera = {};
+    painter.repaintSoon();
+}
+
+void LiveVideoData::Private::loseCamera()
+{
+    close();
+    showing = false;
+    q->RecordMovie();
+    Q_EMIT q->devicestop();
+    Q_EMIT q->deviceerr();
+    Q_EMIT q->disconnectDevice();
+}
+
+void LiveVideoData::Private::setShowing(bool on)
+{
+    showing = on;
+    followTarget();
+    painter.repaintSoon();
+}
+
+// Tells the worker what is wanted on the screen now: nothing while the target cannot be seen.
+void LiveVideoData::Private::followTarget()
+{
+    if (thread)
+        thread->setPictureSize(showing ? painter.roomFor({q->nativeWidth, q->nativeHeight})
+                                       : QSize());
+}
+
+QVector<CameraMode> LiveVideoData::Private::modes() const
+{
+    if (!thread)
+        return {};
+    if (!camera.device)
+        return {demoCameraMode()};
+    const GstMiniHandle<GstCaps> offered(gst_device_get_caps(camera.device.get()));
+    return modesOf(offered.get());
+}
+
+LiveVideoData::LiveVideoData()
+    : d(std::make_unique<Private>(this))
+{
+    d->painter.setSource([this] { return d->thread ? d->thread->takePicture() : QImage(); });
+    connect(&d->painter, &TargetPainter::roomChanged, this, [this] { d->followTarget(); });
+}
+
+LiveVideoData::~LiveVideoData()
+{
+    d->painter.disconnect(this);
+    GrabThread::retire(d->thread);
+    d->thread = nullptr;
+}
+
+void LiveVideoData::SetTarget(QWidget *target)
+{
+    d->painter.setTarget(target);
+}
+
+QStringList LiveVideoData::GetVideoDeviceList()
+{
+    d->lastList = devicesOf(Private::listCameras());
+    QStringList names;
+    for (const ListedDevice &device : qAsConst(d->lastList))
+        names.append(device.name);
+    return names;
+}
+
+void LiveVideoData::SetVideoDevice(int index)
+{
+    d->choice = choiceOf(d->lastList, index);
+}
+
+void LiveVideoData::Create()
+{
+    if (d->thread)
+        return;
+    created = false;
+    videoPresent = false;
+    nativeWidth = 0;
+    nativeHeight = 0;
+    supported = gstreamerIsReady();
+    if (!supported)
+        return;
+    const QVector<Camera> cameras = Private::listCameras();
+    const QVector<ListedDevice> devices = devicesOf(cameras);
+    const int index = indexOfChoice(devices, d->choice);
+    if (index < 0)
+        return;
+    // From now on the camera is known by what it is, also when nobody chose it.
+    if (d->choice.identity.isEmpty())
+        d->choice = choiceOf(devices, index);
+    created = d->open(cameras.at(index), {});
+    videoPresent = created;
+    if (!created)
+        Q_EMIT deviceerr();
+}
+
+void LiveVideoData::Start()
+{
+    if (d->thread && !d->showing)
+        d->setShowing(true);
+}
+
+void LiveVideoData::Stop()
+{
+    if (d->showing)
+        d->setShowing(false);
+}
+
+void LiveVideoData::Reset()
+{
+    d->followTarget();
+    d->painter.repaintSoon();
+}
+
+void LiveVideoData::Release()
+{
+    if (!created)
+        return;
+    const bool wasOpen = d->thread != nullptr;
+    created = false;
+    d->showing = false;
+    RecordMovie();
+    d->close();
+    if (wasOpen)
+        Q_EMIT devicestop();
+}
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the agreed interface
+bool LiveVideoData::SaveBitmap(QString path)
+{
+    const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
+    if (!frame)
+        return false;
+    PictureConverter converter(QImage::Format_RGB888);
+    return writeStill(converter.convert(*frame, frame->size()), path);
+}
+
+void LiveVideoData::Record(const QString &path)
+{
+    qCWarning(engineLog) << "movies cannot be recorded yet:" << path;
+}
+
+void LiveVideoData::RecordStop()
+{
+    RecordMovie();
+}
+
+bool LiveVideoData::IsValidVideoDevice()
+{
+    return false;
+}
+
+bool LiveVideoData::IsValidAudioDevice()
+{
+    if (!gstreamerIsReady())
+        return false;
+    DeviceProviders::start(listLimit);
+    return DeviceProviders::hasMicrophone();
+}
+
+QStringList LiveVideoData::GetResoList()
+{
+    return resolutionNames(d->modes());
+}
+
+void LiveVideoData::SetResolution(int width, int height)
+{
+    const QSize size(width, height);
+    if (bestMode(d->modes(), size) < 0 || size.isEmpty()
+        || size == QSize(nativeWidth, nativeHeight))
+        return;
+    const Camera camera = d->camera;
+    d->close();
+    if (d->open(camera, size))
+        d->followTarget();
+    else
+        d->loseCamera();
+}
+
+void LiveVideoData::grab()
+{
+    d->painter.repaintSoon();
+}
+
+// No recording can run yet, so there is none to end.
+void LiveVideoData::RecordMovie() { }
+
+void LiveVideoData::device()
+{
+    if (!d->thread)
+        return;
+    const bool unplugged = d->camera.device && !DeviceProviders::contains(d->camera.device);
+    if (unplugged || d->thread->hasFailed()) {
+        qCInfo(engineLog) << d->camera.listed.name << "is lost";
+        d->loseCamera();
+    }
+}
