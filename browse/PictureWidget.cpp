@@ -1,0 +1,120 @@
+#include "PictureWidget.h"
+
+#include "CStretchBitmapButton.h"
+#include "CapturedPicture.h"
+
+#include <QLabel>
+#include <QPainter>
+
+PictureWidget::PictureWidget(QWidget *parent, Qt::WindowFlags f)
+    : QWidget(parent, f)
+    , m_label(new QLabel(tr("Photo"), this))
+{
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, Qt::black);
+    colors.setColor(QPalette::WindowText, Qt::green);
+    setPalette(colors);
+    setAutoFillBackground(true);
+    setAccessibleName(tr("Photo"));
+    setAccessibleDescription(tr("A captured photo"));
+
+    m_label->setPalette(colors);
+    m_label->setAutoFillBackground(true);
+    // The weight, 5 of 99, is meant: the caption is to be as thin as the font has it.
+    m_label->setFont(QFont(QStringLiteral("Arial"), 24, 5, false));
+    m_label->adjustSize();
+}
+
+void PictureWidget::Loadbmp(const QString &name)
+{
+    if (!name.isEmpty())
+        m_fileName = name;
+    m_pixmap = CapturedPicture::load(m_fileName);
+    update();
+}
+
+void PictureWidget::Release()
+{
+    m_pixmap = QPixmap();
+    m_label->hide();
+    m_fileName.clear();
+    update();
+}
+
+void PictureWidget::ZoomMode()
+{
+    setLabelText(QString());
+    createButtons();
+    placeInCorner(m_backButton);
+    m_backButton->show();
+    m_zoomButton->hide();
+    connect(m_backButton, &CStretchBitmapButton::clicked, this, &PictureWidget::OnBack);
+}
+
+void PictureWidget::ListMode()
+{
+    m_label->show();
+    createButtons();
+    placeInCorner(m_zoomButton);
+    m_backButton->hide();
+    m_zoomButton->show();
+    connect(m_zoomButton, &CStretchBitmapButton::clicked, this, &PictureWidget::OnZoom);
+}
+
+void PictureWidget::createButtons()
+{
+    if (!m_zoomButton) {
+        m_zoomButton = new CStretchBitmapButton(tr("Zoom"), this);
+        m_zoomButton->setAccessibleDescription(tr("Shows this photo as large as possible"));
+    }
+    if (!m_backButton) {
+        m_backButton = new CStretchBitmapButton(tr("Back"), this);
+        m_backButton->setAccessibleDescription(tr("Returns to all chosen photos"));
+    }
+}
+
+// Both buttons take the size of "Zoom", so that the corner keeps its shape between the modes.
+void PictureWidget::placeInCorner(QWidget *button) const
+{
+    const QSize size = m_zoomButton->size();
+    button->setGeometry(width() - size.width(), height() - size.height(), size.width(),
+                        size.height());
+}
+
+void PictureWidget::labelVisible(bool b)
+{
+    m_label->setVisible(b);
+}
+
+void PictureWidget::setLabelText(const QString &text)
+{
+    m_label->setText(text);
+    m_label->adjustSize();
+    m_label->show();
+}
+
+QString PictureWidget::labelText() const
+{
+    return m_label->text();
+}
+
+void PictureWidget::OnZoom()
+{
+    Q_EMIT onZoom(this);
+}
+
+void PictureWidget::OnBack()
+{
+    Q_EMIT onBack(this);
+}
+
+void PictureWidget::paintEvent(QPaintEvent * /*event*/)
+{
+    if (m_pixmap.isNull())
+        return;
+    // Scaling in place keeps a strip of nine photos from holding nine full-size pictures.
+    m_pixmap = m_pixmap.scaled(size(), Qt::KeepAspectRatio, Qt::FastTransformation);
+    const int left = static_cast<int>((width() - m_pixmap.width()) * 0.5);
+    const int top = static_cast<int>((height() - m_pixmap.height()) * 0.5);
+    QPainter(this).drawPixmap(left, top, m_pixmap);
+}

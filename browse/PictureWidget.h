@@ -1,0 +1,63 @@
+#ifndef PICTUREWIDGET_H
+#define PICTUREWIDGET_H
+
+#include <QPixmap>
+#include <QWidget>
+
+class CStretchBitmapButton;
+class QLabel;
+
+/**
+ * One captured photo on black, as large as fits, with a caption in its top left corner and "Zoom"
+ * or "Back" in its bottom right one.
+ *
+ * A widget is filled by Loadbmp() and emptied by Release(), any number of times. The picture is
+ * kept in the size it was last painted in; only Loadbmp() brings the full quality back. A file that
+ * cannot be read shows as bare black.
+ */
+class PictureWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit PictureWidget(QWidget *parent, Qt::WindowFlags f = {});
+
+    /// @p name is a bare file name in the temporary area; an empty one loads the same file again.
+    void Loadbmp(const QString &name);
+    void Release();
+
+    /// Shows "Back" and an empty caption. The button is placed for the widget's present size.
+    void ZoomMode();
+    /// Shows "Zoom" and the caption. The button is placed for the widget's present size.
+    void ListMode();
+
+    void labelVisible(bool b);
+    void setLabelText(const QString &text);
+
+    QString fileName() const { return m_fileName; } ///< empty when released
+    QString labelText() const;
+
+Q_SIGNALS:
+    // Each call of ZoomMode() or ListMode() adds one emission to every later click on its button:
+    // receivers are asked once or several times for one click.
+    void onZoom(PictureWidget *pict);
+    void onBack(PictureWidget *pict);
+
+public Q_SLOTS:
+    void OnZoom();
+    void OnBack();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void createButtons();
+    void placeInCorner(QWidget *button) const;
+
+    QString m_fileName;
+    QPixmap m_pixmap;
+    QLabel *m_label = nullptr;
+    CStretchBitmapButton *m_zoomButton = nullptr; ///< null before the first mode
+    CStretchBitmapButton *m_backButton = nullptr; ///< null before the first mode
+};
+
+#endif
