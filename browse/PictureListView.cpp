@@ -1,0 +1,174 @@
+#include "PictureListView.h"
+
+#include "CapturedPicture.h"
+#include "WebcamUtil.h"
+
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr int maximalSelection = 9;
+constexpr int tileSpacing = 10; // px
+
+} // namespace
+
+PictureListView::PictureListView(QWidget *parent)
+    : QListWidget(parent)
+{
+    setViewMode(QListView::IconMode);
+    setMovement(QListView::Static);
+    setSpacing(tileSpacing);
+    setFlow(QListView::TopToBottom);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // A tile with its spacing may be some pixels higher than the strip; it must not bob up and
+    // down.
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            [this] { verticalScrollBar()->setRange(0, 0); });
+    setTextElideMode(Qt::ElideMiddle);
+    setSelectionMode(QAbstractItemView::MultiSelection);
+
+    QPalette colors = palette();
+    colors.setColor(QPalette::Base, Qt::black);
+    // Chosen photos must stand out as well while a button has the focus.
+    colors.setColor(QPalette::Highlight, QColor(0, 120, 215));
+    setPalette(colors);
+    setBackgroundRole(QPalette::Base);
+
+    setAccessibleName(tr("Captured pictures"));
+    setAccessibleDescription(tr("Choose up to nine photos, or one movie"));
+    connect(this, &QListWidget::itemSelectionChanged, this, &PictureListView::selectedItem);
+}
+
+void PictureListView::AddPicture(const QString &name)
+{
+    if (m_itemNames.contains(name))
+        return;
+    if (iconSize().isEmpty())
+        chooseIconSize();
+    const QPixmap picture = CapturedPicture::load(name);
+    const QPixmap thumbnail = picture.isNull()
+        ? picture
+        : picture.scaled(iconSize(), Qt::KeepAspectRatio, Qt::FastTransformation);
+
+    auto *item = new QListWidgetItem(this);
+    item->setBackground(Qt::black);
+    item->setForeground(Qt::white);
+    // Width and height are crossed on purpose: the strip flows downwards, and tiles are as wide as
+    // the strip is high. One tile fills the height, so the next one starts a column.
+    item->setSizeHint(QSize(height(), iconSize().width()));
+    item->setIcon(QIcon(thumbnail));
+    item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    QString text = name;
+    if (m_movieMode)
+        text.replace(QLatin1String("tmp.png"), QLatin1String(".mov"));
+    item->setText(text);
+    m_itemNames.append(name);
+}
+
+void PictureListView::AddPicture(const QStringList &names)
+{
+    for (const QString &name : names)
+        AddPicture(name);
+}
+
+void PictureListView::AddPictureWithSelect(const QString &name)
+{
+    AddPicture(name);
+    m_selectedNames.append(name);
+}
+
+// Two thirds of the strip are picture; a line of text and the scroll bar share the rest.
+void PictureListView::chooseIconSize()
+{
+    const int iconHeight = height() / 3 * 2;
+    setIconSize(QSize(static_cast<int>(iconHeight * 1.3), iconHeight));
+    QFont nameFont = font();
+    nameFont.setPixelSize(qBound(9, height() / 13, 14));
+    setFont(nameFont);
+}
+
+// The whole tile is lit when chosen, not its name alone: that is what the back row can see.
+QStyleOptionViewItem PictureListView::viewOptions() const
+{
+    QStyleOptionViewItem options = QListWidget::viewOptions();
+    options.showDecorationSelected = true;
+    return options;
+}
+
+void PictureListView::UnSelect(const QString &name)
+{
+    m_selectedNames.removeOne(name);
+}
+
+void PictureListView::OnSelect(const QString &name)
+{
+    if (m_selectedNames.contains(name))
+        return;
+    if (m_selectedNames.size() >= maximalSelection) {
+        if (currentItem())
+            currentItem()->setSelected(false);
+        warnOfLimit();
+        return;
+    }
+    QString taken = name;
+    if (m_movieMode) {
+        // A pattern on purpose: its dot stands for any character.
+        taken.replace(QRegularExpression(QStringLiteral(".mov")), QStringLiteral("tmp.png"));
+        m_selectedNames.clear();
+    }
+    m_selectedNames.append(taken);
+    m_lastSelected = taken;
+}
+
+void PictureListView::selectedItem()
+{
+    const bool refused = deselectBeyondLimit();
+    m_selectedNames.clear();
+    const QList<QListWidgetItem *> chosen = selectedItems();
+    for (const QListWidgetItem *item : chosen)
+        OnSelect(item->text());
+    Q_EMIT selectedPhoto();
+    if (refused)
+        warnOfLimit();
+}
+
+// A press or a key selects the current item; a rubber band or "select all" can bring many at once.
+// Returns whether anything had to be refused.
+bool PictureListView::deselectBeyondLimit()
+{
+    if (selectedItems().size() <= maximalSelection)
+        return false;
+    const QSignalBlocker oneSelectionChangeIsEnough(this);
+    if (currentItem())
+        currentItem()->setSelected(false);
+    const QList<QListWidgetItem *> chosen = selectedItems();
+    for (int i = maximalSelection; i < chosen.size(); ++i)
+        chosen[i]->setSelected(false);
+    return true;
+}
+
+void PictureListView::warnOfLimit()
+{
+    WebcamUtil::WarningMessage(tr("You can not select 10 or more."), this);
+}
+
+void PictureListView::setMovieMode(bool b)
+{
+    m_movieMode = b;
+    setSelectionMode(b ? QAbstractItemView::SingleSelection : QAbstractItemView::MultiSelection);
+}
+
+void PictureListView::setPictSize(const QSize &size)
+{
+    setIconSize(size);
+}
+
+void PictureListView::Release()
+{
+    clear();
+    m_selectedNames.clear();
+    m_itemNames.clear();
+    hide();
+}
