@@ -1,0 +1,40 @@
+#ifndef MOVIEWIDGET_H
+#define MOVIEWIDGET_H
+
+#include <phonon/videoplayer.h>
+
+class QLabel;
+
+/**
+ * Plays a recorded movie: the media player with a caption and the few operations that the buttons
+ * "Play", "Pause" and "Stop" need. Pausing and the end of a movie are the player's own pause() and
+ * finished().
+ *
+ * One widget plays one movie after the other. A movie that cannot be played is not reported: the
+ * player stays silent and black, and counts as complete.
+ */
+class MovieWidget : public Phonon::VideoPlayer {
+    Q_OBJECT
+
+public:
+    explicit MovieWidget(QWidget *parent);
+
+    bool isCreated() const { return m_created; } ///< a movie has been given at least once
+
+public Q_SLOTS:
+    /// Loads the movie at the absolute path @p filename; playback waits for Play(). Always true,
+    /// also for a file that does not exist.
+    bool Create(const QString &filename);
+    void Release(); ///< nothing to do; the viewers are all released alike
+    void Play(); ///< starts or resumes; does nothing while playing
+    void Stop();
+    void Reset(); ///< plays from the beginning
+    /// Whether the movie has been played to its end, or none is loaded.
+    bool isComplete();
+
+private:
+    bool m_created = false;
+    QLabel *m_label = nullptr;
+};
+
+#endif

@@ -1,0 +1,212 @@
+#include "MovieWidget.h"
+
+#include <QLabel>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <phonon/mediaobject.h>
+
+namespace {
+
+constexpr int movieMs = 2500;
+constexpr int patienceMs = 10000;
+
+/// Where the player is, for a readable failure.
+QByteArray position(const MovieWidget &player)
+{
+    return QByteArray::number(player.currentTime()) + " of "
+        + QByteArray::number(player.totalTime());
+}
+
+} // namespace
+
+/// Plays a short movie for real. It is silent: no sound device is needed.
+class TestMovieWidget : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void aFreshWidgetIsComplete();
+    void creatingSucceedsForAMissingFileToo();
+    void theCaptionIsThinGreenInTheCorner();
+    void theCaptionStaysAboveThePicture();
+    void aMovieWaitsForPlay();
+    void playingRunsToItsEndAndIsThenComplete();
+    void playWhilePlayingLeavesPlaybackWhereItIs();
+    void playResumesWherePauseStopped();
+    void resetPlaysFromTheBeginning();
+    void stopEndsPlayback();
+    void anUnplayableFileCountsAsComplete();
+    void oneWidgetPlaysOneMovieAfterTheOther();
+
+private:
+    QTemporaryDir m_folder;
+    QString m_movie;
+};
+
+void TestMovieWidget::initTestCase()
+{
+    // The only picture output that fills the widget on every desktop; the program sets it too.
+    qputenv("PHONON_GST_VIDEOMODE", "software");
+    m_movie = m_folder.filePath("movie 100%#1.mov");
+    const QString frames = QString::number(movieMs * 20 / 1000);
+    QProcess recorder;
+    recorder.start("gst-launch-1.0",
+                   {"-q", "videotestsrc", "num-buffers=" + frames, "!",
+                    "video/x-raw,format=I420,width=160,height=120,framerate=20/1", "!", "x264enc",
+                    "tune=zerolatency", "key-int-max=10", "!", "qtmux", "!", "filesink",
+                    "location=" + m_movie});
+    QVERIFY(recorder.waitForFinished(30000));
+    QVERIFY2(recorder.exitCode() == 0, recorder.readAllStandardError().constData());
+}
+
+void TestMovieWidget::aFreshWidgetIsComplete()
+{
+    MovieWidget player(nullptr);
+    QVERIFY(player.isComplete());
+    QVERIFY(!player.isCreated());
+}
+
+void TestMovieWidget::creatingSucceedsForAMissingFileToo()
+{
+    MovieWidget player(nullptr);
+    QVERIFY(player.Create("/no/such/movie.mov"));
+    QVERIFY(player.isCreated());
+}
+
+void TestMovieWidget::theCaptionIsThinGreenInTheCorner()
+{
+    const MovieWidget player(nullptr);
+    const auto *label = player.findChild<QLabel *>();
+    QCOMPARE(label->text(), QString("Movie"));
+    QCOMPARE(label->pos(), QPoint(0, 0));
+    QCOMPARE(label->size(), label->sizeHint());
+    QCOMPARE(label->font().family(), QString("Arial"));
+    QCOMPARE(label->font().pointSize(), 24);
+    QCOMPARE(label->font().weight(), 5);
+    QVERIFY(!label->autoFillBackground());
+    for (const QPalette &colors : {player.palette(), label->palette()}) {
+        for (auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            QCOMPARE(colors.color(group, QPalette::Window), QColor(Qt::black));
+            QCOMPARE(colors.color(group, QPalette::WindowText), QColor(Qt::green));
+        }
+    }
+}
+
+void TestMovieWidget::theCaptionStaysAboveThePicture()
+{
+    MovieWidget player(nullptr);
+    player.resize(320, 240);
+    player.Create(m_movie);
+    player.show();
+    player.Play();
+    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 0, patienceMs);
+    const auto *label = player.findChild<QLabel *>();
+    QCOMPARE(player.childAt(label->geometry().center()), label);
+}
+
+void TestMovieWidget::aMovieWaitsForPlay()
+{
+    MovieWidget player(nullptr);
+    player.Create(m_movie);
+    QTRY_VERIFY_WITH_TIMEOUT(player.mediaObject()->state() == Phonon::StoppedState, patienceMs);
+    QVERIFY(!player.isPlaying());
+}
+
+void TestMovieWidget::playingRunsToItsEndAndIsThenComplete()
+{
+    MovieWidget player(nullptr);
+    QSignalSpy finished(&player, &MovieWidget::finished);
+    player.Create(m_movie);
+    player.Play();
+    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.totalTime() > 0, patienceMs);
+    QVERIFY2(!player.isComplete(), position(player).constData());
+    QVERIFY2(qAbs(player.totalTime() - movieMs) < 200, position(player).constData());
+    QVERIFY(finished.wait(patienceMs));
+    QVERIFY2(player.isComplete(), position(player).constData());
+}
+
+void TestMovieWidget::playWhilePlayingLeavesPlaybackWhereItIs()
+{
+    MovieWidget player(nullptr);
+    player.Create(m_movie);
+    player.Play();
+    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 1000, patienceMs);
+    const QSignalSpy changed(player.mediaObject(), &Phonon::MediaObject::stateChanged);
+    const qint64 before = player.currentTime();
+    player.Play();
+    QVERIFY(player.isPlaying());
+    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > before + 300, patienceMs);
+    QCOMPARE(changed.count(), 0);
+}
+
+void TestMovieWidget::playResumesWherePauseStopped()
+{
+    MovieWidget player(nullptr);
+    player.Create(m_movie);
+    player.Play();
+    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 1000, patienceMs);
+    player.pause();
+    QTRY_VERIFY_WITH_TIMEOUT(player.isPaused(), patienceMs);
+    QVERIFY2(!player.isComplete(), position(player).constData());
+    const qint64 paused = player.currentTime();
+    player.Play();
+    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying(), patienceMs);
+    QVERIFY2(player.currentTime() >= paused, position(player).constData());
+}
+
+void TestMovieWidget::resetPlaysFromTheBeginning()
+{
+    MovieWidget player(nullptr);
+    player.Create(m_movie);
+    player.Play();
+    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 1500, patienceMs);
+    player.Reset();
+    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.currentTime() < 1000, patienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 1000, patienceMs);
+}
+
+void TestMovieWidget::stopEndsPlayback()
+{
+    MovieWidget player(nullptr);
+    player.Create(m_movie);
+    player.Play();
+    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 300, patienceMs);
+    player.Release();
+    QVERIFY(player.isPlaying());
+    player.Stop();
+    QTRY_VERIFY_WITH_TIMEOUT(!player.isPlaying() && !player.isPaused(), patienceMs);
+}
+
+void TestMovieWidget::anUnplayableFileCountsAsComplete()
+{
+    const QString path = m_folder.filePath("movie2.mov");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no movie at all") > 0);
+    file.close();
+    MovieWidget player(nullptr);
+    player.Create(path);
+    player.Play();
+    // Whether the player calls this an error or just stops is its own affair.
+    QTRY_VERIFY_WITH_TIMEOUT(player.mediaObject()->state() != Phonon::LoadingState, patienceMs);
+    QVERIFY(!player.isPlaying());
+    QVERIFY2(player.isComplete(), position(player).constData());
+}
+
+void TestMovieWidget::oneWidgetPlaysOneMovieAfterTheOther()
+{
+    const QString second = m_folder.filePath("movie3.mov");
+    QVERIFY(QFile::copy(m_movie, second));
+    MovieWidget player(nullptr);
+    for (const QString &path : {m_movie, second}) {
+        player.Create(path);
+        player.Play();
+        QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.currentTime() > 100, patienceMs);
+        player.Stop();
+    }
+}
+
+QTEST_MAIN(TestMovieWidget)
+#include "tst_moviewidget.moc"
