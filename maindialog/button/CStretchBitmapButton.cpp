@@ -51,6 +51,8 @@ void CStretchBitmapButton::createCaption()
     colors.setColor(QPalette::WindowText, captionColor);
     colors.setColor(QPalette::Disabled, QPalette::WindowText, disabledCaptionColor);
     m_caption->setPalette(colors);
+    // A label on a push button would otherwise be drawn in the button's own text colour.
+    m_caption->setForegroundRole(QPalette::WindowText);
 
     // The bitmap alone decides how large the button is: a long caption neither widens its column
     // nor holds the button open. Presses go through the labels to the button.

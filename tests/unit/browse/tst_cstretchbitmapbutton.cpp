@@ -67,7 +67,8 @@ private slots:
     void aRightToLeftLanguageLeavesThePictureAsItIs();
     void assistiveToolsHearTheCaptionOnOneLine_data();
     void assistiveToolsHearTheCaptionOnOneLine();
-    void aDisabledCaptionIsDimmer();
+    void captionsAreWhiteAndDimmerWhenDisabled_data();
+    void captionsAreWhiteAndDimmerWhenDisabled();
     void tabReachesTheButtonAndSpacePressesIt();
     void onlyTheKeyboardFocusIsMarked();
 };
@@ -266,15 +267,38 @@ void TestCStretchBitmapButton::assistiveToolsHearTheCaptionOnOneLine()
     QTEST(stage.button->accessibleName(), "spoken");
 }
 
-void TestCStretchBitmapButton::aDisabledCaptionIsDimmer()
+void TestCStretchBitmapButton::captionsAreWhiteAndDimmerWhenDisabled_data()
 {
-    const Stage stage("Small");
-    const QPalette colors = stage.caption()->palette();
-    const QColor &enabled = colors.color(QPalette::Active, QPalette::WindowText);
-    const QColor &disabled = colors.color(QPalette::Disabled, QPalette::WindowText);
-    QCOMPARE(enabled, QColor(Qt::white));
-    QCOMPARE(colors.color(QPalette::Inactive, QPalette::WindowText), enabled);
-    QVERIFY(disabled.value() < enabled.value() * 2 / 3);
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<int>("brightest");
+    QTest::addColumn<int>("dimmest");
+    QTest::newRow("enabled") << true << 255 << 220;
+    QTest::newRow("disabled") << false << 160 << 110;
+}
+
+void TestCStretchBitmapButton::captionsAreWhiteAndDimmerWhenDisabled()
+{
+    QFETCH(bool, enabled);
+    QFETCH(int, brightest);
+    QFETCH(int, dimmest);
+    Stage stage("NoSuchName"); // no bitmap: the caption is all there is, on black
+    QPalette colors;
+    for (auto role : {QPalette::Window, QPalette::WindowText, QPalette::ButtonText})
+        colors.setColor(role, Qt::black);
+    stage.window.setPalette(colors);
+    stage.button->setGeometry(0, 0, 200, 60);
+    stage.button->setCaptionText("HHHHH");
+    stage.button->setEnabled(enabled);
+    stage.open();
+
+    const QImage shown = stage.window.grab(QRect(0, 0, 200, 60)).toImage();
+    int lightest = 0;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x)
+            lightest = qMax(lightest, qGray(shown.pixel(x, y)));
+    }
+    QVERIFY2(lightest <= brightest && lightest >= dimmest,
+             QByteArray::number(lightest).constData());
 }
 
 void TestCStretchBitmapButton::tabReachesTheButtonAndSpacePressesIt()
