@@ -28,8 +28,7 @@ QString textProperty(Display *display, ::Window window, const char *name)
     XGetWindowProperty(display, window, XInternAtom(display, name, False), 0, maximumItems, False,
                        XInternAtom(display, "UTF8_STRING", False), &type, &format, &count, &left,
                        &data);
-    const QString text =
-        data ? QString::fromUtf8(reinterpret_cast<char *>(data), int(count)) : QString();
+    QString text = data ? QString::fromUtf8(reinterpret_cast<char *>(data), int(count)) : QString();
     if (data) {
         XFree(data);
     }

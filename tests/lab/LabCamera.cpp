@@ -101,6 +101,7 @@ LabCamera::LabCamera(Options options)
 
 LabCamera::~LabCamera()
 {
+    m_beep.reset();
     if (m_stream) {
         pw_stream_destroy(m_stream);
     }
@@ -110,6 +111,9 @@ LabCamera::~LabCamera()
 int LabCamera::run()
 {
     connectStream();
+    if (!m_options.beepSink.empty()) {
+        m_beep = std::make_unique<LabBeep>(pw_main_loop_get_loop(m_loop), m_options.beepSink);
+    }
     pw_main_loop_run(m_loop);
     return m_announced ? 0 : 1;
 }
@@ -219,6 +223,19 @@ void LabCamera::sendFrame()
         pw_stream_queue_buffer(m_stream, buffer);
     }
     ++m_counter;
+    announceBeat();
+}
+
+// Half a beat ahead, when the last tone is over.
+void LabCamera::announceBeat()
+{
+    using LabPattern::beatFrames;
+    const quint32 framesToGo = beatFrames - m_counter % beatFrames;
+    if (m_beep && framesToGo == beatFrames / 2) {
+        // The frame just sent was the one before m_counter.
+        m_beep->setNextBeat(nanosecondsNow()
+                            + qint64(framesToGo + 1) * 1000000000 / m_options.rate);
+    }
 }
 
 void LabCamera::fill(pw_buffer *buffer)

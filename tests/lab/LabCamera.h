@@ -2,6 +2,7 @@
 #define LABCAMERA_H
 
 #include "FramePainter.h"
+#include "LabBeep.h"
 
 #include <memory>
 #include <string>
@@ -21,6 +22,8 @@ struct spa_source;
 // buffers to itself therefore sees a gap, and so does one that is too slow; a receiver that keeps
 // up sees every number once. A freeze stops the counter too.
 //
+// With a sink for its sound, a tone (LabBeep) begins with every 60th frame.
+//
 // Everything runs on the thread that calls run().
 class LabCamera {
 public:
@@ -31,6 +34,7 @@ public:
         std::vector<QSize> sizes;
         FramePainter::Format format = FramePainter::UYVY;
         int rate = 30;
+        std::string beepSink; // empty: no sound
     };
 
     explicit LabCamera(Options options);
@@ -52,6 +56,7 @@ private:
     void tick();
     void sendFrame();
     void fill(pw_buffer *buffer);
+    void announceBeat();
 
     friend struct LabCameraEvents;
 
@@ -62,6 +67,8 @@ private:
     pw_main_loop *m_loop = nullptr;
     pw_stream *m_stream = nullptr;
     spa_source *m_timer = nullptr;
+
+    std::unique_ptr<LabBeep> m_beep; // null without a sink
 
     bool m_streaming = false;
     bool m_frozen = false;

@@ -24,6 +24,7 @@ namespace LabPattern {
 constexpr int barCount = 8;
 constexpr int cellCount = 24;
 constexpr int counterBits = 20;
+constexpr quint32 beatFrames = 60; // a camera with sound begins a tone with every 60th frame
 constexpr int blockSteps = 120; // frames that the moving block takes from left to right
 
 // Every row between two neighbouring edges looks the same.

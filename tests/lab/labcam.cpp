@@ -2,7 +2,7 @@
 // it in and out.
 //
 //   labcam --name NAME --size WIDTHxHEIGHT [--size ...] [--rate 30] [--format UYVY] [--serial S]
-//          [--description TEXT]
+//          [--description TEXT] [--beep SINK]
 
 #include "LabCamera.h"
 
@@ -40,6 +40,8 @@ bool setOption(const std::string &option, const std::string &value, LabCamera::O
         options->description = value;
     } else if (option == "--serial") {
         options->serial = value;
+    } else if (option == "--beep") {
+        options->beepSink = value;
     } else if (option == "--size") {
         return addSize(value, options);
     } else if (option == "--rate") {

@@ -15,15 +15,18 @@ namespace {
 // A plain receiver of one camera of the lab.
 class Receiver {
 public:
-    explicit Receiver(const QString &camera, const QString &decoding = "video/x-raw")
+    explicit Receiver(const QString &camera, const QString &decoding = "video/x-raw",
+                      const QString &beside = QString())
         : m_pipeline(gst_parse_launch(
-            QStringLiteral("pipewiresrc target-object=%1 do-timestamp=true ! %2 ! "
-                           "videoconvert ! video/x-raw,format=BGRx ! appsink name=sink sync=false")
-                .arg(camera, decoding)
+            QStringLiteral(
+                "pipewiresrc target-object=%1 do-timestamp=true ! %2 ! "
+                "videoconvert ! video/x-raw,format=BGRx ! appsink name=sink sync=false %3")
+                .arg(camera, decoding, beside)
                 .toUtf8()
                 .constData(),
             nullptr))
         , m_sink(gst_bin_get_by_name(GST_BIN(m_pipeline), "sink"))
+        , m_sound(gst_bin_get_by_name(GST_BIN(m_pipeline), "sound"))
     {
         gst_element_set_state(m_pipeline, GST_STATE_PLAYING);
     }
@@ -32,6 +35,7 @@ public:
     {
         gst_element_set_state(m_pipeline, GST_STATE_NULL);
         gst_object_unref(m_sink);
+        g_clear_pointer(&m_sound, gst_object_unref);
         gst_object_unref(m_pipeline);
     }
 
@@ -46,6 +50,7 @@ public:
         if (!sample) {
             return {};
         }
+        m_lastTime = double(GST_BUFFER_PTS(gst_sample_get_buffer(sample))) / GST_SECOND;
         GstVideoInfo info;
         gst_video_info_from_caps(&info, gst_sample_get_caps(sample));
         GstMapInfo map;
@@ -55,6 +60,35 @@ public:
         gst_buffer_unmap(gst_sample_get_buffer(sample), &map);
         gst_sample_unref(sample);
         return picture;
+    }
+
+    // When the last frame was taken, in seconds of the pipeline.
+    double lastTime() const { return m_lastTime; }
+
+    // Listens to the next piece of sound and appends where a tone begins in it; false when no
+    // sound comes.
+    bool nextToneBegin(bool *silent, QVector<double> *begins)
+    {
+        GstSample *sample = gst_app_sink_try_pull_sample(GST_APP_SINK(m_sound), 2 * GST_SECOND);
+        if (!sample) {
+            return false;
+        }
+        GstBuffer *buffer = gst_sample_get_buffer(sample);
+        GstMapInfo map;
+        gst_buffer_map(buffer, &map, GST_MAP_READ);
+        const auto *samples = reinterpret_cast<const qint16 *>(map.data);
+        int quiet = 0;
+        for (gsize i = 0; i < map.size / sizeof(qint16); ++i) {
+            const bool loud = qAbs(int(samples[i])) > 2000;
+            if (loud && *silent) {
+                begins->append(double(GST_BUFFER_PTS(buffer)) / GST_SECOND + double(i) / 48000);
+            }
+            quiet = loud ? 0 : quiet + 1;
+            *silent = !loud && (*silent || quiet > 100);
+        }
+        gst_buffer_unmap(buffer, &map);
+        gst_sample_unref(sample);
+        return true;
     }
 
     QVector<int> counters(int frames)
@@ -69,6 +103,8 @@ public:
 private:
     GstElement *m_pipeline;
     GstElement *m_sink;
+    GstElement *m_sound; // null without a microphone
+    double m_lastTime = 0;
 };
 
 int labctl(const QStringList &arguments)
@@ -110,6 +146,7 @@ private slots:
     void receiversThatComeAndGoDoNotDisturbTheOthers();
     void aFrozenCameraSendsNothingAndGoesOnLater();
     void aCameraCanBePulledOutAndPluggedInAgain();
+    void theToneIsHeardWhenItsFrameIsSeen();
     void theMicrophoneCanBePulledOutAndPluggedInAgain();
     void theDesktopHasAWindowManager();
 };
@@ -236,6 +273,31 @@ void TestLab::aCameraCanBePulledOutAndPluggedInAgain()
     QCOMPARE(outputOf("labctl", {"list"}), QString("cam1\ncam2"));
     Receiver receiver("cam2");
     QCOMPARE(receiver.next(5000).size(), QSize(640, 480));
+}
+
+void TestLab::theToneIsHeardWhenItsFrameIsSeen()
+{
+    QCOMPARE(labctl({"plug", "beeper", "640x480", "--beep", "micfeed"}), 0);
+    Receiver receiver(
+        "beeper", "video/x-raw",
+        "pulsesrc provide-clock=false ! audio/x-raw,format=S16LE,rate=48000,channels=1"
+        " ! appsink name=sound sync=false");
+    QVector<double> seen;
+    QVector<double> heard;
+    bool silent = true;
+    while (seen.size() < 2) {
+        const QImage picture = receiver.next(5000);
+        QVERIFY(!picture.isNull());
+        if (LabPattern::counterOf(picture) % int(LabPattern::beatFrames) == 0) {
+            seen.append(receiver.lastTime());
+        }
+    }
+    while (heard.isEmpty() || heard.last() < seen.last() - 0.5) {
+        QVERIFY(receiver.nextToneBegin(&silent, &heard));
+    }
+    QCOMPARE(labctl({"unplug", "beeper"}), 0);
+    const double offset = heard.last() - seen.last();
+    QVERIFY2(qAbs(offset) < 0.05, qPrintable(QString::number(offset)));
 }
 
 void TestLab::theMicrophoneCanBePulledOutAndPluggedInAgain()
