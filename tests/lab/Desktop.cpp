@@ -1,6 +1,7 @@
 #include "Desktop.h"
 
 #include <QColor>
+#include <QTest>
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -11,6 +12,7 @@ namespace {
 
 constexpr unsigned leftButton = 1;
 constexpr long maximumItems = 4096;
+constexpr int fingerTime = 25; // ms
 
 // Windows of other programs may vanish between two requests; that is no reason to end.
 int ignoreError(Display *, XErrorEvent *)
@@ -203,7 +205,9 @@ void Desktop::releaseMouse() const
 void Desktop::click(QPoint at) const
 {
     pressMouse(at);
+    QTest::qWait(fingerTime);
     releaseMouse();
+    QTest::qWait(fingerTime);
 }
 
 void Desktop::pressKey(const char *name) const

@@ -48,6 +48,8 @@ public:
     void moveMouse(QPoint to) const;
     void pressMouse(QPoint at) const;
     void releaseMouse() const;
+    // As long as a finger takes: window managers hold the mouse back for a moment at each press,
+    // and lose clicks that no hand could make.
     void click(QPoint at) const;
     // A key by its X name: "Tab", "space", "Return", "Escape", "a".
     void pressKey(const char *name) const;
