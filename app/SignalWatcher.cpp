@@ -1,0 +1,68 @@
+#include "SignalWatcher.h"
+
+#include <QSocketNotifier>
+
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+// A signal handler may do next to nothing; writing a byte into a pipe is allowed.
+int writeEnd = -1;
+
+void passOn(int)
+{
+    const int interrupted = errno;
+    const char byte = 0;
+    // The pipe is never full: each of the two signals is passed on once.
+    [[maybe_unused]] const ssize_t written = write(writeEnd, &byte, 1);
+    errno = interrupted;
+}
+
+void handleWith(void (*handler)(int))
+{
+    struct sigaction action = {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART | SA_RESETHAND;
+    sigemptyset(&action.sa_mask);
+    sigaction(SIGTERM, &action, nullptr);
+    sigaction(SIGINT, &action, nullptr);
+}
+
+} // namespace
+
+SignalWatcher::SignalWatcher(QObject *parent)
+    : QObject(parent)
+{
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) {
+        return;
+    }
+    m_readEnd = ends[0];
+    writeEnd = ends[1];
+    m_notifier = std::make_unique<QSocketNotifier>(m_readEnd, QSocketNotifier::Read);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &SignalWatcher::drain);
+    handleWith(passOn);
+}
+
+SignalWatcher::~SignalWatcher()
+{
+    if (m_readEnd < 0) {
+        return;
+    }
+    handleWith(SIG_DFL);
+    m_notifier.reset();
+    close(m_readEnd);
+    close(writeEnd);
+    writeEnd = -1;
+}
+
+void SignalWatcher::drain()
+{
+    char byte = 0;
+    if (read(m_readEnd, &byte, 1) == 1) {
+        emit terminationRequested();
+    }
+}
