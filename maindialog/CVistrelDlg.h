@@ -1,0 +1,252 @@
+#ifndef CVISTRELDLG_H
+#define CVISTRELDLG_H
+
+#include "CWindowManagement.h"
+#include "DialogGeometry.h"
+#include "DisplayMode.h"
+
+#include <QRect>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+#include <QWidget>
+
+#include <array>
+#include <initializer_list>
+
+class CStretchBitmapButton;
+class LiveVideoWidget;
+class MovieWidget;
+class PictureListView;
+class PictureWidget;
+class QSound;
+class Setting;
+class TimerWidget;
+
+/**
+ * The program's one window: frameless, as large as the screen's free area, the live picture above a
+ * row of large buttons. It is the hub: each button's slot is one flow, written in the .cpp file
+ * that heads its section below. A flow calls the views and the store and ends by switching the
+ * screen with TransitionMode().
+ *
+ * Lives on the GUI thread. Children belong to the window; the live view alone is deleted by hand,
+ * when the window closes. The window keeps itself in front of other windows until the first modal
+ * box (CWindowManagement).
+ */
+class CVistrelDlg : public QWidget, public CWindowManagement {
+    Q_OBJECT
+
+public:
+    // --- CVistrelDlg.cpp: construction -----------------------------------------------------
+    /// Builds everything and opens the camera. Without a chosen camera (isDeviceSelected() is
+    /// false) the construction stops half way and the window is only fit for destruction.
+    explicit CVistrelDlg(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
+    ~CVistrelDlg() override;
+
+    /// False when several cameras are attached and the chooser was closed without a choice.
+    bool isDeviceSelected() const { return m_deviceSelected; }
+    /// The screen shown; may hold a value without a name, see DisplayMode.
+    DisplayMode displayMode() const { return m_displayMode; }
+    /// No usable camera, or too little space to save: the live screen keeps the capture dead.
+    bool hasError() const { return m_error; }
+    /// Area of the live picture and of movies; its size goes into the hand-over file.
+    QRect videoRect() const { return m_videoRect; }
+
+    /// Keeps the window in front again, looking every @p msec milliseconds.
+    void start_window(int msec);
+    /// Called by every flow before a modal box, which would be pushed behind the window.
+    void stop_window();
+
+    // --- DisplayModes.cpp: the screens -----------------------------------------------------
+    /// Switches to @p mode's screen and remembers it, whatever its value.
+    void TransitionMode(DisplayMode mode);
+    void SetLiveMode();
+    void SetMovieMode();
+    void SetPhotoMode();
+    void SetLivePhotoMode();
+    void SetListMode();
+    void SetPhotSeqMode();
+    void setLivemodeButtonEnabled();
+    void setMovieModeButton();
+    void setPhotoModeButtonEnabled();
+    void setLivePhotoModeButtonEnabled();
+    void setListButton();
+    void setShowModeButton();
+    /// With the error flag set: only what browses stays enabled. Does nothing otherwise.
+    void setErrModeButtonEnable();
+    /// Puts @p button into the row at left edge @p x and returns the next cell's left edge (px).
+    double setButtonX(CStretchBitmapButton *button, double x);
+    /// Hides the row and "Settings"; "Close" stays, so that there is always a way out.
+    void hideAllButton();
+    /// Sets the enabled state of all but "Close" and "Back" (despite its name, to @p enabled).
+    void disableAllButton(bool enabled);
+    void allWidgethide();
+    /// Blocks the signals of the sixteen buttons from "Live" to "Back". No flow needs it.
+    void SignalBlockAll(bool block);
+
+    // --- BrowsingFlow.cpp ------------------------------------------------------------------
+    /// Lays out a numbered tile for each photo of @p names (bare names in the temporary area).
+    void SetPictureListMode(const QStringList &names);
+    /// Destroys all tiles.
+    void hiddenPictList();
+
+    // --- DeviceFlow.cpp --------------------------------------------------------------------
+    /// Lets the user choose among several cameras. False: the chooser was closed without a choice.
+    bool selectVideoDevice();
+    /// Reports a camera or microphone that is missing at start. Called once, after showing.
+    void chkdevice();
+
+    // --- SettingsFlow.cpp ------------------------------------------------------------------
+    /// Copies the settings dialog's controls into the window.
+    void GetSetting();
+
+    // --- HandOver.cpp ----------------------------------------------------------------------
+    void setTVSButton();
+    /// @p path is the folder of the program, without a trailing slash; "photo.wav" in it becomes
+    /// the shutter sound.
+    void SetPluginPath(const QString &path);
+
+Q_SIGNALS:
+    void comp(bool ret); ///< declared for the window's users; nothing emits it
+
+public Q_SLOTS:
+    // One slot a button or view signal; sorted as the window's users know them.
+    void OnClose();
+    void OnLive();
+    void OnPhoto();
+    void OnAply();
+    void OnRecord();
+    void OnMovieStop();
+    void OnMoviePlay();
+    void OnMoviePause();
+    void OnRetake();
+    void OnPhotSeq();
+    void OnShot();
+    void OnList();
+    void OnPictureList();
+    void OnShow();
+    void PictureSelected();
+    void OnSettingDlg();
+    void OnZoom(PictureWidget *pict);
+    void OnBack(PictureWidget *pict);
+    void PutTVSMovie();
+    void PutTVSPhoto();
+    void OnTVS();
+    void isPutCompeate();
+    void setMovieTime();
+    void OnMovieFinished();
+    void OnMovieChange();
+    void OnPhotoChange();
+    void changeNodevicemode();
+
+protected:
+    // --- ClosingFlow.cpp -------------------------------------------------------------------
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    // --- CVistrelDlg.cpp: construction -----------------------------------------------------
+    enum Button {
+        LiveButton,
+        PhotoButton,
+        PhotoMultiButton,
+        MovieButton,
+        MovieStopButton,
+        ListButton,
+        SettingsButton,
+        CloseButton,
+        ApplyButton,
+        RetryButton,
+        MoviePlayButton,
+        MoviePauseButton,
+        ShowButton,
+        SwitchPhotoButton,
+        SwitchMovieButton,
+        BackButton,
+        PutPhotoButton,
+        PutMovieButton,
+        ButtonCount
+    };
+    struct ButtonRow; // the table in CVistrelDlg.cpp
+
+    static const std::array<ButtonRow, ButtonCount> &buttonTable();
+    CStretchBitmapButton *button(Button which) const { return m_buttons[which]; }
+    void InitialVal();
+    void setThisPropaty();
+    void readScreen();
+    void SetButtonInstance();
+    void createButton(Button which);
+    void placeSmallButtons();
+    void SetButtonCaptionText();
+    void SetChildInstance();
+    void setWindowLook();
+    void openCamera();
+    void SetBaseRect();
+    void SetLocalConnect();
+    void connectButton(Button which);
+    void copyDevicePresence();
+
+    std::array<CStretchBitmapButton *, ButtonCount> m_buttons{};
+    LiveVideoWidget *m_liveView = nullptr; ///< null once the window has closed
+    MovieWidget *m_movieView = nullptr;
+    PictureWidget *m_pictureView = nullptr;
+    TimerWidget *m_timerWidget = nullptr;
+    PictureListView *m_pictureList = nullptr;
+    Setting *m_settings = nullptr;
+    QRect m_screen; ///< px, the free area of the default screen
+    DialogGeometry m_geometry;
+    QRect m_videoRect;
+    QRect m_halfScreenRect;
+
+    // --- DisplayModes.cpp ------------------------------------------------------------------
+    struct RowCell {
+        Button button;
+        bool shown;
+        bool enabled;
+        bool sharesCell = false; ///< stands where the button before it stands
+    };
+    void layRow(double left, std::initializer_list<RowCell> cells);
+
+    DisplayMode m_displayMode = LiveMode;
+    bool m_error = false;
+
+    // --- PhotoFlow.cpp ---------------------------------------------------------------------
+    bool hasSpaceToCapture();
+
+    QString m_currentPhotoName; ///< bare name of the last photo, null when there is none
+    QSound *m_shutterSound = nullptr;
+    bool m_photoPreview = true;
+
+    // --- SeriesFlow.cpp --------------------------------------------------------------------
+    void startSeries();
+    void endSeries();
+
+    bool m_selfTimer = true;
+    int m_selfTimerSeconds = 0;
+    int m_shotTarget = 0; ///< the same setting; what a series counts up to
+    int m_shotCounter = 0;
+    QStringList m_seriesList; ///< bare names of the series' photos, in order
+
+    // --- MovieFlow.cpp ---------------------------------------------------------------------
+    bool m_recording = false;
+    QString m_moviePath; ///< full path of the movie last recorded or shown
+
+    // --- DeviceFlow.cpp --------------------------------------------------------------------
+    bool m_videoPresent = false;
+    bool m_audioPresent = false;
+    bool m_deviceSelected = false;
+
+    // --- BrowsingFlow.cpp ------------------------------------------------------------------
+    enum ListKind { PhotoList = 0, MovieList = 1 };
+    void showPlayButton();
+
+    ListKind m_listKind = PhotoList; ///< what "List" opens
+    QVector<PictureWidget *> m_tiles;
+    QRect m_selectionRect; ///< size of the tile zoomed last, at (0, 0)
+    QPoint m_zoomedTilePosition;
+
+    // --- ClosingFlow.cpp, SettingsFlow.cpp, HandOver.cpp -----------------------------------
+    QString m_saveDirectory;
+    QString m_pluginPath;
+};
+
+#endif

@@ -1,0 +1,70 @@
+// Cameras that are many, missing or lost. At start the user chooses among several, and is told of
+// what is missing; a camera that vanishes while the program runs leaves the live screen with only
+// "List" and "Exit", and going to the list and back to "Live" finds it again.
+
+#include "CVistrelDlg.h"
+
+#include "LiveVideoWidget.h"
+#include "MovieWidget.h"
+#include "SelectDeviceDlg.h"
+#include "TimerWidget.h"
+#include "WebcamUtil.h"
+
+namespace {
+
+constexpr int raisePeriodAfterChoice = 500; // ms
+
+}
+
+bool CVistrelDlg::selectVideoDevice()
+{
+    const QStringList names = m_liveView->getVideoDeviceList();
+    if (names.isEmpty())
+        return true; // reported by chkdevice(), once the window is there
+    SelectDeviceDlg chooser(this);
+    chooser.setVideoDeviceList(names);
+    if (names.size() > 1) {
+        stop_window();
+        WebcamUtil::moveToCenter(&chooser, this);
+        if (chooser.exec() != QDialog::Accepted)
+            return false;
+        start_window(raisePeriodAfterChoice);
+    }
+    m_liveView->setVideoDevice(chooser.getVideoDevice());
+    return true;
+}
+
+void CVistrelDlg::chkdevice()
+{
+    if (m_videoPresent && m_audioPresent)
+        return;
+    QString message = tr("Cannot find Video / Audio Devices.");
+    if (m_videoPresent)
+        message = tr("Cannot find Audio Devices.");
+    else if (m_audioPresent)
+        message = tr("Cannot find Video Devices.");
+    stop_window();
+    WebcamUtil::WarningMessage(message, this);
+}
+
+void CVistrelDlg::changeNodevicemode()
+{
+    m_error = true;
+    m_timerWidget->Stop();
+    if (m_movieView->isPlaying()) {
+        m_movieView->pause();
+        m_timerWidget->Pause();
+        showPlayButton();
+    }
+    if (m_liveView && m_liveView->isCreate())
+        m_liveView->Release();
+    stop_window();
+    // The blank at the end belongs to the text: translations are found by it.
+    WebcamUtil::WarningMessage(tr("The video device is invalid. Please confirm whether the device "
+                                  "is correctly connected. "),
+                               this);
+    if (!m_liveView) // closed while the warning stood
+        return;
+    m_videoPresent = false;
+    TransitionMode(LiveMode);
+}

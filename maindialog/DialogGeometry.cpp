@@ -1,0 +1,149 @@
+#include "DialogGeometry.h"
+
+namespace {
+
+// Rectangles are given by their edges, as the toolkit keeps them: right = left + width - 1.
+QRect rectOf(int left, int top, QSize size)
+{
+    return {QPoint(left, top), size};
+}
+
+} // namespace
+
+DialogGeometry::DialogGeometry(QSizeF screen, QSize button, int closeWidth)
+    : m_width(screen.width())
+    , m_height(screen.height())
+    , m_button(button)
+    , m_closeWidth(closeWidth)
+{
+}
+
+double DialogGeometry::freeHeight() const
+{
+    return m_height - m_button.height();
+}
+
+QRect DialogGeometry::buttonCell() const
+{
+    return rectOf(0, int(freeHeight()), m_button);
+}
+
+QRect DialogGeometry::cellAt(double left) const
+{
+    QRect cell = buttonCell();
+    cell.moveLeft(int(left));
+    return cell;
+}
+
+double DialogGeometry::rowStart(int count) const
+{
+    return (m_width - m_closeWidth) * 0.5 - (count * m_button.width()) / 2;
+}
+
+double DialogGeometry::movieRowStart() const
+{
+    return (m_width - m_closeWidth) * 0.5 - 2 * m_button.width();
+}
+
+QSize DialogGeometry::smallButtonSize(QSize own) const
+{
+    const int half = int(m_button.height() * 0.5);
+    if (half >= own.height())
+        return own;
+    return own.scaled(m_button.width(), half, Qt::KeepAspectRatio);
+}
+
+QPoint DialogGeometry::closePosition(QSize close) const
+{
+    return {int(m_width - close.width()), int(m_height - close.height())};
+}
+
+QPoint DialogGeometry::settingsPosition(QSize close, QSize settings) const
+{
+    return {closePosition(close).x(), int((m_height - close.height()) - settings.height())};
+}
+
+QRect DialogGeometry::acceptCell() const
+{
+    return rectOf(int(m_width * 0.5 - m_button.width()), int(m_height - 2 * m_button.height()),
+                  m_button);
+}
+
+QRect DialogGeometry::retryCell() const
+{
+    return rectOf(int(m_width * 0.5), int(m_height - 2 * m_button.height()), m_button);
+}
+
+QRect DialogGeometry::videoRect(QSize native) const
+{
+    const QSize camera = native.width() < 1 || native.height() < 1 ? QSize(1, 1) : native;
+    const QSize size = camera.scaled(int(m_width), int(freeHeight()), Qt::KeepAspectRatio);
+    return rectOf(int((m_width - size.width()) * 0.5), 0, size);
+}
+
+QRect DialogGeometry::halfScreenRect(const QRect &video) const
+{
+    const QSize size =
+        video.size().scaled(int(m_width * 0.5), int(freeHeight()), Qt::KeepAspectRatio);
+    return rectOf(0, int((m_height - 2 * m_button.height() - size.height()) * 0.5), size);
+}
+
+QRect DialogGeometry::besideHalfScreen(const QRect &half)
+{
+    return half.translated(half.right() + 1 - half.left(), 0);
+}
+
+QRect DialogGeometry::stripRect() const
+{
+    const double height = freeHeight() / 5.0;
+    QRect strip;
+    strip.setCoords(0, int(freeHeight() - height), int(m_width) - 1, int(freeHeight()) - 1);
+    return strip;
+}
+
+QRect DialogGeometry::seriesLiveRect(QSize live, int stripHeight) const
+{
+    const double halfWidth = m_width * 0.5;
+    const double height = freeHeight() - stripHeight;
+    const QSize size = live.scaled(int(halfWidth), int(height), Qt::KeepAspectRatio);
+    return rectOf(int((halfWidth - size.width()) * 0.5), int((height - size.height()) * 0.5), size);
+}
+
+QRect DialogGeometry::seriesPhotoRect(const QRect &seriesLive) const
+{
+    return seriesLive.translated(int(m_width * 0.5), 0);
+}
+
+QRect DialogGeometry::selectionRect(const QRect &video, int stripHeight) const
+{
+    const double height = video.height() - stripHeight;
+    const double width = video.height() > 0 ? video.width() * (height / video.height()) : 0;
+    return rectOf(int((m_width - width) * 0.5), 0, QSize(int(width), int(height)));
+}
+
+QVector<QRect> DialogGeometry::tileRects(const QRect &video, int count)
+{
+    QVector<QRect> tiles;
+    if (count < 1)
+        return tiles;
+    int columns = 3;
+    double width = video.width() / 3;
+    double height = video.height() / 3;
+    if (count <= 3) {
+        // A single row: floating point, so that the tiles keep the picture's shape.
+        columns = count;
+        width = double(video.width()) / count;
+        height = double(video.height()) / count;
+    } else if (count == 4) {
+        columns = 2;
+        width = video.width() / 2;
+        height = video.height() / 2;
+    }
+    const int rows = (count + columns - 1) / columns;
+    const int firstTop = int(video.height() / 2 - rows * height * 0.5);
+    for (int i = 0; i < count; ++i)
+        tiles.append(rectOf(int((i % columns) * width + video.left()),
+                            int((i / columns) * height + firstTop),
+                            QSize(int(width), int(height))));
+    return tiles;
+}

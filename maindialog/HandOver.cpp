@@ -1,0 +1,63 @@
+// "Paste": a small text file dropped into a folder that the whiteboard software watches names the
+// pictures to fetch. There is no answer and no other channel. The shutter sound is loaded here too,
+// since it lies in the same program folder that is handed over at start.
+
+#include "CVistrelDlg.h"
+
+#include "PictureWidget.h"
+#include "WebcamUtil.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSound>
+#include <QTextStream>
+
+void CVistrelDlg::setTVSButton()
+{
+    createButton(PutPhotoButton);
+    createButton(PutMovieButton);
+}
+
+void CVistrelDlg::OnTVS()
+{
+    if (m_displayMode != MovieMode) // movies cannot be pasted
+        PutTVSPhoto();
+}
+
+void CVistrelDlg::PutTVSPhoto()
+{
+    const QString folder = WebcamUtil::getTemporaryPath() + QStringLiteral("/tmp");
+    if (!QDir().mkpath(folder))
+        return;
+    QFile file(folder + QStringLiteral("/PUTTVS") + WebcamUtil::CurrentSecondString());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return;
+    QTextStream out(&file);
+    out.setCodec("UTF-8");
+    out << "0\n" << m_videoRect.width() << 'x' << m_videoRect.height() << '\n';
+    if (m_displayMode == PhotoMode) {
+        out << m_currentPhotoName << '\n';
+    } else if (m_displayMode == ListMode || m_displayMode == PhotSeqMode) {
+        for (const PictureWidget *tile : qAsConst(m_tiles))
+            if (tile->isVisible())
+                out << tile->fileName() << '\n';
+    }
+}
+
+void CVistrelDlg::PutTVSMovie()
+{
+    // The whiteboard software takes no movies.
+}
+
+void CVistrelDlg::isPutCompeate()
+{
+    // A hand-over is never acknowledged.
+}
+
+void CVistrelDlg::SetPluginPath(const QString &path)
+{
+    m_pluginPath = path;
+    const QString sound = path + QStringLiteral("/photo.wav");
+    if (QFile::exists(sound))
+        m_shutterSound = new QSound(sound, this);
+}

@@ -1,0 +1,114 @@
+// Movies: recording and playback. "Movie" records from the live screen until "Stop" or the time
+// limit; the new movie is then there to play. "Play" and "Pause" drive whatever movie is loaded.
+// A lost camera ends a recording or pauses a playback.
+
+#include "CVistrelDlg.h"
+
+#include "CStretchBitmapButton.h"
+#include "LiveVideoWidget.h"
+#include "MovieWidget.h"
+#include "TimerWidget.h"
+
+namespace {
+
+// Minutes and seconds of a length in milliseconds, each at least two digits.
+QString clockText(qint64 milliseconds)
+{
+    return QStringLiteral("%1:%2")
+        .arg(milliseconds / 60000, 2, 10, QLatin1Char('0'))
+        .arg((milliseconds % 60000) / 1000, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace
+
+void CVistrelDlg::OnRecord()
+{
+    if (!hasSpaceToCapture())
+        return;
+    if (m_recording)
+        return;
+    if (!m_liveView->Record())
+        return;
+    m_moviePath = m_liveView->movieFileName();
+    m_recording = true;
+    button(MovieButton)->hide();
+    disableAllButton(false);
+    button(MovieStopButton)->show();
+    button(MovieStopButton)->setEnabled(true);
+    m_listKind = MovieList;
+    m_timerWidget->SetMode(TimerRecordTime);
+    m_timerWidget->show();
+    m_timerWidget->run();
+    button(CloseButton)->setEnabled(false);
+}
+
+void CVistrelDlg::OnMovieStop()
+{
+    if (!m_recording)
+        return;
+    if (m_liveView && m_liveView->isCreate())
+        m_liveView->RecordStop();
+    m_liveView->hide();
+    m_timerWidget->Stop();
+    m_recording = false;
+    TransitionMode(MovieMode);
+    m_movieView->Create(m_moviePath);
+    m_movieView->show();
+    m_timerWidget->Stop();
+    button(CloseButton)->setEnabled(true);
+    m_timerWidget->SetMode(TimerPlayTime);
+    m_timerWidget->show();
+    m_listKind = MovieList;
+    update();
+}
+
+void CVistrelDlg::setMovieTime()
+{
+    const qint64 total = m_movieView->totalTime();
+    const qint64 current = m_movieView->currentTime() + 500; // to the nearest second
+    const QString totalText = clockText(total);
+    const QString currentText = clockText(current);
+    m_timerWidget->setText(currentText + QLatin1Char('/') + totalText);
+    if (currentText == totalText)
+        m_timerWidget->Stop();
+}
+
+void CVistrelDlg::showPlayButton()
+{
+    button(MoviePauseButton)->hide();
+    button(MoviePlayButton)->show();
+}
+
+void CVistrelDlg::OnMoviePlay()
+{
+    if (m_movieView->isComplete()) {
+        m_timerWidget->Stop();
+        setMovieTime();
+        m_movieView->Stop();
+    }
+    m_timerWidget->show();
+    m_movieView->Play();
+    m_timerWidget->run();
+    button(MoviePlayButton)->hide();
+    button(MoviePauseButton)->show();
+}
+
+void CVistrelDlg::OnMoviePause()
+{
+    if (m_movieView->isComplete()) {
+        m_timerWidget->Stop();
+        setMovieTime();
+        m_movieView->Stop();
+    } else if (m_movieView->isPlaying()) {
+        m_movieView->pause();
+        m_timerWidget->Pause();
+    }
+    showPlayButton();
+}
+
+void CVistrelDlg::OnMovieFinished()
+{
+    showPlayButton();
+    m_movieView->Stop();
+    m_timerWidget->Stop();
+}

@@ -1,0 +1,96 @@
+// Photos. "Photo" takes one and shows it; with the preview on, the live picture runs on beside it
+// until "Accept" or "Retry"; "Live" goes back. A photo exists only as a file in the temporary area,
+// so accepting writes nothing. A full disk or a lost camera interrupts.
+
+#include "CVistrelDlg.h"
+
+#include "LiveVideoWidget.h"
+#include "MovieWidget.h"
+#include "PictureListView.h"
+#include "PictureWidget.h"
+#include "TimerWidget.h"
+#include "WebcamUtil.h"
+
+#include <QFile>
+#include <QSound>
+
+bool CVistrelDlg::hasSpaceToCapture()
+{
+    stop_window();
+    if (WebcamUtil::chkdiskFreeSpace())
+        return true;
+    WebcamUtil::ShowDiskWorningMessage(this);
+    m_error = true;
+    setErrModeButtonEnable();
+    return false;
+}
+
+void CVistrelDlg::OnLive()
+{
+    if (m_displayMode == LiveMode)
+        return;
+    allWidgethide();
+    hiddenPictList();
+    if (m_movieView->isCreated()) {
+        m_movieView->Stop();
+        m_movieView->Release();
+    }
+    m_error = false;
+    if (!m_liveView->isCreate()) {
+        m_liveView->Create();
+        copyDevicePresence();
+        if (!m_videoPresent || !m_liveView->isCreate())
+            m_error = true;
+    }
+    m_liveView->setGeometry(m_videoRect);
+    m_liveView->Start();
+    hiddenPictList();
+    m_movieView->hide();
+    m_pictureView->hide();
+    m_pictureList->hide();
+    m_timerWidget->Stop();
+    TransitionMode(LiveMode);
+    m_listKind = PhotoList;
+    update();
+}
+
+void CVistrelDlg::OnPhoto()
+{
+    if (!hasSpaceToCapture())
+        return;
+    allWidgethide();
+    if (m_shutterSound)
+        m_shutterSound->play();
+    TransitionMode(PhotoMode);
+    if (m_photoPreview)
+        m_liveView->show();
+    m_currentPhotoName = m_liveView->SaveBmp();
+    m_pictureView->Loadbmp(m_currentPhotoName);
+    m_pictureView->setLabelText(tr("Still"));
+    m_pictureView->show();
+    m_pictureView->update();
+    m_listKind = PhotoList;
+    update();
+}
+
+void CVistrelDlg::OnAply()
+{
+    if (m_movieView->isCreated())
+        m_movieView->Release();
+    m_movieView->hide();
+    m_liveView->hide();
+    // The photo's own screen is wanted, not the preview again; the setting stays what it was.
+    const bool preview = m_photoPreview;
+    m_photoPreview = false;
+    TransitionMode(PhotoMode);
+    m_photoPreview = preview;
+    update();
+}
+
+void CVistrelDlg::OnRetake()
+{
+    QFile::remove(WebcamUtil::getTemporaryPath() + QLatin1Char('/') + m_currentPhotoName);
+    m_currentPhotoName = QString();
+    m_listKind = PhotoList;
+    OnLive();
+}
