@@ -7,9 +7,10 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QThread>
 #include <QtEndian>
 
+#include <chrono>
+#include <future>
 #include <memory>
 #include <sys/stat.h>
 #include <vector>
@@ -27,21 +28,20 @@ QByteArray framed(const QByteArray &text)
 class Sender {
 public:
     Sender(const QString &folder, const QString &message, int timeoutMs)
+        : m_delivered(std::async(std::launch::async, [=] {
+            return InstanceChannel("Orvanta", folder).send(message, timeoutMs);
+        }))
     {
-        m_thread.reset(QThread::create([=] {
-            InstanceChannel second("Orvanta", folder);
-            m_delivered = second.send(message, timeoutMs);
-        }));
-        m_thread->start();
     }
-    ~Sender() { m_thread->wait(); }
 
-    bool isFinished() const { return m_thread->isFinished(); }
-    bool delivered() const { return m_delivered; }
+    bool isFinished() const
+    {
+        return m_delivered.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    }
+    bool delivered() const { return m_delivered.get(); }
 
 private:
-    QScopedPointer<QThread> m_thread;
-    bool m_delivered = false; // written by the thread, read after it has finished
+    std::shared_future<bool> m_delivered; // as for every such future, its end waits for the thread
 };
 
 } // namespace
