@@ -37,5 +37,5 @@ int main(int argc, char **argv)
     dialog.setVisible(true);
     dialog.raise();
     dialog.chkdevice();
-    return application.exec();
+    return QtSingleApplication::exec();
 }
