@@ -1,0 +1,179 @@
+// The program as it comes up for users of the whiteboard application in different languages. What
+// it speaks shows in the title of its settings, and which way it reads in the order of the answers
+// to its save question.
+
+#include "Desktop.h"
+#include "Program.h"
+
+#include <QDir>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+constexpr int kPatienceMs = 10000;
+
+/// The program and all that lies beside it, in a folder that a test may change.
+bool copyProgram(const QString &folder)
+{
+    const QDir from(QStringLiteral(PROGRAM_FOLDER));
+    const QStringList names = from.entryList(QDir::Files);
+    for (const QString &name : names) {
+        if (!QFile::copy(from.filePath(name), folder + QLatin1Char('/') + name)) {
+            return false;
+        }
+    }
+    return !names.isEmpty();
+}
+
+} // namespace
+
+class StartLanguagesTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void speaksTheWhiteboardsLanguage_data();
+    void speaksTheWhiteboardsLanguage();
+    void theSaveQuestionReadsInTheDirectionOfTheLanguage_data();
+    void theSaveQuestionReadsInTheDirectionOfTheLanguage();
+
+private:
+    void addStoredLanguages();
+    void startWith(const QString &stored, const QString &missing);
+    QPoint middleOfSmallButton(int placeFromBottom) const;
+    bool isOnTop(const QString &title) const;
+
+    Desktop m_desktop;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<Program> m_program;
+};
+
+void StartLanguagesTest::init()
+{
+    QVERIFY(m_desktop.isOpen());
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+    QVERIFY(copyProgram(m_folder->path()));
+    m_program = std::make_unique<Program>(m_folder->filePath(QStringLiteral("orvanta")));
+    m_program->setEnvironment(QStringLiteral("XDG_CONFIG_HOME"),
+                              m_program->home() + QStringLiteral("/.config"));
+}
+
+void StartLanguagesTest::cleanup()
+{
+    m_program.reset();
+    m_folder.reset();
+}
+
+/// Starts the program for a user whose whiteboard application stores a language, after the file of
+/// a language was taken away, and waits for the window.
+void StartLanguagesTest::startWith(const QString &stored, const QString &missing)
+{
+    if (!missing.isEmpty()) {
+        QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("qvexplugin_%1.qm").arg(missing))));
+    }
+    {
+        QSettings whiteboard(
+            m_program->home() + QStringLiteral("/.config/MerovexSolutions/Tavelin Software.conf"),
+            QSettings::NativeFormat);
+        whiteboard.setValue(QStringLiteral("locale"), stored);
+    }
+    m_program->start();
+    QTRY_VERIFY_WITH_TIMEOUT(isOnTop(QStringLiteral("Orvanta")), kPatienceMs);
+}
+
+bool StartLanguagesTest::isOnTop(const QString &title) const
+{
+    return m_desktop.topWindowOf(m_program->pid()).title == title;
+}
+
+/// "Exit" is in the right corner at the bottom, "Settings" above it.
+QPoint StartLanguagesTest::middleOfSmallButton(int placeFromBottom) const
+{
+    const QSize button(m_desktop.screen().width() / 6, 38);
+    return m_desktop.screen().bottomRight()
+        - QPoint(button.width() / 2, button.height() / 2 + placeFromBottom * button.height());
+}
+
+void StartLanguagesTest::addStoredLanguages()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("missing");
+    QTest::addColumn<QString>("settings");
+    QTest::addColumn<bool>("isRightToLeft");
+    QTest::newRow("German") << "de"
+                            << ""
+                            << "Einstellungen" << false;
+    QTest::newRow("Brazilian with Portuguese only") << "pt_BR"
+                                                    << "pt_BR"
+                                                    << "Definições" << false;
+    QTest::newRow("Bokmål") << "nb_NO"
+                            << ""
+                            << "Innstillinger" << false;
+    QTest::newRow("Arabic without its file") << "ar"
+                                             << "ar"
+                                             << "Settings" << false;
+    QTest::newRow("Hebrew") << "he"
+                            << ""
+                            << "הגדרות" << true;
+}
+
+void StartLanguagesTest::speaksTheWhiteboardsLanguage_data()
+{
+    addStoredLanguages();
+}
+
+void StartLanguagesTest::speaksTheWhiteboardsLanguage()
+{
+    QFETCH(QString, stored);
+    QFETCH(QString, missing);
+    QFETCH(QString, settings);
+    startWith(stored, missing);
+    QVERIFY(m_program->isRunning());
+    m_desktop.click(middleOfSmallButton(1));
+    QTRY_COMPARE_WITH_TIMEOUT(m_desktop.topWindowOf(m_program->pid()).title, settings, kPatienceMs);
+    m_desktop.pressKey("Escape");
+    QTRY_VERIFY_WITH_TIMEOUT(isOnTop(QStringLiteral("Orvanta")), kPatienceMs);
+}
+
+void StartLanguagesTest::theSaveQuestionReadsInTheDirectionOfTheLanguage_data()
+{
+    addStoredLanguages();
+}
+
+// The answers are "Yes", "No" and "Cancel" in the order of reading: the one at the right saves and
+// ends the program, or lets it go on.
+void StartLanguagesTest::theSaveQuestionReadsInTheDirectionOfTheLanguage()
+{
+    QFETCH(QString, stored);
+    QFETCH(QString, missing);
+    QFETCH(bool, isRightToLeft);
+    const QString photo =
+        m_program->temporaryArea() + QStringLiteral("/photo20240229101500000.png");
+    QVERIFY(QDir().mkpath(m_program->temporaryArea()));
+    QVERIFY(QImage(4, 3, QImage::Format_RGB32).save(photo));
+    startWith(stored, missing);
+    const quint32 window = m_desktop.topWindowOf(m_program->pid()).id;
+    m_desktop.click(middleOfSmallButton(0));
+    QTRY_VERIFY_WITH_TIMEOUT(m_desktop.topWindowOf(m_program->pid()).id != window, kPatienceMs);
+
+    const QRect question = m_desktop.topWindowOf(m_program->pid()).geometry;
+    m_desktop.click(question.bottomRight() - QPoint(question.width() / 6, 22));
+    if (isRightToLeft) {
+        QTRY_VERIFY_WITH_TIMEOUT(!m_program->isRunning(), kPatienceMs);
+        QVERIFY(!QFile::exists(photo));
+        QVERIFY(!QDir(m_program->saveFolder()).isEmpty());
+    } else {
+        QTRY_COMPARE_WITH_TIMEOUT(m_desktop.topWindowOf(m_program->pid()).id, window, kPatienceMs);
+        QVERIFY(m_program->isRunning());
+        QVERIFY(QFile::exists(photo));
+    }
+}
+
+QTEST_GUILESS_MAIN(StartLanguagesTest)
+#include "tst_startlanguages.moc"
