@@ -338,15 +338,7 @@ Capture</source>
         <translation>المؤقت الذاتي:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>المؤقت الذاتي</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>ثانية</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>ثانية</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ Capture</source>
         <translation>الالتقاط المتتابع:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>الالتقاط المتتابع</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>صور</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>صور</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ Capture</source>
         <translation>تأكيد الصورة الملتقطة:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>تأكيد الصورة الملتقطة</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>الدقة:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>الدقة</translation>
+        <source>Save Directry:</source>
+        <translation>مجلد الحفظ:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>استخدام الموقع الافتراضي</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>استخدام موقع آخر</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ Capture</source>
         <translation>إلغاء</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>استخدام الموقع الافتراضي</translation>
+        <source>Self Timer</source>
+        <translation>المؤقت الذاتي</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>ثانية</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>الالتقاط المتتابع</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>صور</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>تأكيد الصورة الملتقطة</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>الدقة</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>استخدام الموقع الافتراضي</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>استخدام موقع آخر</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>استخدام موقع آخر</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>مجلد الحفظ:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ snímání</translation>
         <translation>Samospoušť:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Samospoušť</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>s</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>s</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ snímání</translation>
         <translation>Sériové snímání:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Sériové snímání</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Snímky</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Snímky</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ snímání</translation>
         <translation>Potvrdit pořízený snímek:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Potvrdit pořízený snímek</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Rozlišení:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Rozlišení</translation>
+        <source>Save Directry:</source>
+        <translation>Složka pro uložení:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Použít výchozí umístění</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Použít jiné umístění</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ snímání</translation>
         <translation>Zrušit</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Použít výchozí umístění</translation>
+        <source>Self Timer</source>
+        <translation>Samospoušť</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Sériové snímání</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Snímky</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Potvrdit pořízený snímek</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Rozlišení</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Použít výchozí umístění</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Použít jiné umístění</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Použít jiné umístění</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Složka pro uložení:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ optagelse</translation>
         <translation>Selvudløser:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Selvudløser</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>sekunder</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>sekunder</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ optagelse</translation>
         <translation>Serieoptagelse:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Serieoptagelse</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Billeder</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Billeder</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ optagelse</translation>
         <translation>Bekræft optaget billede:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Bekræft optaget billede</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Opløsning:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Opløsning</translation>
+        <source>Save Directry:</source>
+        <translation>Mappe til lagring:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Brug standardplacering</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Brug anden placering</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ optagelse</translation>
         <translation>Annuller</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Brug standardplacering</translation>
+        <source>Self Timer</source>
+        <translation>Selvudløser</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>sekunder</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Serieoptagelse</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Billeder</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Bekræft optaget billede</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Opløsning</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Brug standardplacering</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Brug anden placering</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Brug anden placering</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Mappe til lagring:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

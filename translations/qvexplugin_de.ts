@@ -338,15 +338,7 @@ aufnahme</translation>
         <translation>Selbstauslöser:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Selbstauslöser</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>Sekunden</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>Sekunden</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ aufnahme</translation>
         <translation>Serienaufnahme:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Serienaufnahme</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Bilder</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Bilder</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ aufnahme</translation>
         <translation>Aufgenommenes Bild bestätigen:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Aufgenommenes Bild bestätigen</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Auflösung:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Auflösung</translation>
+        <source>Save Directry:</source>
+        <translation>Speicherordner:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Standardordner verwenden</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Anderen Ordner verwenden</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ aufnahme</translation>
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Standardordner verwenden</translation>
+        <source>Self Timer</source>
+        <translation>Selbstauslöser</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Serienaufnahme</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Aufgenommenes Bild bestätigen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Standardordner verwenden</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Anderen Ordner verwenden</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Anderen Ordner verwenden</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Speicherordner:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ Capture</source>
         <translation>Χρονοδιακόπτης:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Χρονοδιακόπτης</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>δευτ.</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>δευτ.</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ Capture</source>
         <translation>Συνεχής λήψη:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Συνεχής λήψη</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Λήψεις</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Λήψεις</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ Capture</source>
         <translation>Επιβεβαίωση εικόνας:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Επιβεβαίωση εικόνας</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Ανάλυση:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Ανάλυση</translation>
+        <source>Save Directry:</source>
+        <translation>Φάκελος αποθήκευσης:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Προεπιλεγμένη θέση</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Άλλη θέση</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ Capture</source>
         <translation>Άκυρο</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Προεπιλεγμένη θέση</translation>
+        <source>Self Timer</source>
+        <translation>Χρονοδιακόπτης</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>δευτ.</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Συνεχής λήψη</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Λήψεις</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Επιβεβαίωση εικόνας</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Ανάλυση</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Προεπιλεγμένη θέση</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Άλλη θέση</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Άλλη θέση</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Φάκελος αποθήκευσης:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,48 +338,36 @@ Capture</translation>
         <translation>AutoShooting:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Self Timer</translation>
-    </message>
-    <message>
         <source>sec</source>
         <translation>sec</translation>
-    </message>
-    <message>
-        <source>second</source>
-        <translation>second</translation>
     </message>
     <message>
         <source>Continuous shooting:</source>
         <translation>Continuous shooting:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Continuous Capture</translation>
-    </message>
-    <message>
         <source>sheet</source>
         <translation>sheet</translation>
-    </message>
-    <message>
-        <source>Shots</source>
-        <translation>Shots</translation>
     </message>
     <message>
         <source>Preview your photo taken:</source>
         <translation>Preview your photo taken:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Confirm captured image</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Resolution:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Resolution</translation>
+        <source>Save Directry:</source>
+        <translation>Save Directry:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Using the standard location</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Specify a destination</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ Capture</translation>
         <translation>Cancel</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Using the standard location</translation>
+        <source>Self Timer</source>
+        <translation>Self Timer</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>second</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Continuous Capture</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Shots</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Confirm captured image</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolution</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Use default location</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Specify a destination</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Use other location</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Save Directry:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

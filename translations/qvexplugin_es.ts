@@ -338,15 +338,7 @@ continua</translation>
         <translation>Temporizador:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Temporizador</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>segundos</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>segundos</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ continua</translation>
         <translation>Captura continua:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Captura continua</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Fotos</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Fotos</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ continua</translation>
         <translation>Confirmar la imagen capturada:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Confirmar la imagen capturada</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Resolución:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Resolución</translation>
+        <source>Save Directry:</source>
+        <translation>Carpeta para guardar:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Usar la ubicación predeterminada</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Usar otra ubicación</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ continua</translation>
         <translation>Cancelar</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Usar la ubicación predeterminada</translation>
+        <source>Self Timer</source>
+        <translation>Temporizador</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>segundos</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Captura continua</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Confirmar la imagen capturada</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Usar la ubicación predeterminada</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Usar otra ubicación</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Usar otra ubicación</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Carpeta para guardar:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

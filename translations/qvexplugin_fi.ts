@@ -338,15 +338,7 @@ kuvaus</translation>
         <translation>Itselaukaisin:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Itselaukaisin</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>sekuntia</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>sekuntia</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ kuvaus</translation>
         <translation>Sarjakuvaus:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Sarjakuvaus</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Kuvaa</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Kuvaa</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ kuvaus</translation>
         <translation>Vahvista otettu kuva:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Vahvista otettu kuva</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Tarkkuus:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Tarkkuus</translation>
+        <source>Save Directry:</source>
+        <translation>Tallennuskansio:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Käytä oletussijaintia</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Käytä muuta sijaintia</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ kuvaus</translation>
         <translation>Peruuta</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Käytä oletussijaintia</translation>
+        <source>Self Timer</source>
+        <translation>Itselaukaisin</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>sekuntia</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Sarjakuvaus</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Kuvaa</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Vahvista otettu kuva</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Tarkkuus</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Käytä oletussijaintia</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Käytä muuta sijaintia</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Käytä muuta sijaintia</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Tallennuskansio:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ rafale</translation>
         <translation>Retardateur&#xa0;:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Retardateur</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>secondes</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>secondes</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ rafale</translation>
         <translation>Prises en rafale&#xa0;:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Prises en rafale</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Photos</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Photos</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ rafale</translation>
         <translation>Confirmer l’image capturée&#xa0;:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Confirmer l’image capturée</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Résolution&#xa0;:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Résolution</translation>
+        <source>Save Directry:</source>
+        <translation>Dossier d’enregistrement :</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Utiliser l’emplacement par défaut</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Utiliser un autre emplacement</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ rafale</translation>
         <translation>Annuler</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Utiliser l’emplacement par défaut</translation>
+        <source>Self Timer</source>
+        <translation>Retardateur</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>secondes</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Prises en rafale</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Confirmer l’image capturée</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Utiliser l’emplacement par défaut</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Utiliser un autre emplacement</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Utiliser un autre emplacement</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Dossier d’enregistrement :</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

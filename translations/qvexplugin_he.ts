@@ -338,15 +338,7 @@ Capture</source>
         <translation>טיימר עצמי:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>טיימר עצמי</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>שניות</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>שניות</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ Capture</source>
         <translation>צילום רציף:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>צילום רציף</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>תמונות</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>תמונות</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ Capture</source>
         <translation>אישור התמונה שצולמה:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>אישור התמונה שצולמה</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>רזולוציה:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>רזולוציה</translation>
+        <source>Save Directry:</source>
+        <translation>תיקיית שמירה:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>שימוש במיקום ברירת המחדל</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>שימוש במיקום אחר</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ Capture</source>
         <translation>ביטול</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>שימוש במיקום ברירת המחדל</translation>
+        <source>Self Timer</source>
+        <translation>טיימר עצמי</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>שניות</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>צילום רציף</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>תמונות</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>אישור התמונה שצולמה</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>רזולוציה</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>שימוש במיקום ברירת המחדל</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>שימוש במיקום אחר</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>שימוש במיקום אחר</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>תיקיית שמירה:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

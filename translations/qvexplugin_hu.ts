@@ -338,15 +338,7 @@ felvétel</translation>
         <translation>Önkioldó:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Önkioldó</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>mp</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>mp</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ felvétel</translation>
         <translation>Sorozatfelvétel:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Sorozatfelvétel</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Kép</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Kép</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ felvétel</translation>
         <translation>Elkészült kép jóváhagyása:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Elkészült kép jóváhagyása</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Felbontás:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Felbontás</translation>
+        <source>Save Directry:</source>
+        <translation>Mentési mappa:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Alapértelmezett hely</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Más hely használata</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ felvétel</translation>
         <translation>Mégse</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Alapértelmezett hely</translation>
+        <source>Self Timer</source>
+        <translation>Önkioldó</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>mp</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Sorozatfelvétel</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Kép</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Elkészült kép jóváhagyása</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Felbontás</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Alapértelmezett hely</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Más hely használata</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Más hely használata</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Mentési mappa:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ Beruntun</translation>
         <translation>Pewaktu otomatis:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Pewaktu otomatis</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>detik</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>detik</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ Beruntun</translation>
         <translation>Foto beruntun:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Foto beruntun</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Foto</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Foto</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ Beruntun</translation>
         <translation>Konfirmasi hasil foto:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Konfirmasi hasil foto</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Resolusi:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Resolusi</translation>
+        <source>Save Directry:</source>
+        <translation>Folder penyimpanan:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Gunakan lokasi bawaan</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Gunakan lokasi lain</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ Beruntun</translation>
         <translation>Batal</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Gunakan lokasi bawaan</translation>
+        <source>Self Timer</source>
+        <translation>Pewaktu otomatis</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>detik</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Foto beruntun</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Konfirmasi hasil foto</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolusi</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Gunakan lokasi bawaan</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Gunakan lokasi lain</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Gunakan lokasi lain</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Folder penyimpanan:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ continui</translation>
         <translation>Autoscatto:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Autoscatto</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>secondi</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>secondi</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ continui</translation>
         <translation>Scatti continui:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Scatti continui</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Scatti</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Scatti</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ continui</translation>
         <translation>Conferma l’immagine acquisita:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Conferma l’immagine acquisita</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Risoluzione:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Risoluzione</translation>
+        <source>Save Directry:</source>
+        <translation>Cartella di salvataggio:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Usa la posizione predefinita</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Usa un’altra posizione</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ continui</translation>
         <translation>Annulla</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Usa la posizione predefinita</translation>
+        <source>Self Timer</source>
+        <translation>Autoscatto</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>secondi</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Scatti continui</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Scatti</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Conferma l’immagine acquisita</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Risoluzione</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Usa la posizione predefinita</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Usa un’altra posizione</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Usa un’altra posizione</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Cartella di salvataggio:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

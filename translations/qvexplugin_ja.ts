@@ -337,15 +337,7 @@ Capture</source>
         <translation>セルフタイマー:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>セルフタイマー</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>秒</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>秒</translation>
     </message>
     <message>
@@ -353,15 +345,7 @@ Capture</source>
         <translation>連続撮影:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>連続撮影</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>枚</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>枚</translation>
     </message>
     <message>
@@ -369,16 +353,20 @@ Capture</source>
         <translation>撮影した画像を確認する:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>撮影した画像を確認する</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>解像度:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>解像度</translation>
+        <source>Save Directry:</source>
+        <translation>保存先:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>標準の場所に保存する</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>別の場所に保存する</translation>
     </message>
     <message>
         <source>...</source>
@@ -393,24 +381,36 @@ Capture</source>
         <translation>キャンセル</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>標準の場所に保存する</translation>
+        <source>Self Timer</source>
+        <translation>セルフタイマー</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>連続撮影</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>枚</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>撮影した画像を確認する</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>標準の場所に保存する</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>別の場所に保存する</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>別の場所に保存する</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>保存先:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

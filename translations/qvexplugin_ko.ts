@@ -337,15 +337,7 @@ Capture</source>
         <translation>셀프타이머:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>셀프타이머</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>초</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>초</translation>
     </message>
     <message>
@@ -353,15 +345,7 @@ Capture</source>
         <translation>연속 촬영:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>연속 촬영</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>장</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>장</translation>
     </message>
     <message>
@@ -369,16 +353,20 @@ Capture</source>
         <translation>촬영한 이미지 확인:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>촬영한 이미지 확인</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>해상도:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>해상도</translation>
+        <source>Save Directry:</source>
+        <translation>저장 폴더:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>기본 위치 사용</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>다른 위치 사용</translation>
     </message>
     <message>
         <source>...</source>
@@ -393,24 +381,36 @@ Capture</source>
         <translation>취소</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>기본 위치 사용</translation>
+        <source>Self Timer</source>
+        <translation>셀프타이머</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>초</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>연속 촬영</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>장</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>촬영한 이미지 확인</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>해상도</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>기본 위치 사용</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>다른 위치 사용</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>다른 위치 사용</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>저장 폴더:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ opname</translation>
         <translation>Zelfontspanner:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Zelfontspanner</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>seconden</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>seconden</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ opname</translation>
         <translation>Continue opname:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Continue opname</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Foto’s</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Foto’s</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ opname</translation>
         <translation>Gemaakte foto bevestigen:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Gemaakte foto bevestigen</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Resolutie:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Resolutie</translation>
+        <source>Save Directry:</source>
+        <translation>Opslagmap:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Standaardlocatie gebruiken</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Andere locatie gebruiken</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ opname</translation>
         <translation>Annuleren</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Standaardlocatie gebruiken</translation>
+        <source>Self Timer</source>
+        <translation>Zelfontspanner</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>seconden</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Continue opname</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Foto’s</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Gemaakte foto bevestigen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolutie</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Standaardlocatie gebruiken</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Andere locatie gebruiken</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Andere locatie gebruiken</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Opslagmap:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

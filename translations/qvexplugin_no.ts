@@ -338,15 +338,7 @@ opptak</translation>
         <translation>Selvutløser:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Selvutløser</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>sekunder</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>sekunder</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ opptak</translation>
         <translation>Serieopptak:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Serieopptak</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Bilder</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Bilder</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ opptak</translation>
         <translation>Bekreft bildet som er tatt:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Bekreft bildet som er tatt</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Oppløsning:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Oppløsning</translation>
+        <source>Save Directry:</source>
+        <translation>Lagringsmappe:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Bruk standardplassering</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Bruk annen plassering</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ opptak</translation>
         <translation>Avbryt</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Bruk standardplassering</translation>
+        <source>Self Timer</source>
+        <translation>Selvutløser</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>sekunder</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Serieopptak</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Bekreft bildet som er tatt</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Oppløsning</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Bruk standardplassering</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Bruk annen plassering</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Bruk annen plassering</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Lagringsmappe:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

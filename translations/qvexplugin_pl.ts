@@ -338,15 +338,7 @@ seryjne</translation>
         <translation>Samowyzwalacz:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Samowyzwalacz</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>s</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>s</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ seryjne</translation>
         <translation>Zdjęcia seryjne:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Zdjęcia seryjne</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Zdjęcia</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Zdjęcia</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ seryjne</translation>
         <translation>Zatwierdzanie zdjęcia:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Zatwierdzanie zdjęcia</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Rozdzielczość:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Rozdzielczość</translation>
+        <source>Save Directry:</source>
+        <translation>Folder zapisu:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Użyj domyślnego miejsca</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Użyj innego miejsca</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ seryjne</translation>
         <translation>Anuluj</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Użyj domyślnego miejsca</translation>
+        <source>Self Timer</source>
+        <translation>Samowyzwalacz</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Zdjęcia seryjne</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Zdjęcia</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Zatwierdzanie zdjęcia</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Rozdzielczość</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Użyj domyślnego miejsca</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Użyj innego miejsca</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Użyj innego miejsca</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Folder zapisu:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ contínua</translation>
         <translation>Temporizador:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Temporizador</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>segundos</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>segundos</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ contínua</translation>
         <translation>Captura contínua:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Captura contínua</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Fotos</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Fotos</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ contínua</translation>
         <translation>Confirmar a imagem capturada:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Confirmar a imagem capturada</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Resolução:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Resolução</translation>
+        <source>Save Directry:</source>
+        <translation>Pasta para salvar:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Usar o local padrão</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Usar outro local</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ contínua</translation>
         <translation>Cancelar</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Usar o local padrão</translation>
+        <source>Self Timer</source>
+        <translation>Temporizador</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>segundos</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Captura contínua</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Confirmar a imagem capturada</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Resolução</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Usar o local padrão</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Usar outro local</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Usar outro local</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Pasta para salvar:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

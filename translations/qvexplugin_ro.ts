@@ -338,15 +338,7 @@ continuă</translation>
         <translation>Temporizator:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Temporizator</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>secunde</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>secunde</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ continuă</translation>
         <translation>Captură continuă:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Captură continuă</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Imagini</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Imagini</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ continuă</translation>
         <translation>Confirmă imaginea capturată:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Confirmă imaginea capturată</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Rezoluție:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Rezoluție</translation>
+        <source>Save Directry:</source>
+        <translation>Dosar pentru salvare:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Folosește locația implicită</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Folosește altă locație</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ continuă</translation>
         <translation>Anulare</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Folosește locația implicită</translation>
+        <source>Self Timer</source>
+        <translation>Temporizator</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>secunde</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Captură continuă</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Imagini</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Confirmă imaginea capturată</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Rezoluție</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Folosește locația implicită</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Folosește altă locație</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Folosește altă locație</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Dosar pentru salvare:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ Capture</source>
         <translation>Автоспуск:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Автоспуск</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>с</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>с</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ Capture</source>
         <translation>Серийная съёмка:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Серийная съёмка</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Снимков</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Снимков</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ Capture</source>
         <translation>Подтверждать снимок:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Подтверждать снимок</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Разрешение:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Разрешение</translation>
+        <source>Save Directry:</source>
+        <translation>Папка сохранения:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Обычное место</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Другое место</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ Capture</source>
         <translation>Отмена</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Обычное место</translation>
+        <source>Self Timer</source>
+        <translation>Автоспуск</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>с</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Серийная съёмка</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Снимков</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Подтверждать снимок</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Разрешение</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Обычное место</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Другое место</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Другое место</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Папка сохранения:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

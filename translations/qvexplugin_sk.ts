@@ -338,15 +338,7 @@ snímanie</translation>
         <translation>Samospúšť:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Samospúšť</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>s</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>s</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ snímanie</translation>
         <translation>Sériové snímanie:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Sériové snímanie</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Snímky</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Snímky</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ snímanie</translation>
         <translation>Potvrdiť zhotovenú snímku:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Potvrdiť zhotovenú snímku</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Rozlíšenie:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Rozlíšenie</translation>
+        <source>Save Directry:</source>
+        <translation>Priečinok na uloženie:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Použiť predvolené miesto</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Použiť iné miesto</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ snímanie</translation>
         <translation>Zrušiť</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Použiť predvolené miesto</translation>
+        <source>Self Timer</source>
+        <translation>Samospúšť</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Sériové snímanie</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Snímky</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Potvrdiť zhotovenú snímku</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Rozlíšenie</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Použiť predvolené miesto</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Použiť iné miesto</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Použiť iné miesto</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Priečinok na uloženie:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

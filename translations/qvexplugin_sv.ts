@@ -338,15 +338,7 @@ foto</translation>
         <translation>Självutlösare:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Självutlösare</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>sekunder</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>sekunder</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ foto</translation>
         <translation>Seriefoto:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Seriefoto</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Bilder</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Bilder</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ foto</translation>
         <translation>Bekräfta tagen bild:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Bekräfta tagen bild</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Upplösning:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Upplösning</translation>
+        <source>Save Directry:</source>
+        <translation>Mapp att spara i:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Använd standardplats</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Använd annan plats</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ foto</translation>
         <translation>Avbryt</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Använd standardplats</translation>
+        <source>Self Timer</source>
+        <translation>Självutlösare</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>sekunder</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Seriefoto</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Bekräfta tagen bild</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Upplösning</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Använd standardplats</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Använd annan plats</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Använd annan plats</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Mapp att spara i:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ Capture</source>
         <translation>ตั้งเวลาถ่าย:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>ตั้งเวลาถ่าย</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>วินาที</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>วินาที</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ Capture</source>
         <translation>ถ่ายต่อเนื่อง:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>ถ่ายต่อเนื่อง</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>ภาพ</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>ภาพ</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ Capture</source>
         <translation>ยืนยันภาพที่ถ่าย:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>ยืนยันภาพที่ถ่าย</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>ความละเอียด:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>ความละเอียด</translation>
+        <source>Save Directry:</source>
+        <translation>โฟลเดอร์สำหรับบันทึก:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>ใช้ตำแหน่งเริ่มต้น</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>ใช้ตำแหน่งอื่น</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ Capture</source>
         <translation>ยกเลิก</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>ใช้ตำแหน่งเริ่มต้น</translation>
+        <source>Self Timer</source>
+        <translation>ตั้งเวลาถ่าย</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>วินาที</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>ถ่ายต่อเนื่อง</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>ภาพ</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>ยืนยันภาพที่ถ่าย</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>ความละเอียด</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>ใช้ตำแหน่งเริ่มต้น</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>ใช้ตำแหน่งอื่น</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>ใช้ตำแหน่งอื่น</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>โฟลเดอร์สำหรับบันทึก:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

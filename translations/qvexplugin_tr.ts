@@ -338,15 +338,7 @@ Capture</source>
         <translation>Zamanlayıcı:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Zamanlayıcı</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>saniye</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>saniye</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ Capture</source>
         <translation>Sürekli çekim:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Sürekli çekim</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Fotoğraf</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Fotoğraf</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ Capture</source>
         <translation>Çekilen resmi onayla:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Çekilen resmi onayla</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Çözünürlük:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Çözünürlük</translation>
+        <source>Save Directry:</source>
+        <translation>Kayıt klasörü:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Varsayılan konumu kullan</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Başka konum kullan</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ Capture</source>
         <translation>İptal</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Varsayılan konumu kullan</translation>
+        <source>Self Timer</source>
+        <translation>Zamanlayıcı</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>saniye</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Sürekli çekim</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Fotoğraf</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Çekilen resmi onayla</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Çözünürlük</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Varsayılan konumu kullan</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Başka konum kullan</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Başka konum kullan</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Kayıt klasörü:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ Capture</source>
         <translation>Автоспуск:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Автоспуск</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>с</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>с</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ Capture</source>
         <translation>Серійна зйомка:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Серійна зйомка</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Знімків</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Знімків</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ Capture</source>
         <translation>Підтверджувати знімок:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Підтверджувати знімок</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Роздільність:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Роздільність</translation>
+        <source>Save Directry:</source>
+        <translation>Папка збереження:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Звичайне місце</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Інше місце</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ Capture</source>
         <translation>Скасувати</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Звичайне місце</translation>
+        <source>Self Timer</source>
+        <translation>Автоспуск</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>с</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Серійна зйомка</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Знімків</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Підтверджувати знімок</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Роздільність</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Звичайне місце</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Інше місце</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Інше місце</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Папка збереження:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -338,15 +338,7 @@ liên tục</translation>
         <translation>Hẹn giờ:</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>Hẹn giờ</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>giây</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>giây</translation>
     </message>
     <message>
@@ -354,15 +346,7 @@ liên tục</translation>
         <translation>Chụp liên tục:</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>Chụp liên tục</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>Ảnh</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>Ảnh</translation>
     </message>
     <message>
@@ -370,16 +354,20 @@ liên tục</translation>
         <translation>Xác nhận ảnh đã chụp:</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>Xác nhận ảnh đã chụp</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>Độ phân giải:</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>Độ phân giải</translation>
+        <source>Save Directry:</source>
+        <translation>Thư mục lưu:</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>Dùng vị trí mặc định</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>Dùng vị trí khác</translation>
     </message>
     <message>
         <source>...</source>
@@ -394,24 +382,36 @@ liên tục</translation>
         <translation>Hủy</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>Dùng vị trí mặc định</translation>
+        <source>Self Timer</source>
+        <translation>Hẹn giờ</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>giây</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>Chụp liên tục</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>Ảnh</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>Xác nhận ảnh đã chụp</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Độ phân giải</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>Dùng vị trí mặc định</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>Dùng vị trí khác</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>Dùng vị trí khác</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>Thư mục lưu:</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

@@ -337,15 +337,7 @@ Capture</source>
         <translation>自拍定时：</translation>
     </message>
     <message>
-        <source>Self Timer</source>
-        <translation>自拍定时</translation>
-    </message>
-    <message>
         <source>sec</source>
-        <translation>秒</translation>
-    </message>
-    <message>
-        <source>second</source>
         <translation>秒</translation>
     </message>
     <message>
@@ -353,15 +345,7 @@ Capture</source>
         <translation>连续拍摄：</translation>
     </message>
     <message>
-        <source>Continuous Capture</source>
-        <translation>连续拍摄</translation>
-    </message>
-    <message>
         <source>sheet</source>
-        <translation>张</translation>
-    </message>
-    <message>
-        <source>Shots</source>
         <translation>张</translation>
     </message>
     <message>
@@ -369,16 +353,20 @@ Capture</source>
         <translation>确认拍摄的图像：</translation>
     </message>
     <message>
-        <source>Confirm captured image</source>
-        <translation>确认拍摄的图像</translation>
-    </message>
-    <message>
         <source>Resolution:</source>
         <translation>分辨率：</translation>
     </message>
     <message>
-        <source>Resolution</source>
-        <translation>分辨率</translation>
+        <source>Save Directry:</source>
+        <translation>保存文件夹：</translation>
+    </message>
+    <message>
+        <source>Using the standard location</source>
+        <translation>使用默认位置</translation>
+    </message>
+    <message>
+        <source>Specify a destination</source>
+        <translation>使用其他位置</translation>
     </message>
     <message>
         <source>...</source>
@@ -393,24 +381,36 @@ Capture</source>
         <translation>取消</translation>
     </message>
     <message>
-        <source>Using the standard location</source>
-        <translation>使用默认位置</translation>
+        <source>Self Timer</source>
+        <translation>自拍定时</translation>
+    </message>
+    <message>
+        <source>second</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Continuous Capture</source>
+        <translation>连续拍摄</translation>
+    </message>
+    <message>
+        <source>Shots</source>
+        <translation>张</translation>
+    </message>
+    <message>
+        <source>Confirm captured image</source>
+        <translation>确认拍摄的图像</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
     </message>
     <message>
         <source>Use default location</source>
         <translation>使用默认位置</translation>
     </message>
     <message>
-        <source>Specify a destination</source>
-        <translation>使用其他位置</translation>
-    </message>
-    <message>
         <source>Use other location</source>
         <translation>使用其他位置</translation>
-    </message>
-    <message>
-        <source>Save Directry:</source>
-        <translation>保存文件夹：</translation>
     </message>
     <message>
         <source>SaveDirectory</source>

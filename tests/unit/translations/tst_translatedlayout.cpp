@@ -6,11 +6,13 @@
 #include "Languages.h"
 #include "SaveConfirmDlg.h"
 #include "SelectDeviceDlg.h"
+#include "Setting.h"
 #include "TimerWidget.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QGlyphRun>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QTextLayout>
 #include <QTimer>
@@ -83,13 +85,16 @@ QByteArray complaint(const QString &text, QSize needed, QSize available)
         .toUtf8();
 }
 
-/// The texts of a box that do not have the room that they ask for; empty when all is well.
+/// The texts of a box that do not have the room that they ask for, or that run out of the row that
+/// holds them; empty when all is well.
 QByteArray clippedTextsOf(const QWidget &box)
 {
     QByteArray clipped;
     const auto look = [&](const QWidget &widget, const QString &text) {
-        if (!text.isEmpty() && !fits(widget.sizeHint(), widget.size())) {
-            clipped += complaint(text, widget.sizeHint(), widget.size()) + '\n';
+        const QSize visible =
+            widget.geometry().intersected(widget.parentWidget()->contentsRect()).size();
+        if (!text.isEmpty() && !fits(widget.sizeHint(), visible)) {
+            clipped += complaint(text, widget.sizeHint(), visible) + '\n';
         }
     };
     for (const QLabel *label : box.findChildren<QLabel *>()) {
@@ -127,8 +132,11 @@ private Q_SLOTS:
     void theFontsHaveEveryLetter_data() { addLanguageRows(); }
     void theFontsHaveEveryLetter();
     void aLetterThatNoFontHasIsNoticed();
+    void aTextTooLongForItsRowIsNoticed();
     void theChooserShowsItsTextsWhole_data() { addLanguageRows(); }
     void theChooserShowsItsTextsWhole();
+    void theSettingsShowTheirTextsWhole_data() { addLanguageRows(); }
+    void theSettingsShowTheirTextsWhole();
     void theSaveQuestionFitsTheScreen_data() { addLanguageRows(); }
     void theSaveQuestionFitsTheScreen();
     void theCountdownHasRoomForTwoDigits_data() { addLanguageRows(); }
@@ -231,6 +239,21 @@ void TranslatedLayoutTest::aLetterThatNoFontHasIsNoticed()
     QVERIFY(hasALetterWithoutAShape(QString(QChar(0xE123)), QFont(QStringLiteral("Arial"), 11)));
 }
 
+void TranslatedLayoutTest::aTextTooLongForItsRowIsNoticed()
+{
+    QWidget box;
+    auto *row = new QWidget(&box);
+    row->setGeometry(0, 0, 100, 40);
+    auto *columns = new QHBoxLayout(row);
+    auto *label = new QLabel(QStringLiteral("Short"), row);
+    columns->addWidget(label);
+    box.show();
+    QVERIFY(clippedTextsOf(box).isEmpty());
+    label->setText(QStringLiteral("Longer than a hundred pixels"));
+    columns->activate();
+    QVERIFY(!clippedTextsOf(box).isEmpty());
+}
+
 void TranslatedLayoutTest::theChooserShowsItsTextsWhole()
 {
     QFETCH(QString, language);
@@ -238,6 +261,17 @@ void TranslatedLayoutTest::theChooserShowsItsTextsWhole()
     SelectDeviceDlg chooser(nullptr);
     chooser.show();
     const QByteArray clipped = clippedTextsOf(chooser);
+    QVERIFY2(clipped.isEmpty(), clipped.constData());
+}
+
+void TranslatedLayoutTest::theSettingsShowTheirTextsWhole()
+{
+    QFETCH(QString, language);
+    speak(language);
+    Setting settings(nullptr);
+    settings.show();
+    QCOMPARE(settings.windowTitle(), QCoreApplication::translate("Setting", "Settings"));
+    const QByteArray clipped = clippedTextsOf(settings);
     QVERIFY2(clipped.isEmpty(), clipped.constData());
 }
 

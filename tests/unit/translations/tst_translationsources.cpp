@@ -1,9 +1,11 @@
-// The translators' files, and the compiled ones beside the program.
+// The translators' files against the program's own texts, and the compiled files against both.
 
 #include "Languages.h"
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
@@ -52,6 +54,16 @@ QVector<Message> messagesOf(const QString &language)
         QStringLiteral(SOURCE_FOLDER "/translations/qvexplugin_%1.ts").arg(language));
 }
 
+QStringList sortedKeys(const QVector<Message> &messages)
+{
+    QStringList keys;
+    for (const Message &message : messages) {
+        keys.append(message.key());
+    }
+    keys.sort();
+    return keys;
+}
+
 QString blanksBefore(const QString &text)
 {
     const auto *const end =
@@ -72,6 +84,9 @@ class TranslationSourcesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
+    void everyLanguageHasExactlyTheTextsOfTheProgram_data() { addLanguageRows(); }
+    void everyLanguageHasExactlyTheTextsOfTheProgram();
     void everyTextIsTranslatedAndFinished_data() { addLanguageRows(); }
     void everyTextIsTranslatedAndFinished();
     void textsThatNameBitmapsStayAsTheyAre_data() { addLanguageRows(); }
@@ -85,7 +100,30 @@ private Q_SLOTS:
     void theCompiledFileBesideTheProgramHoldsEveryText_data() { addLanguageRows(); }
     void theCompiledFileBesideTheProgramHoldsEveryText();
     void noSourceIsLeftOutOfTheList();
+
+private:
+    QStringList m_textsOfTheProgram;
 };
+
+void TranslationSourcesTest::initTestCase()
+{
+    const QTemporaryDir folder;
+    const QString fresh = folder.filePath(QStringLiteral("fresh.ts"));
+    QProcess lupdate;
+    lupdate.setWorkingDirectory(QStringLiteral(SOURCE_FOLDER));
+    lupdate.start(QStringLiteral(LUPDATE),
+                  {"app", "browse", "capture", "maindialog", "settings", "store", "-ts", fresh});
+    QVERIFY(lupdate.waitForFinished());
+    QCOMPARE(lupdate.exitCode(), 0);
+    m_textsOfTheProgram = sortedKeys(readMessages(fresh));
+    QVERIFY(m_textsOfTheProgram.contains(QStringLiteral("TimerWidget: second to capture")));
+}
+
+void TranslationSourcesTest::everyLanguageHasExactlyTheTextsOfTheProgram()
+{
+    QFETCH(QString, language);
+    QCOMPARE(sortedKeys(messagesOf(language)), m_textsOfTheProgram);
+}
 
 void TranslationSourcesTest::everyTextIsTranslatedAndFinished()
 {
