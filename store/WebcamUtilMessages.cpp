@@ -5,6 +5,30 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+namespace {
+
+void centreOnDesktop(QWidget *widget)
+{
+    const QSize desktop = QGuiApplication::primaryScreen()->virtualSize();
+    widget->move((desktop.width() - widget->width()) / 2,
+                 (desktop.height() - widget->height()) / 2);
+}
+
+/** A message box breaks its lines and finds its final size only when it is shown. */
+class CentredMessageBox : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        QMessageBox::showEvent(event);
+        centreOnDesktop(this);
+    }
+};
+
+} // namespace
+
 void WebcamUtil::ShowDiskWorningMessage(QWidget *parent)
 {
     // The blank at the end is part of the text that translators see.
@@ -32,8 +56,8 @@ void WebcamUtil::CriticalMessage(const QString &text, QWidget *parent)
 
 void WebcamUtil::showMessage(QMessageBox::Icon icon, const QString &text, QWidget *parent)
 {
-    QMessageBox box(icon, QObject::tr("Orvanta"), text, QMessageBox::Ok, parent,
-                    Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    CentredMessageBox box(icon, QObject::tr("Orvanta"), text, QMessageBox::Ok, parent,
+                          Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
     moveToCenter(&box, parent);
     box.exec();
 }
@@ -43,7 +67,5 @@ void WebcamUtil::moveToCenter(QWidget *widget, QWidget * /*parent*/)
     if (!widget)
         return;
     widget->setFixedSize(widget->sizeHint());
-    const QSize desktop = QGuiApplication::primaryScreen()->virtualSize();
-    widget->move((desktop.width() - widget->width()) / 2,
-                 (desktop.height() - widget->height()) / 2);
+    centreOnDesktop(widget);
 }

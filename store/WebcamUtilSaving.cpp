@@ -82,7 +82,7 @@ bool copyFile(const QString &from, const QString &to)
 /** Moves one captured file; one that is already at the destination is only removed here. */
 bool moveFile(const QString &from, const QString &to)
 {
-    if (!QFileInfo::exists(to)) {
+    if (!QFileInfo(to).isFile()) {
         if (renameFile(from, to))
             return true;
         if (!copyFile(from, to))

@@ -1,0 +1,117 @@
+#include "StoreFolders.h"
+#include "WebcamUtil.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTest>
+
+class WebcamUtilNamesTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void stampsAreMadeOfTheMoment_data();
+    void stampsAreMadeOfTheMoment();
+    void stampsAreTakenNowUnlessToldOtherwise();
+    void aPhotoIsNamedByTheMillisecond();
+    void aPhotoAfterMidnightKeepsItsZeros();
+    void aMovieIsNamedByTheSecondInTheTemporaryArea();
+    void twoMoviesOfTheSameSecondShareTheirName();
+    void theDaysFolderIsMadeAndMadeOnce();
+    void theDaysFolderIsEmptyWhereItCannotBeMade();
+};
+
+void WebcamUtilNamesTest::stampsAreMadeOfTheMoment_data()
+{
+    QTest::addColumn<QDateTime>("moment");
+    QTest::addColumn<QString>("milliseconds");
+    const auto row = [](const char *name, const QDate &day, const QTime &time, const char *stamp) {
+        QTest::newRow(name) << QDateTime(day, time) << QString(QLatin1String(stamp));
+    };
+    row("a lesson", {2009, 3, 4}, {9, 5, 7, 42}, "20090304090507042");
+    row("midnight", {2010, 1, 1}, {0, 0, 0, 0}, "20100101000000000");
+    row("just after midnight", {2010, 1, 1}, {0, 0, 0, 5}, "20100101000000005");
+    row("just before midnight", {2010, 12, 31}, {23, 59, 59, 999}, "20101231235959999");
+    row("noon", {2021, 6, 15}, {12, 0, 0, 0}, "20210615120000000");
+    row("in the evening", {2021, 6, 15}, {21, 7, 9, 0}, "20210615210709000");
+    row("a leap day", {2024, 2, 29}, {8, 30, 0, 120}, "20240229083000120");
+    row("the year 999", {999, 7, 8}, {1, 2, 3, 4}, "09990708010203004");
+}
+
+void WebcamUtilNamesTest::stampsAreMadeOfTheMoment()
+{
+    QFETCH(QDateTime, moment);
+    QFETCH(QString, milliseconds);
+    QCOMPARE(WebcamUtil::CurrentTimeQString(moment), milliseconds);
+    QCOMPARE(WebcamUtil::CurrentSecondString(moment), milliseconds.left(14));
+    QCOMPARE(WebcamUtil::CurrentDateString(moment), milliseconds.left(8));
+}
+
+void WebcamUtilNamesTest::stampsAreTakenNowUnlessToldOtherwise()
+{
+    const QString before = WebcamUtil::CurrentTimeQString(QDateTime::currentDateTime());
+    const QString stamp = WebcamUtil::CurrentTimeQString();
+    const QString photo = WebcamUtil::CreatePhotofilename();
+    const QString after = WebcamUtil::CurrentTimeQString(QDateTime::currentDateTime());
+    QVERIFY(QRegularExpression("^[0-9]{17}$").match(stamp).hasMatch());
+    QVERIFY(before <= stamp && stamp <= after);
+    QVERIFY(before <= photo.mid(5, 17) && photo.mid(5, 17) <= after);
+}
+
+void WebcamUtilNamesTest::aPhotoIsNamedByTheMillisecond()
+{
+    const QDateTime moment({2009, 3, 4}, {9, 5, 7, 42});
+    QCOMPARE(WebcamUtil::CreatePhotofilename(moment), QString("photo20090304090507042.png"));
+    QCOMPARE(WebcamUtil::CreateTempPhotofilename(moment), QString("photo20090304090507042tmp.png"));
+}
+
+void WebcamUtilNamesTest::aPhotoAfterMidnightKeepsItsZeros()
+{
+    QCOMPARE(WebcamUtil::CreatePhotofilename(QDateTime({2010, 1, 1}, {0, 0, 0, 5})),
+             QString("photo20100101000000005.png"));
+}
+
+void WebcamUtilNamesTest::aMovieIsNamedByTheSecondInTheTemporaryArea()
+{
+    const StoreFolders folders;
+    const QDateTime moment({2009, 3, 4}, {21, 7, 9, 999});
+    QCOMPARE(WebcamUtil::CreateMoviefilename(moment), folders.area() + "/movie20090304210709.mov");
+    QCOMPARE(WebcamUtil::CreateTempMoviefilename(moment),
+             folders.area() + "/movie20090304210709tmpphoto");
+    QVERIFY(QFileInfo(folders.area()).isDir());
+}
+
+void WebcamUtilNamesTest::twoMoviesOfTheSameSecondShareTheirName()
+{
+    const StoreFolders folders;
+    const QDateTime moment({2009, 3, 4}, {9, 5, 7, 42});
+    QCOMPARE(WebcamUtil::CreateMoviefilename(moment),
+             WebcamUtil::CreateMoviefilename(moment.addMSecs(900)));
+    QVERIFY(WebcamUtil::CreateMoviefilename(moment)
+            != WebcamUtil::CreateMoviefilename(moment.addMSecs(1000)));
+}
+
+void WebcamUtilNamesTest::theDaysFolderIsMadeAndMadeOnce()
+{
+    const StoreFolders folders;
+    const QDateTime moment({2009, 3, 4}, {9, 5, 7});
+    const QString base = folders.root() + "/not/yet/there";
+    const QString expected = base + "/TavelinCamera/20090304";
+    QCOMPARE(WebcamUtil::CreateSavePath(base, moment), expected);
+    QVERIFY(QFileInfo(expected).isDir());
+    QVERIFY(StoreFolders::write(expected + "/photo1.png"));
+    QCOMPARE(WebcamUtil::CreateSavePath(base, moment), expected);
+    QVERIFY(QFileInfo::exists(expected + "/photo1.png"));
+}
+
+void WebcamUtilNamesTest::theDaysFolderIsEmptyWhereItCannotBeMade()
+{
+    const StoreFolders folders;
+    const QString file = folders.root() + "/plainfile";
+    QVERIFY(StoreFolders::write(file, "still a file"));
+    QCOMPARE(WebcamUtil::CreateSavePath(file), QString());
+    QCOMPARE(StoreFolders::read(file), QByteArray("still a file"));
+}
+
+QTEST_GUILESS_MAIN(WebcamUtilNamesTest)
+#include "tst_webcamutilnames.moc"

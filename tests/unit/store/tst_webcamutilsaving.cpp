@@ -1,0 +1,333 @@
+#include "StoreFolders.h"
+#include "WebcamUtil.h"
+
+#include <QCursor>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QStorageInfo>
+#include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace {
+
+const QDateTime kLesson({2009, 3, 4}, {9, 5, 7});
+
+/** No file may grow beyond the limit while it lives: a disk that is full in the middle of a copy.
+ */
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes)
+        : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_oldLimit);
+        const rlimit limit = {bytes, m_oldLimit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_oldLimit);
+        std::signal(SIGXFSZ, m_oldHandler);
+    }
+    Q_DISABLE_COPY(FullDisk)
+
+private:
+    void (*m_oldHandler)(int);
+    rlimit m_oldLimit = {};
+};
+
+QStringList filesIn(const QString &path)
+{
+    return QDir(path).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+}
+
+/** Notes which cursor is shown at the moment the store complains. */
+Qt::CursorShape cursorAtComplaint = Qt::ArrowCursor;
+
+void noteCursor(QtMsgType, const QMessageLogContext &context, const QString &)
+{
+    if (qstrcmp(context.category, "orvanta.store") == 0 && QGuiApplication::overrideCursor())
+        cursorAtComplaint = QGuiApplication::overrideCursor()->shape();
+}
+
+/** The temporary area on another file system than the tests' own, for as long as it lives. */
+class AreaElsewhere {
+public:
+    explicit AreaElsewhere(const StoreFolders &folders)
+        : m_folder(QStringLiteral("/dev/shm/tst_webcamutilsaving-XXXXXX"))
+        , m_isOther(QStorageInfo(m_folder.path()).device()
+                    != QStorageInfo(folders.target()).device())
+    {
+        qputenv("TMPDIR", QFile::encodeName(m_folder.path()));
+        StoreFolders::forget();
+    }
+    bool isOther() const { return m_folder.isValid() && m_isOther; }
+
+private:
+    QTemporaryDir m_folder;
+    bool m_isOther;
+};
+
+} // namespace
+
+class WebcamUtilSavingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everythingCapturedMovesIntoTheDaysFolder();
+    void savingIsDatedByTheDayOfSaving();
+    void savingTwiceOnADayFillsOneFolder();
+    void aFileSavedBeforeIsKeptAndTheCapturedOneRemoved();
+    void anEmptyAreaIsNothingToSave();
+    void aStrayFileIsNeitherSavedNorDeleted();
+    void aPhotoWithAShortNameIsCapturedToo();
+    void aNameInAnotherLetterCaseIsNotMoved();
+    void aFolderThatCannotBeMadeLeavesAllFiles();
+    void savingStopsAtTheFirstFileThatCannotBeMoved();
+    void withoutAnAreaNoForeignFileIsTouched();
+    void anotherFileSystemGetsTheWholeCopy();
+    void aFullDiskLeavesNoHalfFileAndKeepsTheCaptured();
+    void theRestOfABrokenCopyDoesNotHinderTheNext();
+    void theWaitCursorIsShownOnlyWhileSaving();
+    void deletingLeavesStrayFilesAndTheFolder();
+    void deletingOneFileIgnoresAMissingOne();
+};
+
+void WebcamUtilSavingTest::everythingCapturedMovesIntoTheDaysFolder()
+{
+    const StoreFolders folders;
+    const QString target = folders.root() + "/not/yet/there";
+    QVERIFY(StoreFolders::write(folders.area() + "/photo1.png", "a photo"));
+    QVERIFY(StoreFolders::write(folders.area() + "/movie1.mov", "a movie"));
+    QVERIFY(StoreFolders::write(folders.area() + "/movie1tmp.png", "its picture"));
+    QVERIFY(WebcamUtil::saveData(target, kLesson));
+    const QString saved = target + "/TavelinCamera/20090304";
+    QCOMPARE(filesIn(saved), QStringList({"movie1.mov", "movie1tmp.png", "photo1.png"}));
+    QCOMPARE(StoreFolders::read(saved + "/photo1.png"), QByteArray("a photo"));
+    QCOMPARE(StoreFolders::read(saved + "/movie1.mov"), QByteArray("a movie"));
+    QCOMPARE(filesIn(folders.area()), QStringList());
+}
+
+void WebcamUtilSavingTest::savingIsDatedByTheDayOfSaving()
+{
+    const StoreFolders folders;
+    QVERIFY(StoreFolders::write(folders.area() + "/photo20090304090507042.png", "x", kLesson));
+    const QString before = WebcamUtil::CurrentDateString();
+    QVERIFY(WebcamUtil::saveData(folders.target()));
+    const QString after = WebcamUtil::CurrentDateString();
+    const QStringList days =
+        QDir(folders.target() + "/TavelinCamera").entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    QCOMPARE(days.size(), 1);
+    QVERIFY(days.constFirst() == before || days.constFirst() == after);
+}
+
+void WebcamUtilSavingTest::savingTwiceOnADayFillsOneFolder()
+{
+    const StoreFolders folders;
+    QVERIFY(StoreFolders::write(folders.area() + "/photo1.png"));
+    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(StoreFolders::write(folders.area() + "/photo2.png"));
+    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson.addSecs(3600)));
+    QCOMPARE(filesIn(folders.target() + "/TavelinCamera/20090304"),
+             QStringList({"photo1.png", "photo2.png"}));
+}
+
+void WebcamUtilSavingTest::aFileSavedBeforeIsKeptAndTheCapturedOneRemoved()
+{
+    const StoreFolders folders;
+    const QString saved = folders.target() + "/TavelinCamera/20090304";
+    QVERIFY(StoreFolders::write(saved + "/photo1.png", "saved before"));
+    QVERIFY(StoreFolders::write(folders.area() + "/photo1.png", "again", kLesson.addSecs(1)));
+    QVERIFY(StoreFolders::write(folders.area() + "/photo0.png", "older", kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QCOMPARE(StoreFolders::read(saved + "/photo1.png"), QByteArray("saved before"));
+    QCOMPARE(StoreFolders::read(saved + "/photo0.png"), QByteArray("older"));
+    QCOMPARE(filesIn(folders.area()), QStringList());
+}
+
+void WebcamUtilSavingTest::anEmptyAreaIsNothingToSave()
+{
+    const StoreFolders folders;
+    QVERIFY(!WebcamUtil::saveData(folders.target(), kLesson));
+}
+
+void WebcamUtilSavingTest::aStrayFileIsNeitherSavedNorDeleted()
+{
+    const StoreFolders folders;
+    QVERIFY(StoreFolders::write(folders.area() + "/notes.txt"));
+    QVERIFY(WebcamUtil::isSaveFile());
+    QVERIFY(!WebcamUtil::saveData(folders.target(), kLesson));
+    WebcamUtil::deleteData();
+    QCOMPARE(filesIn(folders.area()), QStringList("notes.txt"));
+    QCOMPARE(filesIn(folders.target() + "/TavelinCamera/20090304"), QStringList());
+}
+
+void WebcamUtilSavingTest::aPhotoWithAShortNameIsCapturedToo()
+{
+    const StoreFolders folders;
+    QVERIFY(StoreFolders::write(folders.area() + "/photoX.png"));
+    QCOMPARE(WebcamUtil::getTempPhotoNameList(), QStringList("photoX.png"));
+    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QCOMPARE(filesIn(folders.target() + "/TavelinCamera/20090304"), QStringList("photoX.png"));
+}
+
+void WebcamUtilSavingTest::aNameInAnotherLetterCaseIsNotMoved()
+{
+    const StoreFolders folders;
+    QVERIFY(StoreFolders::write(folders.area() + "/Photo1.png"));
+    QVERIFY(StoreFolders::write(folders.area() + "/photo2.png"));
+    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QCOMPARE(filesIn(folders.area()), QStringList("Photo1.png"));
+}
+
+void WebcamUtilSavingTest::aFolderThatCannotBeMadeLeavesAllFiles()
+{
+    const StoreFolders folders;
+    const QString file = folders.root() + "/plainfile";
+    QVERIFY(StoreFolders::write(file, "still a file"));
+    QVERIFY(StoreFolders::write(folders.area() + "/photo1.png", "a photo"));
+    QVERIFY(!WebcamUtil::saveData(file, kLesson));
+    QCOMPARE(StoreFolders::read(folders.area() + "/photo1.png"), QByteArray("a photo"));
+    QCOMPARE(StoreFolders::read(file), QByteArray("still a file"));
+}
+
+void WebcamUtilSavingTest::savingStopsAtTheFirstFileThatCannotBeMoved()
+{
+    const StoreFolders folders;
+    for (int i : {1, 2, 3})
+        QVERIFY(StoreFolders::write(folders.area() + QString("/photo%1.png").arg(i), "a photo",
+                                    kLesson.addSecs(i)));
+    // A folder of the photo's name keeps it out, whoever the user is.
+    const QString saved = folders.target() + "/TavelinCamera/20090304";
+    QVERIFY(QDir().mkpath(saved + "/photo2.png"));
+    QVERIFY(!WebcamUtil::saveData(folders.target(), kLesson));
+    QCOMPARE(filesIn(saved), QStringList("photo3.png"));
+    QCOMPARE(filesIn(folders.area()), QStringList({"photo1.png", "photo2.png"}));
+}
+
+void WebcamUtilSavingTest::withoutAnAreaNoForeignFileIsTouched()
+{
+    StoreFolders folders;
+    folders.makeAreaImpossible();
+    const QString foreign = folders.root() + "/photo-of-the-class.png";
+    QVERIFY(StoreFolders::write(foreign, "not ours"));
+    const QString current = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folders.root()));
+    const bool saved = WebcamUtil::saveData(folders.target(), kLesson);
+    WebcamUtil::deleteData();
+    QVERIFY(QDir::setCurrent(current));
+    QVERIFY(!saved);
+    QCOMPARE(StoreFolders::read(foreign), QByteArray("not ours"));
+    QCOMPARE(filesIn(folders.target() + "/TavelinCamera/20090304"), QStringList());
+}
+
+void WebcamUtilSavingTest::anotherFileSystemGetsTheWholeCopy()
+{
+    const StoreFolders folders;
+    const AreaElsewhere elsewhere(folders);
+    QVERIFY2(elsewhere.isOther(), "needs a second file system at /dev/shm");
+    const QString photo = WebcamUtil::getTemporaryPath() + "/photo1.png";
+    const QByteArray contents = QByteArray("0123456789abcdef").repeated(200 * 1024) + "the end";
+    QVERIFY(StoreFolders::write(photo, contents, kLesson));
+    QVERIFY(QFile::setPermissions(photo, QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+
+    const QString saved = folders.target() + "/TavelinCamera/20090304";
+    QCOMPARE(filesIn(saved), QStringList("photo1.png"));
+    QVERIFY(StoreFolders::read(saved + "/photo1.png") == contents);
+    const QFileInfo copy(saved + "/photo1.png");
+    QCOMPARE(copy.lastModified(), kLesson);
+    QVERIFY(!copy.permission(QFile::ReadOther) && !copy.permission(QFile::ReadGroup));
+    QCOMPARE(filesIn(WebcamUtil::getTemporaryPath()), QStringList());
+}
+
+void WebcamUtilSavingTest::aFullDiskLeavesNoHalfFileAndKeepsTheCaptured()
+{
+    const StoreFolders folders;
+    const AreaElsewhere elsewhere(folders);
+    QVERIFY2(elsewhere.isOther(), "needs a second file system at /dev/shm");
+    const QString area = WebcamUtil::getTemporaryPath();
+    const QByteArray large(3 * 1024 * 1024, 'm');
+    QVERIFY(StoreFolders::write(area + "/photo1.png", "oldest", kLesson));
+    QVERIFY(StoreFolders::write(area + "/movie1.mov", large, kLesson.addSecs(1)));
+    QVERIFY(StoreFolders::write(area + "/photo2.png", "newest", kLesson.addSecs(2)));
+    bool saved = true;
+    {
+        const FullDisk disk(rlim_t(2) * 1024 * 1024);
+        saved = WebcamUtil::saveData(folders.target(), kLesson);
+    }
+    QVERIFY(!saved);
+    const QString folder = folders.target() + "/TavelinCamera/20090304";
+    QCOMPARE(filesIn(folder), QStringList("photo2.png"));
+    QCOMPARE(filesIn(area), QStringList({"movie1.mov", "photo1.png"}));
+    QVERIFY(StoreFolders::read(area + "/movie1.mov") == large);
+
+    // With room again the next attempt saves what was left.
+    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(StoreFolders::read(folder + "/movie1.mov") == large);
+    QCOMPARE(filesIn(folder), QStringList({"movie1.mov", "photo1.png", "photo2.png"}));
+    QCOMPARE(filesIn(area), QStringList());
+}
+
+void WebcamUtilSavingTest::theRestOfABrokenCopyDoesNotHinderTheNext()
+{
+    const StoreFolders folders;
+    const AreaElsewhere elsewhere(folders);
+    QVERIFY2(elsewhere.isOther(), "needs a second file system at /dev/shm");
+    QVERIFY(StoreFolders::write(WebcamUtil::getTemporaryPath() + "/photo1.png", "short"));
+    // What a power cut in the middle of a longer copy would leave.
+    const QString folder = folders.target() + "/TavelinCamera/20090304";
+    QVERIFY(StoreFolders::write(folder + "/.photo1.png.part", "much longer than the photo"));
+    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QCOMPARE(filesIn(folder), QStringList("photo1.png"));
+    QCOMPARE(StoreFolders::read(folder + "/photo1.png"), QByteArray("short"));
+}
+
+void WebcamUtilSavingTest::theWaitCursorIsShownOnlyWhileSaving()
+{
+    const StoreFolders folders;
+    QVERIFY(StoreFolders::write(folders.area() + "/photo1.png"));
+    QVERIFY(QDir().mkpath(folders.target() + "/TavelinCamera/20090304/photo1.png"));
+    cursorAtComplaint = Qt::ArrowCursor;
+    const QtMessageHandler oldHandler = qInstallMessageHandler(noteCursor);
+    const bool saved = WebcamUtil::saveData(folders.target(), kLesson);
+    qInstallMessageHandler(oldHandler);
+    QVERIFY(!saved);
+    QCOMPARE(cursorAtComplaint, Qt::WaitCursor);
+    QVERIFY(!QGuiApplication::overrideCursor());
+
+    QVERIFY(QDir(folders.target() + "/TavelinCamera").removeRecursively());
+    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(!QGuiApplication::overrideCursor());
+}
+
+void WebcamUtilSavingTest::deletingLeavesStrayFilesAndTheFolder()
+{
+    const StoreFolders folders;
+    for (const char *name :
+         {"photo1.png", "movie1.mov", "movie1tmp.png", "photoX.png", "Photo1.png", "notes.txt"})
+        QVERIFY(StoreFolders::write(folders.area() + "/" + name));
+    WebcamUtil::deleteData();
+    QCOMPARE(filesIn(folders.area()), QStringList({"Photo1.png", "notes.txt"}));
+    QVERIFY(QFile::remove(folders.area() + "/Photo1.png"));
+    QVERIFY(QFile::remove(folders.area() + "/notes.txt"));
+    WebcamUtil::deleteData();
+    QVERIFY(QFileInfo(folders.area()).isDir());
+}
+
+void WebcamUtilSavingTest::deletingOneFileIgnoresAMissingOne()
+{
+    const StoreFolders folders;
+    const QString photo = folders.area() + "/photo1.png";
+    QVERIFY(StoreFolders::write(photo));
+    QVERIFY(StoreFolders::write(folders.area() + "/photo2.png"));
+    WebcamUtil::deletetmpfile(photo);
+    WebcamUtil::deletetmpfile(photo);
+    QCOMPARE(filesIn(folders.area()), QStringList("photo2.png"));
+}
+
+QTEST_MAIN(WebcamUtilSavingTest)
+#include "tst_webcamutilsaving.moc"
