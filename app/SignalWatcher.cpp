@@ -1,6 +1,8 @@
 #include "SignalWatcher.h"
 
+#include <QApplication>
 #include <QSocketNotifier>
+#include <QWidget>
 
 #include <cerrno>
 #include <csignal>
@@ -8,6 +10,8 @@
 #include <unistd.h>
 
 namespace {
+
+constexpr int closingStepMs = 20; // time for the flow behind a closed box to go on
 
 // A signal handler may do next to nothing; writing a byte into a pipe is allowed.
 int writeEnd = -1;
@@ -33,9 +37,11 @@ void handleWith(void (*handler)(int))
 
 } // namespace
 
-SignalWatcher::SignalWatcher(QObject *parent)
-    : QObject(parent)
+SignalWatcher::SignalWatcher(QWidget *window)
+    : m_window(window)
 {
+    m_closing.setInterval(closingStepMs);
+    connect(&m_closing, &QTimer::timeout, this, &SignalWatcher::closeTopmost);
     int ends[2];
     if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) {
         return;
@@ -63,6 +69,16 @@ void SignalWatcher::drain()
 {
     char byte = 0;
     if (read(m_readEnd, &byte, 1) == 1) {
-        emit terminationRequested();
+        m_closing.start();
     }
+}
+
+void SignalWatcher::closeTopmost()
+{
+    if (QWidget *box = QApplication::activeModalWidget()) {
+        box->close();
+        return;
+    }
+    m_closing.stop();
+    m_window->close();
 }

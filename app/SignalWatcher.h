@@ -2,34 +2,39 @@
 #define SIGNALWATCHER_H
 
 #include <QObject>
+#include <QTimer>
 #include <memory>
 
 class QSocketNotifier;
+class QWidget;
 
 /**
- * Turns the end of a session into an ordinary one: SIGTERM and SIGINT arrive as a Qt signal, so the
- * window can close as if the user had closed it and a recording is finished first.
+ * Turns the end of a session into an ordinary one: on SIGTERM or SIGINT the window is closed as if
+ * the user had closed it, so that a recording is finished first.
+ *
+ * A box that is open meanwhile is closed before, as by its own close button, and so is the next one
+ * that its flow opens: a window that went away beneath a box would leave a program without windows,
+ * waiting for an answer.
  *
  * A second signal of the same kind ends the program at once, as without a watcher. One object at a
- * time, on the GUI thread. Without the pipe (no file descriptor left) the signals keep their usual
- * effect.
+ * time, on the GUI thread; the window is not owned and must outlive it. Without the pipe (no file
+ * descriptor left) the signals keep their usual effect.
  */
 class SignalWatcher : public QObject {
     Q_OBJECT
 
 public:
-    explicit SignalWatcher(QObject *parent = nullptr);
+    explicit SignalWatcher(QWidget *window);
     ~SignalWatcher() override;
-
-signals:
-    /// Leaves from the event loop, never from inside the signal handler.
-    void terminationRequested();
 
 private:
     void drain();
+    void closeTopmost();
 
+    QWidget *m_window;
     int m_readEnd = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;
+    QTimer m_closing; ///< runs from the signal until the window is closed
 };
 
 #endif

@@ -30,8 +30,7 @@ int main(int argc, char **argv)
     if (!dialog.isDeviceSelected()) {
         return -1;
     }
-    const SignalWatcher watcher;
-    QObject::connect(&watcher, &SignalWatcher::terminationRequested, &dialog, &QWidget::close);
+    const SignalWatcher watcher(&dialog);
 
     dialog.SetPluginPath(QCoreApplication::applicationDirPath());
     dialog.setVisible(true);

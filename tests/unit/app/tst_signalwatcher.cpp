@@ -1,8 +1,9 @@
 #include "SignalWatcher.h"
 
-#include <QProcess>
-#include <QSignalSpy>
+#include <QMessageBox>
 #include <QTest>
+#include <QTimer>
+#include <QWidget>
 
 #include <csignal>
 #include <unistd.h>
@@ -11,8 +12,9 @@ class tst_SignalWatcher : public QObject {
     Q_OBJECT
 
 private slots:
-    void aRequestToEndArrivesFromTheEventLoop_data();
-    void aRequestToEndArrivesFromTheEventLoop();
+    void aSignalClosesTheWindowFromTheEventLoop_data();
+    void aSignalClosesTheWindowFromTheEventLoop();
+    void boxesAreClosedBeforeTheWindow();
     void afterTheFirstSignalTheUsualEffectIsBack();
     void withoutAWatcherTheUsualEffectIsBack();
 };
@@ -28,43 +30,64 @@ bool endsTheProgram(int signal)
 
 } // namespace
 
-void tst_SignalWatcher::aRequestToEndArrivesFromTheEventLoop_data()
+void tst_SignalWatcher::aSignalClosesTheWindowFromTheEventLoop_data()
 {
     QTest::addColumn<int>("signal");
     QTest::newRow("SIGTERM") << SIGTERM;
     QTest::newRow("SIGINT") << SIGINT;
 }
 
-void tst_SignalWatcher::aRequestToEndArrivesFromTheEventLoop()
+void tst_SignalWatcher::aSignalClosesTheWindowFromTheEventLoop()
 {
     QFETCH(int, signal);
-    SignalWatcher watcher;
-    QSignalSpy requested(&watcher, &SignalWatcher::terminationRequested);
+    QWidget window;
+    window.show();
+    SignalWatcher watcher(&window);
     QVERIFY(!endsTheProgram(signal));
     QCOMPARE(kill(getpid(), signal), 0);
-    QCOMPARE(requested.size(), 0);
-    QTRY_COMPARE(requested.size(), 1);
+    QVERIFY(window.isVisible());
+    QTRY_VERIFY(!window.isVisible());
+}
+
+void tst_SignalWatcher::boxesAreClosedBeforeTheWindow()
+{
+    QWidget window;
+    window.show();
+    SignalWatcher watcher(&window);
+    QTimer limit; // a box that stays open would hold up the test for ever
+    connect(&limit, &QTimer::timeout, qApp, [] { qFatal("a box was left open"); });
+    limit.start(20000);
+
+    QCOMPARE(kill(getpid(), SIGTERM), 0);
+    for (const char *text : {"first", "the flow goes on with a second"}) {
+        QMessageBox box(QMessageBox::Warning, "Orvanta", text, QMessageBox::Ok, &window);
+        box.exec();
+        QVERIFY2(window.isVisible(), text);
+    }
+    QTRY_VERIFY(!window.isVisible());
 }
 
 void tst_SignalWatcher::afterTheFirstSignalTheUsualEffectIsBack()
 {
-    SignalWatcher watcher;
-    QSignalSpy requested(&watcher, &SignalWatcher::terminationRequested);
+    QWidget window;
+    window.show();
+    SignalWatcher watcher(&window);
     QCOMPARE(kill(getpid(), SIGTERM), 0);
-    QTRY_COMPARE(requested.size(), 1);
+    QTRY_VERIFY(!window.isVisible());
     QVERIFY(endsTheProgram(SIGTERM));
     QVERIFY(!endsTheProgram(SIGINT));
 }
 
 void tst_SignalWatcher::withoutAWatcherTheUsualEffectIsBack()
 {
+    QWidget window;
     {
-        SignalWatcher watcher;
+        SignalWatcher watcher(&window);
         QVERIFY(!endsTheProgram(SIGTERM));
     }
     QVERIFY(endsTheProgram(SIGTERM));
     QVERIFY(endsTheProgram(SIGINT));
 }
 
-QTEST_GUILESS_MAIN(tst_SignalWatcher)
+QTEST_MAIN(tst_SignalWatcher)
 #include "tst_signalwatcher.moc"
