@@ -1,3 +1,4 @@
+#include "OrdinaryUser.h"
 #include "StoreFolders.h"
 #include "WebcamUtil.h"
 
@@ -8,33 +9,6 @@
 
 #include <sys/stat.h>
 #include <unistd.h>
-
-namespace {
-
-/** Puts off the powers of root, who may write everywhere, for as long as it lives. */
-class OrdinaryUser {
-public:
-    OrdinaryUser()
-        : m_real(getuid())
-        , m_effective(geteuid())
-    {
-        m_ordinary = m_effective != 0 || setresuid(65534, 65534, 0) == 0;
-    }
-    ~OrdinaryUser()
-    {
-        if (m_effective == 0 && m_ordinary)
-            m_ordinary = setresuid(m_real, m_effective, uid_t(-1)) == 0;
-    }
-    Q_DISABLE_COPY(OrdinaryUser)
-    bool isOrdinary() const { return m_ordinary; }
-
-private:
-    uid_t m_real;
-    uid_t m_effective;
-    bool m_ordinary = false;
-};
-
-} // namespace
 
 class WebcamUtilPathsTest : public QObject {
     Q_OBJECT
