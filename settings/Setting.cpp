@@ -4,35 +4,33 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QRegularExpression>
 #include <QSettings>
+
+#include <algorithm>
+#include <array>
 
 namespace {
 
-// The file's keys are part of its format.
-const QString autoShootKey = QStringLiteral("AutoShoot");
-const QString autoShootTimeKey = QStringLiteral("AutoShootTime");
-const QString continuousCountKey = QStringLiteral("ContinuShootCount");
-const QString photoPreviewKey = QStringLiteral("PhotoPreview");
-const QString resolutionKey = QStringLiteral("Resolution");
-const QString saveDirectoryKey = QStringLiteral("SaveDirectory");
-
-QString settingsPath()
+QString settingsFile()
 {
     return WebcamUtil::getAppPath() + QStringLiteral("/.halcyra_orvantacc.ini");
 }
 
-// A value out of its range leaves what was there. Text that is no number reads as 0.
-void readInRange(int value, int least, int most, int &into)
+/** Takes the number under the key, if it is in range; returns what was read in any case. */
+int readNumber(const QSettings &file, const QString &key, int absent, int least, int most,
+               int &preference)
 {
-    if (value >= least && value <= most)
-        into = value;
+    const int value = file.value(key, absent).toInt();
+    if (least <= value && value <= most)
+        preference = value;
+    return value;
 }
 
-// Selects the entry with exactly this text, or @p otherwise.
-void select(QComboBox *box, const QString &text, int otherwise)
+void select(QComboBox &box, const QString &text, int otherwise)
 {
-    const int found = box->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    box->setCurrentIndex(found >= 0 ? found : otherwise);
+    const int index = box.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    box.setCurrentIndex(index < 0 ? otherwise : index);
 }
 
 } // namespace
@@ -43,228 +41,242 @@ Setting::Setting(QWidget *parent)
     setAutoFillBackground(true);
     setWindowFlags((windowFlags() & ~Qt::WindowContextHelpButtonHint) | Qt::WindowStaysOnTopHint);
     hide();
-    m_form.setupUi(this);
-    m_defaultDirectory = WebcamUtil::getDocumentPath();
+    m_ui.setupUi(this);
+
+    m_defaultSaveDirectory = WebcamUtil::getDocumentPath();
     setDefaultValue();
     setCaptions();
     setCmbValue();
     readFile();
     setParam();
     connectControls();
+
+    fitRowsToTexts();
     adjustSize();
     setFixedSize(size());
 }
 
-void Setting::connectControls()
-{
-    connect(m_form.btnOk, &QPushButton::clicked, this, &Setting::OnOk);
-    connect(m_form.btnCancel, &QPushButton::clicked, this, &Setting::reject);
-    connect(m_form.tolSaveDirectory, &QToolButton::clicked, this, &Setting::setSaveDirectory);
-    connect(m_form.rbtnDefault, &QRadioButton::clicked, this, &Setting::onDefault);
-    connect(m_form.rbtnCustom, &QRadioButton::clicked, this, &Setting::onCustom);
-    connect(m_form.chbAutoShooting, &QCheckBox::clicked, this, &Setting::AutoCheck);
-}
-
-void Setting::showEvent(QShowEvent *)
+void Setting::showEvent(QShowEvent * /*event*/)
 {
     readFile();
     setParam();
     adjustPosition(parentWidget());
 }
 
+void Setting::setDefaultValue()
+{
+    m_autoShootingTimes = QStringList{"1", "2", "3", "4", "5", "10", "15", "20", "30"};
+    m_continuousCounts = QStringList{"2", "3", "4", "6", "9"};
+    m_resolutions = QStringList{"640x480"};
+}
+
+void Setting::setCmbValue()
+{
+    m_ui.cmbResolution->clear();
+    m_ui.cmbAutoShooting->clear();
+    m_ui.cmbContinuousShooting->clear();
+    m_ui.cmbResolution->addItems(m_resolutions);
+    m_ui.cmbAutoShooting->addItems(m_autoShootingTimes);
+    m_ui.cmbContinuousShooting->addItems(m_continuousCounts);
+}
+
+void Setting::setCaptions()
+{
+    m_ui.chbAutoShooting->setText(tr("Self Timer"));
+    m_ui.lblShootingInterval->setText(tr("second"));
+    m_ui.lblContinuousShooting->setText(tr("Continuous Capture"));
+    m_ui.lblShootingCount->setText(tr("Shots"));
+    m_ui.chbPhotoPreview->setText(tr("Confirm captured image"));
+    m_ui.lblResolution->setText(tr("Resolution"));
+    m_ui.btnOk->setText(tr("OK"));
+    m_ui.btnCancel->setText(tr("Cancel"));
+    m_ui.rbtnDefault->setText(tr("Use default location"));
+    m_ui.rbtnCustom->setText(tr("Use other location"));
+    m_ui.label->setText(tr("Save Directry:"));
+    // The other boxes are named by their labels; these two have none.
+    m_ui.cmbAutoShooting->setAccessibleName(tr("Self Timer"));
+    m_ui.tolSaveDirectory->setAccessibleName(tr("SaveDirectory"));
+}
+
+/**
+ * Rows have fixed places. Where a language needs more room all of them become wider together, and
+ * the words behind the boxes equally wide, so that the boxes stay in one column.
+ */
+void Setting::fitRowsToTexts()
+{
+    const std::array<QLabel *, 3> units = {m_ui.lblShootingInterval, m_ui.lblShootingCount,
+                                           m_ui.lblShootingCount_2};
+    int unitWidth = 0;
+    for (const QLabel *unit : units)
+        unitWidth = std::max({unitWidth, unit->minimumWidth(), unit->sizeHint().width()});
+    for (QLabel *unit : units)
+        unit->setMinimumWidth(unitWidth);
+
+    const auto rows = findChildren<QWidget *>(
+        QRegularExpression(QStringLiteral("^horizontalLayoutWidget")), Qt::FindDirectChildrenOnly);
+    int width = 0;
+    for (const QWidget *row : rows)
+        width = std::max({width, row->width(), row->sizeHint().width()});
+    for (QWidget *row : rows)
+        row->resize(width, row->height());
+}
+
+void Setting::connectControls()
+{
+    connect(m_ui.btnOk, &QPushButton::clicked, this, &Setting::OnOk);
+    connect(m_ui.btnCancel, &QPushButton::clicked, this, &Setting::reject);
+    connect(m_ui.tolSaveDirectory, &QToolButton::clicked, this, &Setting::setSaveDirectory);
+    connect(m_ui.rbtnDefault, &QRadioButton::clicked, this, &Setting::onDefault);
+    connect(m_ui.rbtnCustom, &QRadioButton::clicked, this, &Setting::onCustom);
+    connect(m_ui.chbAutoShooting, &QCheckBox::clicked, this, &Setting::AutoCheck);
+}
+
 void Setting::readFile()
 {
-    const QSettings file(settingsPath(), QSettings::IniFormat);
-    const int autoShooting = file.value(autoShootKey, 1).toInt();
-    readInRange(autoShooting, 0, 1, m_autoShooting);
-    m_form.cmbAutoShooting->setEnabled(autoShooting == 1);
-    readInRange(file.value(autoShootTimeKey, 5).toInt(), 1, 30, m_autoShootingTime);
-    readInRange(file.value(continuousCountKey, 4).toInt(), 2, 9, m_continuousCount);
-    readInRange(file.value(photoPreviewKey, 1).toInt(), 0, 1, m_photoPreview);
-    m_resolution = file.value(resolutionKey, QString()).toString();
-    m_saveDirectory = file.value(saveDirectoryKey, QString()).toString();
+    const QSettings file(settingsFile(), QSettings::IniFormat);
+    const int autoShooting = readNumber(file, QStringLiteral("AutoShoot"), 1, 0, 1, m_autoShooting);
+    m_ui.cmbAutoShooting->setEnabled(autoShooting == 1);
+    readNumber(file, QStringLiteral("AutoShootTime"), 5, 1, 30, m_autoShootingTime);
+    readNumber(file, QStringLiteral("ContinuShootCount"), 4, 2, 9, m_continuousCount);
+    readNumber(file, QStringLiteral("PhotoPreview"), 1, 0, 1, m_photoPreview);
+    m_resolution = file.value(QStringLiteral("Resolution"), QString()).toString();
+    m_saveDirectory = file.value(QStringLiteral("SaveDirectory"), QString()).toString();
 
     const bool custom = !m_saveDirectory.isEmpty();
-    m_form.rbtnDefault->setChecked(!custom);
-    m_form.rbtnCustom->setChecked(custom);
-    m_form.txbSaveDirectory->setEnabled(custom);
-    m_form.tolSaveDirectory->setEnabled(custom);
+    m_ui.rbtnDefault->setChecked(!custom);
+    m_ui.rbtnCustom->setChecked(custom);
+    m_ui.txbSaveDirectory->setEnabled(custom);
+    m_ui.tolSaveDirectory->setEnabled(custom);
 }
 
 void Setting::SaveFile()
 {
-    QSettings file(settingsPath(), QSettings::IniFormat);
-    m_autoShooting = getAutoShooting() ? 1 : 0;
-    file.setValue(autoShootKey, m_autoShooting);
-    m_autoShootingTime = getAutoShootingTime();
-    file.setValue(autoShootTimeKey, m_autoShootingTime);
-    m_continuousCount = m_form.cmbContinuousShooting->currentText().toInt();
-    file.setValue(continuousCountKey, m_continuousCount);
-    m_photoPreview = getPhotoPreview() ? 1 : 0;
-    file.setValue(photoPreviewKey, m_photoPreview);
-    m_resolution = getResolution();
-    file.setValue(resolutionKey, m_resolution);
-    // Written as an empty text, not as a missing one, for the default location.
-    m_saveDirectory =
-        m_form.rbtnCustom->isChecked() ? getSaveDirectory() : QString(QLatin1String(""));
-    file.setValue(saveDirectoryKey, m_saveDirectory);
+    m_autoShooting = m_ui.chbAutoShooting->isChecked() ? 1 : 0;
+    m_autoShootingTime = m_ui.cmbAutoShooting->currentText().toInt();
+    m_continuousCount = m_ui.cmbContinuousShooting->currentText().toInt();
+    m_photoPreview = m_ui.chbPhotoPreview->isChecked() ? 1 : 0;
+    m_resolution = m_ui.cmbResolution->currentText();
+    m_saveDirectory = m_ui.rbtnCustom->isChecked() ? m_ui.txbSaveDirectory->text() : QString();
+
+    QSettings file(settingsFile(), QSettings::IniFormat);
+    file.setValue(QStringLiteral("AutoShoot"), m_autoShooting);
+    file.setValue(QStringLiteral("AutoShootTime"), m_autoShootingTime);
+    file.setValue(QStringLiteral("ContinuShootCount"), m_continuousCount);
+    file.setValue(QStringLiteral("PhotoPreview"), m_photoPreview);
+    file.setValue(QStringLiteral("Resolution"), m_resolution);
+    file.setValue(QStringLiteral("SaveDirectory"), m_saveDirectory);
     file.sync();
 }
 
 void Setting::setParam()
 {
-    m_form.chbAutoShooting->setChecked(m_autoShooting == 1);
-    select(m_form.cmbAutoShooting, QString::number(m_autoShootingTime), 0);
-    m_form.cmbAutoShooting->setEnabled(m_form.chbAutoShooting->isChecked());
-    select(m_form.cmbContinuousShooting, QString::number(m_continuousCount), 0);
-    select(m_form.cmbResolution, m_resolution, m_form.cmbResolution->count() / 2);
-    m_form.txbSaveDirectory->setText(m_saveDirectory.isEmpty() ? m_defaultDirectory
-                                                               : m_saveDirectory);
-    m_form.chbPhotoPreview->setChecked(m_photoPreview == 1);
-}
-
-void Setting::setDefaultValue()
-{
-    m_seconds = QStringLiteral("1 2 3 4 5 10 15 20 30").split(QLatin1Char(' '));
-    m_counts = QStringLiteral("2 3 4 6 9").split(QLatin1Char(' '));
-    m_resolutions = QStringList{QStringLiteral("640x480")};
-}
-
-void Setting::setCmbValue()
-{
-    m_form.cmbResolution->clear();
-    m_form.cmbResolution->addItems(m_resolutions);
-    m_form.cmbAutoShooting->clear();
-    m_form.cmbAutoShooting->addItems(m_seconds);
-    m_form.cmbContinuousShooting->clear();
-    m_form.cmbContinuousShooting->addItems(m_counts);
-}
-
-void Setting::setCaptions()
-{
-    m_form.chbAutoShooting->setText(tr("Self Timer"));
-    m_form.lblShootingInterval->setText(tr("second"));
-    m_form.lblContinuousShooting->setText(tr("Continuous Capture"));
-    m_form.lblShootingCount->setText(tr("Shots"));
-    m_form.chbPhotoPreview->setText(tr("Confirm captured image"));
-    m_form.lblResolution->setText(tr("Resolution"));
-    m_form.btnOk->setText(tr("OK"));
-    m_form.btnCancel->setText(tr("Cancel"));
-    m_form.rbtnDefault->setText(tr("Use default location"));
-    m_form.rbtnCustom->setText(tr("Use other location"));
-    m_form.label->setText(tr("Save Directry:"));
-    // What stands beside a control on the screen is not heard with it.
-    m_form.cmbAutoShooting->setAccessibleName(tr("Self Timer"));
-    m_form.cmbContinuousShooting->setAccessibleName(tr("Continuous Capture"));
-    m_form.cmbResolution->setAccessibleName(tr("Resolution"));
-    m_form.txbSaveDirectory->setAccessibleName(tr("Save Directry:"));
-    m_form.tolSaveDirectory->setAccessibleName(tr("SaveDirectory"));
+    m_ui.chbAutoShooting->setChecked(m_autoShooting == 1);
+    select(*m_ui.cmbAutoShooting, QString::number(m_autoShootingTime), 0);
+    AutoCheck();
+    select(*m_ui.cmbContinuousShooting, QString::number(m_continuousCount), 0);
+    select(*m_ui.cmbResolution, m_resolution, m_ui.cmbResolution->count() / 2);
+    m_ui.txbSaveDirectory->setText(m_saveDirectory.isEmpty() ? m_defaultSaveDirectory
+                                                             : m_saveDirectory);
+    m_ui.chbPhotoPreview->setChecked(m_photoPreview == 1);
 }
 
 bool Setting::getAutoShooting() const
 {
-    return m_form.chbAutoShooting->isChecked();
+    return m_ui.chbAutoShooting->isChecked();
 }
 
 int Setting::getAutoShootingTime() const
 {
-    return m_form.cmbAutoShooting->currentText().toInt();
+    return m_ui.cmbAutoShooting->currentText().toInt();
 }
 
 int Setting::getContinuousShooting() const
 {
-    const QString text = m_form.cmbContinuousShooting->currentText();
-    return text.isEmpty() ? -1 : text.toInt();
+    const QString count = m_ui.cmbContinuousShooting->currentText();
+    return count.isEmpty() ? -1 : count.toInt();
 }
 
 bool Setting::getPhotoPreview() const
 {
-    return m_form.chbPhotoPreview->isChecked();
+    return m_ui.chbPhotoPreview->isChecked();
 }
 
 QString Setting::getSaveDirectory() const
 {
-    return m_form.txbSaveDirectory->text();
+    return m_ui.txbSaveDirectory->text();
 }
 
 QString Setting::getResolution() const
 {
-    return m_form.cmbResolution->currentText();
+    return m_ui.cmbResolution->currentText();
 }
 
 void Setting::setResolutionList(const QStringList &list)
 {
     if (list.isEmpty())
         return;
-    QStringList once = list;
-    once.removeDuplicates();
-    m_form.cmbResolution->clear();
-    m_form.cmbResolution->addItems(once);
-    // The middle of the list as it came: with repeated entries it may lie past the end, which
-    // leaves none selected.
-    const int middle = list.size() / 2;
-    select(m_form.cmbResolution, m_resolution, middle < once.size() ? middle : -1);
+    QStringList resolutions = list;
+    resolutions.removeDuplicates();
+    m_ui.cmbResolution->clear();
+    m_ui.cmbResolution->addItems(resolutions);
+    select(*m_ui.cmbResolution, m_resolution, list.size() / 2);
 }
 
-void Setting::setCmbResoEnable(bool enabled)
+void Setting::setCmbResoEnable(bool enable)
 {
-    m_form.cmbResolution->setEnabled(enabled);
+    m_ui.cmbResolution->setEnabled(enable);
 }
 
-void Setting::setBtnSaveEnable(bool enabled)
+void Setting::setBtnSaveEnable(bool enable)
 {
     m_browseEnabled = false;
-    m_form.tolSaveDirectory->setEnabled(enabled);
+    m_ui.tolSaveDirectory->setEnabled(enable);
 }
 
 void Setting::AutoCheck()
 {
-    m_form.cmbAutoShooting->setEnabled(m_form.chbAutoShooting->checkState() == Qt::Checked);
+    m_ui.cmbAutoShooting->setEnabled(m_ui.chbAutoShooting->checkState() == Qt::Checked);
 }
 
 void Setting::onDefault()
 {
-    m_saveDirectory = m_form.txbSaveDirectory->text(); // a typed path is remembered
-    m_form.txbSaveDirectory->setEnabled(false);
+    // A folder that was typed comes back with onCustom().
+    m_saveDirectory = m_ui.txbSaveDirectory->text();
+    m_ui.txbSaveDirectory->setEnabled(false);
     if (m_browseEnabled)
-        m_form.tolSaveDirectory->setEnabled(false);
-    m_form.txbSaveDirectory->setText(m_defaultDirectory);
+        m_ui.tolSaveDirectory->setEnabled(false);
+    m_ui.txbSaveDirectory->setText(m_defaultSaveDirectory);
 }
 
 void Setting::onCustom()
 {
-    m_form.txbSaveDirectory->setText(m_saveDirectory);
-    m_form.txbSaveDirectory->setEnabled(true);
+    m_ui.txbSaveDirectory->setText(m_saveDirectory);
+    m_ui.txbSaveDirectory->setEnabled(true);
     if (m_browseEnabled)
-        m_form.tolSaveDirectory->setEnabled(true);
+        m_ui.tolSaveDirectory->setEnabled(true);
 }
 
 void Setting::setSaveDirectory()
 {
-    const QString shown = m_form.txbSaveDirectory->text();
+    const QString shown = m_ui.txbSaveDirectory->text();
     const QString chosen = QFileDialog::getExistingDirectory(
-        this, tr("SaveDirectory"), shown.isEmpty() ? m_defaultDirectory : shown,
+        this, tr("SaveDirectory"), shown.isEmpty() ? m_defaultSaveDirectory : shown,
         QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
     if (!chosen.isEmpty())
-        m_form.txbSaveDirectory->setText(chosen);
-}
-
-void Setting::warn(const QString &text)
-{
-    WebcamUtil::WarningMessage(text, this);
+        m_ui.txbSaveDirectory->setText(chosen);
 }
 
 void Setting::OnOk()
 {
-    if (!m_form.rbtnCustom->isChecked()) {
+    if (!m_ui.rbtnCustom->isChecked()) {
         accept();
         return;
     }
-    const QString folder = m_form.txbSaveDirectory->text();
+    const QString folder = m_ui.txbSaveDirectory->text();
     if (folder.isEmpty())
-        warn(tr("Please specify the save location."));
+        WebcamUtil::WarningMessage(tr("Please specify the save location."), this);
     else if (QDir(folder).exists() && WebcamUtil::hasWriteAccess(folder))
         accept();
     else
-        warn(tr("Invalid PATH is specified."));
+        WebcamUtil::WarningMessage(tr("Invalid PATH is specified."), this);
 }

@@ -8,78 +8,87 @@
 #include <QStringList>
 
 /**
- * The settings box, and the one owner of the settings file ".halcyra_orvantacc.ini" in the home
- * folder. The window never reads the file: it asks the box's controls through the getters.
+ * The modal "Settings" dialog and the owner of the settings file, ".halcyra_orvantacc.ini" in the
+ * home folder.
  *
- * Built once and shown again and again: every showing reads the file into the controls, so what was
- * changed in a cancelled box is forgotten. Whoever ran exec() and found it accepted calls
- * SaveFile(), which writes the controls to the file. Nothing here reports an error: a missing file
- * or a value out of its range reads as the default, and a failed write goes unnoticed.
+ * It is built once and used again. Building and every showing read the file into the controls, so
+ * what was changed before a "Cancel" is forgotten. "OK" only checks the save folder and accepts;
+ * whoever ran the dialog then calls SaveFile(), which writes the controls to the file. The rest of
+ * the program asks the getters, which answer from the controls, not from the file.
  *
- * GUI thread only.
+ * A file that is missing, cannot be read or cannot be written is no error; a number outside its
+ * range leaves the preference as it was.
  */
 class Setting : public QDialog {
     Q_OBJECT
 
 public:
-    explicit Setting(QWidget *parent);
+    explicit Setting(QWidget *parent = nullptr);
 
-    /// Reads the file into the members and the save-folder controls; setParam() does the rest.
+    /** Reads the file into the preferences, and shows which kind of save folder is chosen. */
     void readFile();
-    /// Writes the controls to the members and to the file.
+    /** Writes what the controls show to the file, all six preferences. */
     void SaveFile();
-    /// Puts the members into the controls.
+    /** Shows the preferences in the controls; a value that is not offered shows as another one. */
     void setParam();
 
+    /** Makes up what the boxes offer; setCmbValue() then offers it. */
     void setDefaultValue();
     void setCmbValue();
+    /** Puts the texts that users see in place of the form's own. */
     void setCaptions();
 
     bool getAutoShooting() const;
-    /// Seconds; 0 when the box holds no number.
+    /** Seconds of the self-timer; 0 if none are chosen. */
     int getAutoShootingTime() const;
-    /// Photos in a series; -1 when the box is empty.
+    /** Shots of one continuous capture; -1 if none are chosen. */
     int getContinuousShooting() const;
     bool getPhotoPreview() const;
-    /// The folder shown: the home folder when the default location is chosen.
+    /** The save folder as shown: the home folder if the default location is chosen. */
     QString getSaveDirectory() const;
-    /// Width, "x", height in px, as in "640x480".
+    /** Width, "x" and height in pixels. */
     QString getResolution() const;
 
-    /// Replaces the resolutions offered; repeated ones are offered once, an empty list is ignored.
+    /**
+     * Offers the resolutions of @p list, each once, and selects the chosen one, or else the entry
+     * at half the length of @p list as given, which leaves none selected if repetitions made the
+     * box that much shorter. An empty list changes nothing.
+     */
     void setResolutionList(const QStringList &list);
-    void setCmbResoEnable(bool enabled);
-    /// Fixes the state of the browse button: from here on the choice of location leaves it alone.
-    void setBtnSaveEnable(bool enabled);
+    void setCmbResoEnable(bool enable);
+    /** Takes the "..." button out of the hands of the radio buttons and sets it once for all. */
+    void setBtnSaveEnable(bool enable);
 
-public Q_SLOTS:
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private Q_SLOTS:
     void setSaveDirectory();
     void onCustom();
     void onDefault();
     void AutoCheck();
     void OnOk();
 
-protected:
-    void showEvent(QShowEvent *event) override;
-
 private:
+    void fitRowsToTexts();
     void connectControls();
-    void warn(const QString &text);
 
-    // As in the file; the defaults hold until it has been read.
+    // The preferences as last read from or written to the file.
     int m_continuousCount = 4;
-    int m_autoShooting = 1;
+    int m_autoShooting = 1; ///< 1 on, 0 off
     int m_autoShootingTime = 5; ///< s
-    int m_photoPreview = 1;
+    int m_photoPreview = 1; ///< 1 on, 0 off
     QString m_resolution;
     QString m_saveDirectory; ///< empty: the default location
 
-    QStringList m_seconds;
-    QStringList m_counts;
+    // What the boxes offer.
+    QStringList m_autoShootingTimes;
+    QStringList m_continuousCounts;
     QStringList m_resolutions;
-    QString m_defaultDirectory;
-    Ui_Setting m_form;
-    bool m_browseEnabled = true; ///< the choice of location may enable the browse button
+
+    QString m_defaultSaveDirectory; ///< the home folder when the dialog was built
+    Ui_Setting m_ui;
+    bool m_browseEnabled = true; ///< the radio buttons may switch the "..." button
 };
 
 #endif
