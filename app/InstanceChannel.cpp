@@ -29,12 +29,14 @@ InstanceChannel::InstanceChannel(const QString &id, const QString &folder)
     , m_socketPath(folder + "/" + id + ".socket")
     , m_lock(folder + "/" + id + ".lock")
 {
+    // Held by a process that is gone it is free at once; held by one that lives, for good.
+    m_lock.setStaleLockTime(0);
     connect(&m_server, &QLocalServer::newConnection, this, &InstanceChannel::welcomeClients);
 }
 
 bool InstanceChannel::becomeFirst()
 {
-    if (m_folder.isEmpty() || !m_lock.tryLock()) {
+    if (m_folder.isEmpty() || (!m_lock.isLocked() && !m_lock.tryLock(0))) {
         return false;
     }
     if (!m_server.isListening()) {

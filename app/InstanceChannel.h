@@ -1,9 +1,8 @@
 #ifndef INSTANCECHANNEL_H
 #define INSTANCECHANNEL_H
 
-#include "InstanceLock.h"
-
 #include <QLocalServer>
+#include <QLockFile>
 #include <QObject>
 #include <QString>
 
@@ -57,7 +56,7 @@ private:
 
     QString m_folder;
     QString m_socketPath;
-    InstanceLock m_lock; // outlives the server: the next first finds no socket that is still in use
+    QLockFile m_lock; // outlives the server: the next first finds no socket that is still in use
     QLocalServer m_server;
 };
 

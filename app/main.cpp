@@ -1,5 +1,6 @@
 #include "CTranslator.h"
 #include "CVistrelDlg.h"
+#include "LayoutScale.h"
 #include "QtSingleApplication.h"
 #include "SignalWatcher.h"
 
@@ -12,7 +13,7 @@ int main(int argc, char **argv)
     // first player that is made.
     qputenv("PHONON_GST_VIDEOMODE", "software");
 
-    // Scaling by the toolkit stays off: the layout is computed from the pixels of the screen.
+    LayoutScale::apply();
     QtSingleApplication application("Orvanta", argc, argv);
     if (application.sendMessage("Wake up!", 5000)) {
         return 0;

@@ -115,8 +115,12 @@ void PictureWidget::paintEvent(QPaintEvent * /*event*/)
     if (m_pixmap.isNull())
         return;
     // Scaling in place keeps a strip of nine photos from holding nine full-size pictures.
-    m_pixmap = m_pixmap.scaled(size(), Qt::KeepAspectRatio, Qt::FastTransformation);
-    const int left = static_cast<int>((width() - m_pixmap.width()) * 0.5);
-    const int top = static_cast<int>((height() - m_pixmap.height()) * 0.5);
+    const qreal ratio = devicePixelRatioF();
+    m_pixmap = m_pixmap.scaled((QSizeF(size()) * ratio).toSize(), Qt::KeepAspectRatio,
+                               Qt::FastTransformation);
+    m_pixmap.setDevicePixelRatio(ratio);
+    const QSizeF shown = QSizeF(m_pixmap.size()) / ratio;
+    const int left = static_cast<int>((width() - shown.width()) * 0.5);
+    const int top = static_cast<int>((height() - shown.height()) * 0.5);
     QPainter(this).drawPixmap(left, top, m_pixmap);
 }

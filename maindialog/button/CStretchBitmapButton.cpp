@@ -18,10 +18,13 @@ int availableScreenWidth()
     return QGuiApplication::primaryScreen()->availableGeometry().width();
 }
 
-QPixmap scaledTo(const QPixmap &bitmap, QSize size)
+// Shrinks @p bitmap for a button of @p size on a screen of @p ratio device pixels to a pixel.
+QPixmap scaledTo(const QPixmap &bitmap, QSize size, qreal ratio)
 {
-    return bitmap.isNull() ? bitmap
-                           : bitmap.scaled(size, Qt::KeepAspectRatio, Qt::FastTransformation);
+    if (bitmap.isNull())
+        return bitmap;
+    const QSize onScreen = (QSizeF(size) * ratio).toSize().boundedTo(bitmap.size());
+    return bitmap.scaled(onScreen, Qt::KeepAspectRatio, Qt::FastTransformation);
 }
 
 } // namespace
@@ -92,9 +95,9 @@ void CStretchBitmapButton::setIconFromObjectNameBitmap()
     m_disabledBitmap = QPixmap(stem + QStringLiteral("_ds.bmp"));
 
     const QSize size = ButtonGeometry::fittedBitmapSize(m_upBitmap.size(), availableScreenWidth());
-    m_upBitmap = scaledTo(m_upBitmap, size);
-    m_downBitmap = scaledTo(m_downBitmap, size);
-    m_disabledBitmap = scaledTo(m_disabledBitmap, size);
+    m_upBitmap = scaledTo(m_upBitmap, size, devicePixelRatioF());
+    m_downBitmap = scaledTo(m_downBitmap, size, devicePixelRatioF());
+    m_disabledBitmap = scaledTo(m_disabledBitmap, size, devicePixelRatioF());
     setBaseSize(size);
     resize(size);
 }

@@ -172,7 +172,7 @@ void tst_InstanceChannel::aMessageThatIsTooLongIsNotSent()
 
 void tst_InstanceChannel::aFirstThatDoesNotListenYetIsWaitedFor()
 {
-    InstanceLock lock(m_dir->filePath("Orvanta.lock"));
+    QLockFile lock(m_dir->filePath("Orvanta.lock"));
     QVERIFY(lock.tryLock());
     Sender second(folder(), "Wake up!", 20000);
     QTest::qWait(200);
@@ -192,7 +192,7 @@ void tst_InstanceChannel::aFirstThatDoesNotListenYetIsWaitedFor()
 
 void tst_InstanceChannel::aFirstThatDoesNotAnswerIsGivenUpAfterTheTime()
 {
-    InstanceLock lock(m_dir->filePath("Orvanta.lock"));
+    QLockFile lock(m_dir->filePath("Orvanta.lock"));
     QVERIFY(lock.tryLock());
     QLocalServer mute; // its clients are connected by the kernel, nobody ever reads them
     QVERIFY(mute.listen(socketPath()));
@@ -208,7 +208,7 @@ void tst_InstanceChannel::aFirstThatDoesNotAnswerIsGivenUpAfterTheTime()
 
 void tst_InstanceChannel::aFirstThatAnswersSomethingElseHasNotAcknowledged()
 {
-    InstanceLock lock(m_dir->filePath("Orvanta.lock"));
+    QLockFile lock(m_dir->filePath("Orvanta.lock"));
     QVERIFY(lock.tryLock());
     QLocalServer stranger;
     QVERIFY(stranger.listen(socketPath()));
@@ -225,7 +225,7 @@ void tst_InstanceChannel::aFirstThatAnswersSomethingElseHasNotAcknowledged()
 
 void tst_InstanceChannel::aSenderBecomesFirstWhenTheFirstEndsMeanwhile()
 {
-    QScopedPointer<InstanceLock> lock(new InstanceLock(m_dir->filePath("Orvanta.lock")));
+    QScopedPointer<QLockFile> lock(new QLockFile(m_dir->filePath("Orvanta.lock")));
     QVERIFY(lock->tryLock());
     Sender second(folder(), "Wake up!", 60000);
     QTest::qWait(100);

@@ -1,0 +1,44 @@
+#include "LayoutScale.h"
+
+#include <QByteArray>
+#include <QtGlobal>
+
+#include <X11/Xlib.h>
+#include <X11/extensions/Xrandr.h>
+
+namespace LayoutScale {
+
+int factorFor(QSize screen)
+{
+    return qMax(1, qMin(screen.width() / 1920, screen.height() / 1080));
+}
+
+QSize primaryScreenSize()
+{
+    Display *display = XOpenDisplay(nullptr);
+    if (!display)
+        return {};
+    QSize size(DisplayWidth(display, DefaultScreen(display)),
+               DisplayHeight(display, DefaultScreen(display)));
+    int count = 0;
+    // The first monitor is the primary one, when there is a primary one.
+    XRRMonitorInfo *monitors =
+        XRRGetMonitors(display, DefaultRootWindow(display), True /* active ones */, &count);
+    if (monitors && count > 0)
+        size = QSize(monitors[0].width, monitors[0].height);
+    for (int i = 0; i < count; ++i)
+        if (monitors[i].primary)
+            size = QSize(monitors[i].width, monitors[i].height);
+    if (monitors)
+        XRRFreeMonitors(monitors);
+    XCloseDisplay(display);
+    return size;
+}
+
+void apply()
+{
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(factorFor(primaryScreenSize())));
+    qputenv("QT_FONT_DPI", "96");
+}
+
+} // namespace LayoutScale
