@@ -29,9 +29,7 @@ class LiveVideoData::Private {
 public:
     explicit Private(LiveVideoData *engine)
         : q(engine)
-        , providers([engine] {
-            QMetaObject::invokeMethod(engine, "device", Qt::QueuedConnection);
-        })
+        , providers([engine] { QMetaObject::invokeMethod(engine, "device", Qt::QueuedConnection); })
     {
     }
 

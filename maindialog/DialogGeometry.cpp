@@ -37,7 +37,8 @@ QRect DialogGeometry::cellAt(double left) const
 
 double DialogGeometry::rowStart(int count) const
 {
-    return (m_width - m_closeWidth) * 0.5 - (count * m_button.width()) / 2;
+    const int halfRow = count * m_button.width() / 2;
+    return (m_width - m_closeWidth) * 0.5 - halfRow;
 }
 
 double DialogGeometry::movieRowStart() const
@@ -126,24 +127,20 @@ QVector<QRect> DialogGeometry::tileRects(const QRect &video, int count)
     QVector<QRect> tiles;
     if (count < 1)
         return tiles;
-    int columns = 3;
-    double width = video.width() / 3;
-    double height = video.height() / 3;
-    if (count <= 3) {
-        // A single row: floating point, so that the tiles keep the picture's shape.
-        columns = count;
-        width = double(video.width()) / count;
-        height = double(video.height()) / count;
-    } else if (count == 4) {
-        columns = 2;
-        width = video.width() / 2;
-        height = video.height() / 2;
-    }
+    // Floating point for a single row, so that its tiles keep the picture's shape to the pixel.
+    const int columns = count <= 3 ? count : count == 4 ? 2 : 3;
+    QSizeF tile = QSizeF(video.size()) / columns;
+    if (count > 3)
+        tile = QSizeF(int(tile.width()), int(tile.height()));
     const int rows = (count + columns - 1) / columns;
-    const int firstTop = int(video.height() / 2 - rows * height * 0.5);
-    for (int i = 0; i < count; ++i)
-        tiles.append(rectOf(int((i % columns) * width + video.left()),
-                            int((i / columns) * height + firstTop),
-                            QSize(int(width), int(height))));
+    const int middle = video.height() / 2;
+    const int firstTop = int(middle - rows * tile.height() * 0.5);
+    for (int i = 0; i < count; ++i) {
+        const int row = i / columns;
+        const int column = i % columns;
+        tiles.append(rectOf(int(column * tile.width() + video.left()),
+                            int(row * tile.height() + firstTop),
+                            QSize(int(tile.width()), int(tile.height()))));
+    }
     return tiles;
 }

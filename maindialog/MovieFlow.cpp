@@ -44,9 +44,9 @@ void CVistrelDlg::OnRecord()
 
 void CVistrelDlg::OnMovieStop()
 {
-    if (!m_recording)
+    if (!m_recording || !m_liveView)
         return;
-    if (m_liveView && m_liveView->isCreate())
+    if (m_liveView->isCreate())
         m_liveView->RecordStop();
     m_liveView->hide();
     m_timerWidget->Stop();
