@@ -1,12 +1,20 @@
 #include "CameraFrame.h"
 
+#include "EngineLog.h"
+
 CameraFrame::CameraFrame(GstMiniHandle<GstSample> sample)
     : m_sample(std::move(sample))
 {
     GstVideoInfo info;
     GstBuffer *buffer = gst_sample_get_buffer(m_sample.get());
     GstCaps *caps = gst_sample_get_caps(m_sample.get());
-    if (buffer && caps && gst_video_info_from_caps(&info, caps))
+    if (!buffer || !caps || !gst_video_info_from_caps(&info, caps))
+        return;
+    // Mapping a buffer that is too short makes GStreamer complain on the terminal.
+    if (gst_buffer_get_size(buffer) < GST_VIDEO_INFO_SIZE(&info)
+        && !gst_buffer_get_video_meta(buffer))
+        qCDebug(engineLog, "a frame is shorter than its format says");
+    else
         m_mapped = gst_video_frame_map(&m_picture, &info, buffer, GST_MAP_READ);
 }
 

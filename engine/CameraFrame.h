@@ -11,12 +11,12 @@
 #include <opencv2/core/mat.hpp>
 
 /**
- * One frame of a camera at its full size, mapped for reading and not copied: at 1920x1080 a copy
- * would cost a tenth of all the work that a live picture takes.
+ * One frame of a camera at its full size, mapped for reading as its source delivered it and not
+ * copied again: its sample keeps the memory.
  *
- * The frame keeps its sample, the sample its buffer, and the buffer its memory: a mapping of its
- * own of the camera's shared memory, which stays when the camera's node, or the process behind it,
- * vanishes. It holds back one of the camera's buffers, so a frame is not kept for long.
+ * It stays readable when the camera is closed or vanishes. A video node's mapping lasts as long as
+ * the frame; frames of the media server are copies from the start, see CameraPipeline. A frame
+ * holds back one of the camera's buffers, so it is not kept for long.
  *
  * Immutable: any thread may read it.
  */

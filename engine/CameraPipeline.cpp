@@ -46,7 +46,8 @@ static GstElement *makeSink()
     return sink;
 }
 
-// Frames are taken as they come, and a node that went away must not be replaced by another camera.
+// For a camera of the media server. Its frames are copied: it takes their memory away, mapped or
+// not, the moment its node vanishes. Nor may another camera take the place of one that went.
 static void tuneSource(GstElement *source)
 {
     GObjectClass *type = G_OBJECT_GET_CLASS(source);
@@ -54,7 +55,8 @@ static void tuneSource(GstElement *source)
         return;
     const GstStructureHandle stream(
         gst_structure_new("props", "node.dont-reconnect", G_TYPE_BOOLEAN, TRUE, nullptr));
-    g_object_set(source, "do-timestamp", TRUE, "stream-properties", stream.get(), nullptr);
+    g_object_set(source, "do-timestamp", TRUE, "always-copy", TRUE, "stream-properties",
+                 stream.get(), nullptr);
 }
 
 bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<GstCaps> format)
