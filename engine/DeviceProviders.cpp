@@ -64,21 +64,34 @@ static ProviderHandle startProvider(const char *name)
     return ProviderHandle(provider.release(), GstObjectUnref());
 }
 
+// One provider. One that hangs while it starts is waited for again the next time, not started
+// again: it cannot be called back, and must not be let go once it runs.
 namespace {
 struct Source {
     const char *name;
     ProviderHandle provider; ///< null until it runs
+    std::shared_ptr<ProviderHandle> answer; ///< where the task leaves it
+    std::unique_ptr<BoundedTask> task; ///< while it is being started
 };
 } // namespace
 
-static QVector<Source> &sources()
+static std::vector<Source> &sources()
 {
-    static auto *const shared = new QVector<Source>{
-        {"v4l2deviceprovider", nullptr},
-        {"pipewiredeviceprovider", nullptr},
-        {"pulsedeviceprovider", nullptr},
-    };
+    static auto *const shared = [] {
+        auto *all = new std::vector<Source>;
+        for (const char *name :
+             {"v4l2deviceprovider", "pipewiredeviceprovider", "pulsedeviceprovider"})
+            all->push_back({name, nullptr, nullptr, nullptr});
+        return all;
+    }();
     return *shared;
+}
+
+static void beginToStart(Source &source)
+{
+    source.answer = std::make_shared<ProviderHandle>();
+    source.task = std::make_unique<BoundedTask>(
+        [answer = source.answer, name = source.name] { *answer = startProvider(name); });
 }
 
 DeviceProviders::DeviceProviders(std::function<void()> changed)
@@ -96,32 +109,27 @@ DeviceProviders::~DeviceProviders()
 
 void DeviceProviders::start(std::chrono::milliseconds limit)
 {
-    struct Question {
-        Source *source;
-        std::shared_ptr<ProviderHandle> answer;
-        BoundedTask task;
-    };
     const auto deadline = steady_clock::now() + limit;
-    std::vector<Question> questions;
     for (Source &source : sources()) {
-        if (source.provider)
-            continue;
-        auto answer = std::make_shared<ProviderHandle>();
-        BoundedTask task([answer, name = source.name] { *answer = startProvider(name); });
-        questions.push_back({&source, std::move(answer), std::move(task)});
+        if (!source.provider && !source.task)
+            beginToStart(source);
     }
-    for (const Question &question : questions) {
-        if (question.task.waitUntil(deadline))
-            question.source->provider = *question.answer;
-        else
-            qCWarning(engineLog, "%s does not answer", question.source->name);
+    for (Source &source : sources()) {
+        if (!source.task)
+            continue;
+        if (source.task->waitUntil(deadline)) {
+            source.provider = *source.answer;
+            source.task.reset();
+        } else {
+            qCWarning(engineLog, "%s does not answer", source.name);
+        }
     }
 }
 
 static QVector<GstDeviceHandle> devices()
 {
     QVector<GstDeviceHandle> all;
-    for (const Source &source : qAsConst(sources())) {
+    for (const Source &source : sources()) {
         GList *list =
             source.provider ? gst_device_provider_get_devices(source.provider.get()) : nullptr;
         for (GList *entry = list; entry; entry = entry->next)

@@ -17,7 +17,7 @@
  * All engines of a process share one set of providers, which is never taken down: the media
  * server's provider frees memory twice when it is stopped while its server is still answering. A
  * server that hangs would hang whoever asks it first, so each is started by a BoundedTask; one that
- * does not answer in time is not heard, and asked again the next time.
+ * does not answer in time is not heard until it does.
  *
  * Threads: all operations on the GUI thread; the callback comes on any.
  */
@@ -34,7 +34,7 @@ public:
     ~DeviceProviders();
     Q_DISABLE_COPY(DeviceProviders)
 
-    /// Starts every provider that does not run yet, within @p limit.
+    /// Starts every provider that does not run yet; waits for at most @p limit.
     static void start(std::chrono::milliseconds limit);
 
     static QVector<Camera> cameras();
