@@ -73,7 +73,7 @@ private:
     void makePicture(const CameraFrame &frame);
     void forgetFrames();
 
-    class Private;
+    class Q_DECL_HIDDEN Private;
     std::unique_ptr<Private> d; ///< first, so that it goes last: it keeps m_lastFrame's pixels
     cv::Mat m_lastFrame; ///< view of the last grabbed frame, no copy; guarded by d->mutex
     QImage m_picture; ///< its picture as the target shows it; guarded by d->mutex

@@ -117,7 +117,7 @@ public Q_SLOTS:
     void device(); ///< cameras came or went, or the open one failed: see whether it is lost
 
 private:
-    class Private;
+    class Q_DECL_HIDDEN Private;
     std::unique_ptr<Private> d;
 };
 
