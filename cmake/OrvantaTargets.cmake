@@ -51,7 +51,10 @@ function(orvanta_test name)
     file(CHMOD ${private}/run PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
     add_test(NAME ${name} COMMAND ${TEST_COMMAND} $<TARGET_FILE:${name}>)
     set(environment "HOME=${private}/home" "TMPDIR=${private}/tmp" "XDG_RUNTIME_DIR=${private}/run"
-        "LC_ALL=C.UTF-8" "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
+        "LC_ALL=C.UTF-8"
+        # Whole stacks, or a leak in a library without frame pointers cannot be told from ours.
+        "ASAN_OPTIONS=fast_unwind_on_malloc=0"
+        "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
         "UBSAN_OPTIONS=print_stacktrace=1"
         "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
     if(TEST_LABEL STREQUAL "unit")

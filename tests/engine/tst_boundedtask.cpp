@@ -1,0 +1,68 @@
+#include "BoundedTask.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+
+#include <future>
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+class TestBoundedTask : public QObject {
+    Q_OBJECT
+
+private slots:
+    void finishedWorkIsReported();
+    void hangingWorkIsNotWaitedForLongerThanAsked();
+    void whatTheWorkOwnsIsGoneWhenItIsDone();
+    void hangingWorkOutlivesWhoeverAskedForIt();
+};
+
+void TestBoundedTask::finishedWorkIsReported()
+{
+    auto result = std::make_shared<int>(0);
+    const BoundedTask task([result] { *result = 7; });
+    QVERIFY(task.waitUntil(steady_clock::now() + milliseconds(5000)));
+    QCOMPARE(*result, 7);
+}
+
+void TestBoundedTask::hangingWorkIsNotWaitedForLongerThanAsked()
+{
+    auto release = std::make_shared<std::promise<void>>();
+    const BoundedTask task([release] { release->get_future().wait(); });
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(!task.waitUntil(steady_clock::now() + milliseconds(100)));
+    QVERIFY2(timer.elapsed() >= 99, "it gave up too early");
+    QVERIFY2(timer.elapsed() < 1000, "it waited too long");
+    release->set_value();
+    QVERIFY(task.waitUntil(steady_clock::now() + milliseconds(5000)));
+}
+
+void TestBoundedTask::whatTheWorkOwnsIsGoneWhenItIsDone()
+{
+    auto owned = std::make_shared<int>(1);
+    const std::weak_ptr<int> watched = owned;
+    const BoundedTask task([owned = std::move(owned)] {});
+    QVERIFY(task.waitUntil(steady_clock::now() + milliseconds(5000)));
+    QVERIFY(watched.expired());
+}
+
+void TestBoundedTask::hangingWorkOutlivesWhoeverAskedForIt()
+{
+    auto release = std::make_shared<std::promise<void>>();
+    auto done = std::make_shared<std::promise<int>>();
+    std::future<int> result = done->get_future();
+    {
+        const BoundedTask task([release, done] {
+            release->get_future().wait();
+            done->set_value(3);
+        });
+    }
+    release->set_value();
+    QCOMPARE(result.wait_for(milliseconds(5000)), std::future_status::ready);
+    QCOMPARE(result.get(), 3);
+}
+
+QTEST_GUILESS_MAIN(TestBoundedTask)
+#include "tst_boundedtask.moc"

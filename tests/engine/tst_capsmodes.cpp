@@ -1,0 +1,125 @@
+#include "CapsModes.h"
+#include "GstStart.h"
+
+#include <QStringList>
+#include <QTest>
+
+class TestCapsModes : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void modesAreReadFromCaps_data();
+    void modesAreReadFromCaps();
+    void aModeBecomesOneFixedFormat_data();
+    void aModeBecomesOneFixedFormat();
+    void aModeThatIsNotOfferedHasNoFormat();
+};
+
+static GstMiniHandle<GstCaps> parse(const QString &text)
+{
+    return GstMiniHandle<GstCaps>(gst_caps_from_string(text.toUtf8().constData()));
+}
+
+static QString describe(const CameraMode &mode)
+{
+    return QStringLiteral("%1 %2x%3 %4/%5")
+        .arg(mode.coding == CameraMode::Coding::Jpeg ? "JPEG" : QString(mode.format))
+        .arg(mode.width)
+        .arg(mode.height)
+        .arg(mode.rateNumerator)
+        .arg(mode.rateDenominator);
+}
+
+void TestCapsModes::initTestCase()
+{
+    QVERIFY(gstreamerIsReady());
+}
+
+void TestCapsModes::modesAreReadFromCaps_data()
+{
+    QTest::addColumn<QString>("caps");
+    QTest::addColumn<QStringList>("modes");
+
+    QTest::newRow("plain") << "video/x-raw,format=YUY2,width=640,height=480,framerate=30/1"
+                           << QStringList{"YUY2 640x480 30/1"};
+    QTest::newRow("JPEG") << "image/jpeg,width=640,height=480,framerate=15/2"
+                          << QStringList{"JPEG 640x480 15/2"};
+    QTest::newRow("lists of formats and rates")
+        << "video/x-raw,format={YUY2,NV12},width=640,height=480,framerate={30/1,15/1}"
+        << QStringList{"YUY2 640x480 30/1", "YUY2 640x480 15/1", "NV12 640x480 30/1",
+                       "NV12 640x480 15/1"};
+    QTest::newRow("a range of sizes becomes the usual ones in it")
+        << "video/x-raw,format=YUY2,width=[300,1000],height=[200,700],framerate=30/1"
+        << QStringList{"YUY2 800x600 30/1", "YUY2 640x480 30/1", "YUY2 320x240 30/1"};
+    QTest::newRow("the step of a range is kept")
+        << "video/x-raw,format=YUY2,width=[320,1280,320],height=[120,960,120],framerate=30/1"
+        << QStringList{"YUY2 1280x720 30/1", "YUY2 640x480 30/1", "YUY2 320x240 30/1"};
+    QTest::newRow("a range without a usual size gives its largest")
+        << "video/x-raw,format=YUY2,width=[10,200],height=[10,100],framerate=30/1"
+        << QStringList{"YUY2 200x100 30/1"};
+    QTest::newRow("a range of rates around 30")
+        << "video/x-raw,format=YUY2,width=640,height=480,framerate=[0/1,2147483647/1]"
+        << QStringList{"YUY2 640x480 30/1"};
+    QTest::newRow("a range of rates below 30")
+        << "video/x-raw,format=YUY2,width=640,height=480,framerate=[1/1,15/1]"
+        << QStringList{"YUY2 640x480 15/1"};
+    QTest::newRow("a range of rates above 30")
+        << "video/x-raw,format=YUY2,width=640,height=480,framerate=[50/1,60/1]"
+        << QStringList{"YUY2 640x480 50/1"};
+    QTest::newRow("no rate at all")
+        << "video/x-raw,format=YUY2,width=640,height=480" << QStringList{"YUY2 640x480 30/1"};
+    QTest::newRow("what cannot be shown is left out")
+        << "video/x-h264,width=640,height=480,framerate=30/1;"
+           "video/x-bayer,format=bggr,width=640,height=480,framerate=30/1;"
+           "video/x-raw(memory:DMABuf),format=YUY2,width=640,height=480,framerate=30/1;"
+           "video/x-raw,format=NONSENSE,width=640,height=480,framerate=30/1"
+        << QStringList();
+    QTest::newRow("nothing") << "EMPTY" << QStringList();
+    QTest::newRow("anything") << "ANY" << QStringList();
+}
+
+void TestCapsModes::modesAreReadFromCaps()
+{
+    QFETCH(QString, caps);
+    const GstMiniHandle<GstCaps> parsed = parse(caps);
+    QVERIFY(parsed);
+    QStringList modes;
+    const QVector<CameraMode> found = modesOf(parsed.get());
+    for (const CameraMode &mode : found)
+        modes.append(describe(mode));
+    QTEST(modes, "modes");
+}
+
+void TestCapsModes::aModeBecomesOneFixedFormat_data()
+{
+    QTest::addColumn<QString>("offered");
+    QTest::newRow("from ranges")
+        << "video/x-raw,format={RGB,UYVY},width=[1,2147483647],height=[1,2147483647],"
+           "framerate=[0/1,2147483647/1]";
+    QTest::newRow("with fields that stay open")
+        << "video/x-raw,format={RGB,UYVY},width=1280,height=720,framerate={30/1,15/1},"
+           "interlace-mode={progressive,interleaved},colorimetry={bt709,bt601}";
+}
+
+void TestCapsModes::aModeBecomesOneFixedFormat()
+{
+    QFETCH(QString, offered);
+    const CameraMode mode{CameraMode::Coding::Raw, "UYVY", 1280, 720, 30, 1};
+    const GstMiniHandle<GstCaps> caps = fixedCaps(parse(offered).get(), mode);
+    QVERIFY(caps);
+    QVERIFY(gst_caps_is_fixed(caps.get()));
+    QCOMPARE(modesOf(caps.get()).size(), 1);
+    QVERIFY(modesOf(caps.get()).first() == mode);
+}
+
+void TestCapsModes::aModeThatIsNotOfferedHasNoFormat()
+{
+    const CameraMode mode{CameraMode::Coding::Jpeg, {}, 1280, 720, 30, 1};
+    const GstMiniHandle<GstCaps> offered =
+        parse("video/x-raw,format=YUY2,width=1280,height=720,framerate=30/1");
+    QVERIFY(!fixedCaps(offered.get(), mode));
+}
+
+QTEST_GUILESS_MAIN(TestCapsModes)
+#include "tst_capsmodes.moc"

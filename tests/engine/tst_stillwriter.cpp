@@ -1,0 +1,139 @@
+#include "StillWriter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+// Every pixel differs from its neighbours, so that a shifted row or a swapped colour is seen.
+static QImage picture(const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB888);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, qRgb(x * 7 % 256, y * 5 % 256, (x + y) * 3 % 256));
+    }
+    return image;
+}
+
+class TestStillWriter : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void theFileHoldsExactlyThePicture_data();
+    void theFileHoldsExactlyThePicture();
+    void aJpegHoldsThePictureNearly();
+    void anOlderFileOfTheSameNameIsReplaced();
+    void aFailureLeavesNothingBehind_data();
+    void aFailureLeavesNothingBehind();
+    void aFullDiskLeavesNothingBehind();
+
+private:
+    QStringList filesIn(const QString &folder) const
+    {
+        return QDir(folder).entryList(QDir::Files | QDir::Hidden);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TestStillWriter::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void TestStillWriter::cleanup()
+{
+    m_folder.reset();
+}
+
+void TestStillWriter::theFileHoldsExactlyThePicture_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("full HD") << "photo.png" << QSize(1920, 1080);
+    QTest::newRow("rows that are padded") << "photo.png" << QSize(641, 33);
+    QTest::newRow("one pixel") << "photo.png" << QSize(1, 1);
+    QTest::newRow("capital extension") << "photo.PNG" << QSize(64, 48);
+    QTest::newRow("another format") << "photo.bmp" << QSize(64, 48);
+    QTest::newRow("a name with letters of all kinds")
+        << "f\u00f6to \u5199\u771f.png" << QSize(64, 48);
+}
+
+void TestStillWriter::theFileHoldsExactlyThePicture()
+{
+    QFETCH(QString, name);
+    QFETCH(QSize, size);
+    const QImage expected = picture(size);
+    QVERIFY(writeStill(expected, m_folder->filePath(name)));
+    const QImage read(m_folder->filePath(name));
+    QCOMPARE(read.convertToFormat(QImage::Format_RGB888), expected);
+    QCOMPARE(filesIn(m_folder->path()), QStringList{name});
+}
+
+void TestStillWriter::aJpegHoldsThePictureNearly()
+{
+    QImage grey(64, 48, QImage::Format_RGB888);
+    grey.fill(QColor(100, 120, 140));
+    QVERIFY(writeStill(grey, m_folder->filePath("photo.jpg")));
+    const QColor read = QImage(m_folder->filePath("photo.jpg")).pixelColor(20, 20);
+    QVERIFY(qAbs(read.red() - 100) < 6 && qAbs(read.blue() - 140) < 6);
+}
+
+void TestStillWriter::anOlderFileOfTheSameNameIsReplaced()
+{
+    const QString path = m_folder->filePath("photo.png");
+    QVERIFY(writeStill(picture({64, 48}), path));
+    QVERIFY(writeStill(picture({32, 16}), path));
+    QCOMPARE(QImage(path).size(), QSize(32, 16));
+}
+
+void TestStillWriter::aFailureLeavesNothingBehind_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("no such folder") << "missing/photo.png" << QSize(8, 8);
+    QTest::newRow("a folder has the name") << "folder.png" << QSize(8, 8);
+    QTest::newRow("unknown format") << "photo.xyz" << QSize(8, 8);
+    QTest::newRow("no extension") << "photo" << QSize(8, 8);
+    QTest::newRow("no picture") << "photo.png" << QSize();
+}
+
+void TestStillWriter::aFailureLeavesNothingBehind()
+{
+    QFETCH(QString, name);
+    QFETCH(QSize, size);
+    QVERIFY(QDir(m_folder->path()).mkdir("folder.png"));
+    const QImage image = size.isValid() ? picture(size) : QImage();
+    QVERIFY(!writeStill(image, m_folder->filePath(name)));
+    QCOMPARE(filesIn(m_folder->path()), QStringList());
+}
+
+// A limit on file sizes fails a write in the same way, half of it done.
+void TestStillWriter::aFullDiskLeavesNothingBehind()
+{
+    const auto before = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit normal = {};
+    getrlimit(RLIMIT_FSIZE, &normal);
+    rlimit tight = normal;
+    tight.rlim_cur = 4096;
+    setrlimit(RLIMIT_FSIZE, &tight);
+    const bool png = writeStill(picture({640, 480}), m_folder->filePath("photo.png"));
+    const bool bmp = writeStill(picture({640, 480}), m_folder->filePath("photo.bmp"));
+    setrlimit(RLIMIT_FSIZE, &normal);
+    std::signal(SIGXFSZ, before);
+    QVERIFY(!png);
+    QVERIFY(!bmp);
+    QCOMPARE(filesIn(m_folder->path()), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestStillWriter)
+#include "tst_stillwriter.moc"
