@@ -1,0 +1,156 @@
+// What the live picture costs: 1920x1080 at 30 frames per second, shown in 896x504.
+//
+//   bench_live engine SECONDS   processor share of the engine with its target
+//   bench_live bare SECONDS     the same of GStreamer's own shortest chain to the screen
+//   bench_live drops SECONDS    frames of the camera that never were on the screen
+//
+// Runs in a lab with the one camera "bench"; prints one number.
+
+#include "LabPattern.h"
+#include "LiveVideoData.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFrame>
+#include <QScreen>
+#include <QSet>
+#include <QTimer>
+
+#include <gst/gst.h>
+
+#include <cstdio>
+#include <cstring>
+#include <sys/resource.h>
+
+namespace {
+
+const QSize shown(896, 504);
+const int settleTime = 1500; // ms
+
+double processorSeconds()
+{
+    rusage usage = {};
+    getrusage(RUSAGE_SELF, &usage);
+    return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec)
+        + double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
+}
+
+// Lets the program run and says which share of one processor it took.
+double shareOver(int seconds)
+{
+    double before = 0;
+    QElapsedTimer timer;
+    QTimer::singleShot(settleTime, qApp, [&] {
+        before = processorSeconds();
+        timer.start();
+    });
+    QTimer::singleShot(settleTime + seconds * 1000, qApp, &QApplication::quit);
+    QApplication::exec();
+    return (processorSeconds() - before) / (double(timer.nsecsElapsed()) / 1e9);
+}
+
+bool startEngine(LiveVideoData &engine, QFrame &target)
+{
+    target.setGeometry(40, 40, shown.width(), shown.height());
+    engine.SetTarget(&target);
+    target.show();
+    engine.Create();
+    engine.Start();
+    return engine.created && engine.nativeWidth == 1920;
+}
+
+int measureEngine(int seconds)
+{
+    QFrame target(nullptr, Qt::FramelessWindowHint);
+    LiveVideoData engine;
+    if (!startEngine(engine, target))
+        return 1;
+    std::printf("%.4f\n", shareOver(seconds));
+    return 0;
+}
+
+int measureBareChain(int seconds)
+{
+    gst_init(nullptr, nullptr);
+    GstElement *chain = gst_parse_launch(
+        "pipewiresrc target-object=bench do-timestamp=true ! "
+        "video/x-raw,format=UYVY,width=1920,height=1080,framerate=30/1 ! videoconvertscale ! "
+        "video/x-raw,format=BGRx,width=896,height=504 ! ximagesink name=screen sync=false",
+        nullptr);
+    gst_element_set_state(chain, GST_STATE_PLAYING);
+    const double share = shareOver(seconds);
+    GstElement *screen = gst_bin_get_by_name(GST_BIN(chain), "screen");
+    GstStructure *stats = nullptr;
+    g_object_get(screen, "stats", &stats, nullptr);
+    guint64 rendered = 0;
+    gst_structure_get_uint64(stats, "rendered", &rendered);
+    gst_structure_free(stats);
+    gst_object_unref(screen);
+    gst_element_set_state(chain, GST_STATE_NULL);
+    gst_object_unref(chain);
+    if (rendered < guint64(seconds) * 25)
+        return 1;
+    std::printf("%.4f\n", share);
+    return 0;
+}
+
+// The number of the frame on the screen, from one row of it.
+int frameOnScreen(const QRect &place)
+{
+    const QImage row = QApplication::primaryScreen()
+                           ->grabWindow(0, place.x(), place.center().y(), place.width(), 1)
+                           .toImage()
+                           .convertToFormat(QImage::Format_RGB32);
+    QImage picture(row.width(), 3, QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y)
+        std::memcpy(picture.scanLine(y), row.constScanLine(0), size_t(picture.bytesPerLine()));
+    return LabPattern::counterOf(picture);
+}
+
+int countDrops(int seconds)
+{
+    QFrame target(nullptr, Qt::FramelessWindowHint);
+    LiveVideoData engine;
+    if (!startEngine(engine, target))
+        return 1;
+    QSet<int> seen;
+    int first = -1;
+    int last = -1;
+    QTimer look;
+    look.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        const int frame = frameOnScreen(target.geometry());
+        if (frame < 0)
+            return;
+        first = first < 0 ? frame : first;
+        last = frame;
+        seen.insert(frame);
+    });
+    QTimer::singleShot(settleTime, &look, [&look] { look.start(4); });
+    QTimer::singleShot(settleTime + seconds * 1000, qApp, &QApplication::quit);
+    QApplication::exec();
+    if (seen.size() < seconds * 10)
+        return 1;
+    std::printf("%d\n", int(last - first + 1 - seen.size()));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    const QString what = arguments.value(1);
+    const int seconds = qMax(2, arguments.value(2).toInt());
+    int status = 2;
+    if (what == QLatin1String("engine"))
+        status = measureEngine(seconds);
+    else if (what == QLatin1String("bare"))
+        status = measureBareChain(seconds);
+    else if (what == QLatin1String("drops"))
+        status = countDrops(seconds);
+    if (status != 0)
+        std::fprintf(stderr, "bench_live: cannot measure \"%s\"\n", qPrintable(what));
+    return status;
+}
