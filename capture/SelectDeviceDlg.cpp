@@ -45,6 +45,8 @@ SelectDeviceDlg::SelectDeviceDlg(QWidget *parent)
     m_promptLabel->setFont(font);
     m_okButton->setFont(font);
 
+    m_promptLabel->setWordWrap(true); // some languages need two lines
+
     // Without this a camera with a long name would push the box out of the dialog.
     m_deviceBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_deviceBox->setAccessibleName(tr("Camera"));
@@ -58,6 +60,11 @@ SelectDeviceDlg::SelectDeviceDlg(QWidget *parent)
     setFixedWidth(kWidthPx);
 
     connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+QSize SelectDeviceDlg::sizeHint() const
+{
+    return {kWidthPx, layout()->totalHeightForWidth(kWidthPx)};
 }
 
 void SelectDeviceDlg::setVideoDeviceList(const QStringList &names)

@@ -27,6 +27,9 @@ public:
     int getVideoDevice();
     QString getVideoDeviceName();
 
+    /// Always of the dialog's one width, so that who sizes it by this does not narrow it.
+    QSize sizeHint() const override;
+
 private:
     QComboBox *m_deviceBox;
     QPushButton *m_okButton;

@@ -1,9 +1,11 @@
 #include "SelectDeviceDlg.h"
+#include "WebcamUtil.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -41,6 +43,8 @@ private Q_SLOTS:
     void staysOnTopWithoutAHelpButton();
     void asksInAThinFontFromTopToBottom();
     void aLongNameDoesNotWidenTheDialog();
+    void keepsItsWidthInTheMiddleOfTheDesktop();
+    void aLongPromptTakesTwoLines();
     void tellsAScreenReaderWhatTheBoxIsFor();
 };
 
@@ -158,6 +162,30 @@ void SelectDeviceDlgTest::aLongNameDoesNotWidenTheDialog()
     QCOMPARE(dialog.width(), 200);
     QVERIFY(dialog.layout()->minimumSize().width() <= 200);
     QVERIFY(boxOf(dialog)->geometry().right() < 200);
+}
+
+void SelectDeviceDlgTest::keepsItsWidthInTheMiddleOfTheDesktop()
+{
+    SelectDeviceDlg dialog;
+    dialog.setVideoDeviceList({"A", "B"});
+    WebcamUtil::moveToCenter(&dialog, nullptr); // makes it as large as it asks to be
+    dialog.show();
+    QCOMPARE(dialog.width(), 200);
+    const QSize desktop = dialog.screen()->virtualSize();
+    QCOMPARE(dialog.pos(),
+             QPoint((desktop.width() - 200) / 2, (desktop.height() - dialog.height()) / 2));
+}
+
+void SelectDeviceDlgTest::aLongPromptTakesTwoLines()
+{
+    SelectDeviceDlg dialog;
+    auto *prompt = dialog.findChild<QLabel *>();
+    const int oneLine = dialog.sizeHint().height();
+    prompt->setText(QStringLiteral("Bitte wählen Sie ein Gerät aus der Liste:"));
+    WebcamUtil::moveToCenter(&dialog, nullptr);
+    dialog.show();
+    QCOMPARE(dialog.height(), oneLine + prompt->fontMetrics().lineSpacing());
+    QVERIFY(prompt->height() >= prompt->heightForWidth(prompt->width()));
 }
 
 void SelectDeviceDlgTest::tellsAScreenReaderWhatTheBoxIsFor()
