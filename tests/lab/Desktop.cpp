@@ -3,10 +3,12 @@
 #include <QColor>
 #include <QTest>
 
+#include <X11/XKBlib.h>
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 #include <X11/extensions/XTest.h>
+#include <X11/keysym.h>
 
 namespace {
 
@@ -212,20 +214,34 @@ void Desktop::click(QPoint at) const
 
 void Desktop::pressKey(const char *name) const
 {
-    if (!m_display) {
-        return;
+    if (m_display) {
+        pressSymbol(XStringToKeysym(name));
     }
-    const KeyCode code = XKeysymToKeycode(m_display, XStringToKeysym(name));
-    XTestFakeKeyEvent(m_display, code, True, CurrentTime);
-    XTestFakeKeyEvent(m_display, code, False, CurrentTime);
-    XSync(m_display, False);
 }
 
 void Desktop::type(const QString &text) const
 {
     for (const QChar c : text) {
-        pressKey(c == '/' ? "slash" : c == '.' ? "period" : QString(c).toLatin1().constData());
+        if (m_display && c.unicode() < 128) { // the keyboard's symbols are numbered like ASCII
+            pressSymbol(c.unicode());
+        }
     }
+}
+
+void Desktop::pressSymbol(unsigned long symbol) const
+{
+    const KeyCode code = XKeysymToKeycode(m_display, symbol);
+    const KeyCode shift = XKeysymToKeycode(m_display, XK_Shift_L);
+    const bool shifted = XkbKeycodeToKeysym(m_display, code, 0, 0) != symbol;
+    if (shifted) {
+        XTestFakeKeyEvent(m_display, shift, True, CurrentTime);
+    }
+    XTestFakeKeyEvent(m_display, code, True, CurrentTime);
+    XTestFakeKeyEvent(m_display, code, False, CurrentTime);
+    if (shifted) {
+        XTestFakeKeyEvent(m_display, shift, False, CurrentTime);
+    }
+    XSync(m_display, False);
 }
 
 Desktop::Window Desktop::describe(quint32 id, quint32 activeId) const

@@ -53,11 +53,12 @@ public:
     void click(QPoint at) const;
     // A key by its X name: "Tab", "space", "Return", "Escape", "a".
     void pressKey(const char *name) const;
-    // Characters that need no shift key.
+    // ASCII only.
     void type(const QString &text) const;
 
 private:
     Window describe(quint32 id, quint32 activeId) const;
+    void pressSymbol(unsigned long symbol) const;
     QVector<quint32> cardinals(quint32 window, const char *property) const;
 
     // Xlib's own name for its Display, whose header must not meet Qt's.
