@@ -21,7 +21,9 @@ public:
 
     // Starts the program without waiting for a window.
     void start();
-    // As the machine does it when it goes down or runs out of memory.
+    // As the session does it when the user logs out.
+    void terminate() { m_process.terminate(); }
+    // As the machine does it when memory runs out.
     void kill();
     bool isRunning() const;
     // True when the program has ended by itself within the limit.

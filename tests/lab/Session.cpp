@@ -1,0 +1,205 @@
+#include "Session.h"
+
+#include "LabPattern.h"
+#include "SaveConfirmDlg.h"
+#include "Setting.h"
+#include "WebcamUtil.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+constexpr int startLimit = 15000;
+constexpr int reactionLimit = 4000;
+// Colours that went through the camera's luma and chroma, and through scaling.
+constexpr int colourTolerance = 16;
+
+} // namespace
+
+Session::Session(const QString &executable, const QString &cameraName, QSize cameraSize)
+    : m_program(executable)
+    , m_map(m_desktop.screen().size(), cameraSize)
+    , m_ground(LabPattern::groundOf(cameraName))
+{
+}
+
+bool Session::startLive()
+{
+    m_program.start();
+    return waitForMainWindow()
+        && QTest::qWaitFor([this] { return isLiveAt(m_map.videoRect()); }, startLimit);
+}
+
+bool Session::waitForMainWindow()
+{
+    return QTest::qWaitFor([this] { return mainWindow().id != 0; }, startLimit);
+}
+
+Desktop::Window Session::mainWindow() const
+{
+    for (const Desktop::Window &window : m_desktop.windowsOf(m_program.pid())) {
+        if (window.geometry == m_desktop.screen()) {
+            return window;
+        }
+    }
+    return {};
+}
+
+Desktop::Window Session::dialog() const
+{
+    const Desktop::Window top = m_desktop.topWindowOf(m_program.pid());
+    return top.geometry == m_desktop.screen() ? Desktop::Window() : top;
+}
+
+bool Session::waitForDialog(const QString &title)
+{
+    // Active, so that it has been mapped and placed where it will stay.
+    return QTest::qWaitFor(
+        [&] {
+            const Desktop::Window found = dialog();
+            return found.isActive && found.title == title;
+        },
+        reactionLimit);
+}
+
+bool Session::waitUntilNoDialog()
+{
+    return QTest::qWaitFor([this] { return dialog().id == 0; }, reactionLimit);
+}
+
+int Session::counterAt(QRect place) const
+{
+    return LabPattern::counterOf(seenAt(place));
+}
+
+bool Session::isLiveAt(QRect place) const
+{
+    const QImage first = seenAt(place);
+    const int counter = LabPattern::counterOf(first);
+    return counter >= 0 && LabPattern::worstDifference(first, m_ground) < colourTolerance
+        && QTest::qWaitFor([&] { return counterAt(place) > counter; }, 1000);
+}
+
+bool Session::isStillAt(QRect place) const
+{
+    const QImage first = seenAt(place);
+    return LabPattern::counterOf(first) >= 0
+        && LabPattern::worstDifference(first, m_ground) < colourTolerance
+        && !QTest::qWaitFor([&] { return seenAt(place) != first; }, 300);
+}
+
+void Session::press(WindowMap::Screen screen, const QString &button)
+{
+    m_desktop.click(m_map.button(screen, button).center());
+}
+
+bool Session::pressWhenReady(WindowMap::Screen screen, const QString &button)
+{
+    const auto ready = [&] {
+        return m_map.look(m_desktop.screenshot(), screen, button) == WindowMap::Up;
+    };
+    if (!QTest::qWaitFor(ready, reactionLimit)) {
+        return false;
+    }
+    press(screen, button);
+    return true;
+}
+
+bool Session::takePhotoForPreview()
+{
+    const int before = m_program.captured().size();
+    return pressWhenReady(WindowMap::LiveScreen, "Photo")
+        && QTest::qWaitFor(
+               [&] {
+                   return m_program.captured().size() == before + 1
+                       && m_map.look(m_desktop.screenshot(), WindowMap::PreviewScreen, "Apply")
+                       == WindowMap::Up;
+               },
+               reactionLimit);
+}
+
+bool Session::waitForPressable(WindowMap::Screen screen, const QStringList &buttons)
+{
+    return QTest::qWaitFor(
+        [&] { return m_map.pressable(m_desktop.screenshot(), screen) == buttons; }, reactionLimit);
+}
+
+bool Session::clickInSettings(const QString &objectName)
+{
+    if (!waitForDialog("Settings")) {
+        return false;
+    }
+    Setting twin(nullptr);
+    const auto *control = twin.findChild<QWidget *>(objectName);
+    if (!control) {
+        return false;
+    }
+    m_desktop.click(WindowMap::inDialog(&twin, control, dialog().geometry.topLeft()));
+    return true;
+}
+
+bool Session::answerExitQuestion(const QString &caption)
+{
+    if (!waitForDialog("Orvanta")) {
+        return false;
+    }
+    SaveConfirmDlg twin;
+    for (const auto *button : twin.findChildren<QPushButton *>()) {
+        if (button->text() == caption) {
+            m_desktop.click(WindowMap::inDialog(&twin, button, dialog().geometry.topLeft()));
+            return true;
+        }
+    }
+    return false;
+}
+
+void Session::chooseCamera(int position)
+{
+    for (int i = 0; i < position; ++i) {
+        m_desktop.pressKey("Down");
+    }
+    m_desktop.pressKey("Tab");
+    m_desktop.pressKey("space");
+}
+
+void Session::prepareTwin(QMessageBox *box) const
+{
+    box->setIcon(QMessageBox::Warning);
+    box->setWindowTitle("Orvanta");
+    box->setText(m_messageText);
+    box->setStandardButtons(QMessageBox::Ok);
+    box->setAttribute(Qt::WA_DontShowOnScreen);
+    // Long texts break into lines by the size the box has before it is shown.
+    WebcamUtil::moveToCenter(box, nullptr);
+    box->show();
+}
+
+bool Session::messageSays(const QString &text)
+{
+    m_messageText = text;
+    QMessageBox twin;
+    prepareTwin(&twin);
+    const auto *label = twin.findChild<QLabel *>("qt_msgbox_label");
+    const QRect textArea(label->mapTo(&twin, QPoint()), label->size());
+    const QImage expected =
+        twin.grab().toImage().copy(textArea).convertToFormat(QImage::Format_RGB32);
+    return QTest::qWaitFor(
+        [&] {
+            const Desktop::Window box = dialog();
+            return box.id != 0 && box.geometry.size() == twin.size()
+                && seenAt(textArea.translated(box.geometry.topLeft())) == expected;
+        },
+        reactionLimit);
+}
+
+bool Session::confirmMessage()
+{
+    QMessageBox twin;
+    prepareTwin(&twin);
+    const auto *ok = twin.button(QMessageBox::Ok);
+    m_desktop.click(WindowMap::inDialog(&twin, ok, dialog().geometry.topLeft()));
+    return waitUntilNoDialog();
+}

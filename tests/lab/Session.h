@@ -1,0 +1,68 @@
+#ifndef SESSION_H
+#define SESSION_H
+
+#include "Desktop.h"
+#include "Program.h"
+#include "WindowMap.h"
+
+class QMessageBox;
+
+// A person at the camera program: starts it, looks at its window, presses its buttons and answers
+// its questions, almost always with the mouse. Every wait has a limit; a false or an empty result
+// means that what was waited for did not come.
+//
+// Needs a QApplication on the lab's screen and the program's resources (orvanta_res).
+class Session {
+public:
+    // The camera is the one the program is expected to show.
+    Session(const QString &executable, const QString &cameraName, QSize cameraSize);
+
+    Desktop &desktop() { return m_desktop; }
+    Program &program() { return m_program; }
+    WindowMap &map() { return m_map; }
+    QRgb ground() const { return m_ground; }
+
+    // Starts the program and waits until the camera's picture moves in its window.
+    bool startLive();
+    bool waitForMainWindow();
+    Desktop::Window mainWindow() const;
+    // Of the program's dialogs the highest; id 0 when none is open.
+    Desktop::Window dialog() const;
+    bool waitForDialog(const QString &title);
+    bool waitUntilNoDialog();
+
+    // What the screen shows there.
+    QImage seenAt(QRect place) const { return m_desktop.screenshot().copy(place); }
+    // The camera's frame number as seen there, -1 when there is no whole picture of the camera.
+    int counterAt(QRect place) const;
+    // True once the picture there changes as a camera's does, with the right colours.
+    bool isLiveAt(QRect place) const;
+    bool isStillAt(QRect place) const;
+
+    void press(WindowMap::Screen screen, const QString &button);
+    // Waits until the button is there and can be pressed, then presses it.
+    bool pressWhenReady(WindowMap::Screen screen, const QString &button);
+    // From the live picture to the preview of a photo that is on the disk.
+    bool takePhotoForPreview();
+    bool waitForPressable(WindowMap::Screen screen, const QStringList &buttons);
+
+    // In the settings, by the control's object name; in the question at exit, by its caption.
+    bool clickInSettings(const QString &objectName);
+    bool answerExitQuestion(const QString &caption);
+    // In the chooser at start, by the keyboard: the camera at this position of the box, then "OK".
+    void chooseCamera(int position);
+    // Whether the open dialog is a message box with this very text, compared pixel by pixel.
+    bool messageSays(const QString &text);
+    bool confirmMessage();
+
+private:
+    void prepareTwin(QMessageBox *box) const;
+
+    Desktop m_desktop;
+    Program m_program;
+    WindowMap m_map;
+    QRgb m_ground;
+    QString m_messageText;
+};
+
+#endif // SESSION_H

@@ -1,0 +1,54 @@
+#ifndef WINDOWMAP_H
+#define WINDOWMAP_H
+
+#include "DialogGeometry.h"
+
+#include <QHash>
+#include <QImage>
+#include <QRect>
+#include <QStringList>
+
+class QDialog;
+class QWidget;
+
+// Where a person finds things in the main window, on this screen and with a camera of a given size:
+// the button rows, the views, and how each button looks. It asks the program's own geometry and its
+// own button class, so it needs the program's resources and a QApplication on the same screen.
+//
+// Buttons go by their base name ("Photo", "Close"); all places are pixels of the screen.
+class WindowMap {
+public:
+    enum Screen { LiveScreen, PhotoScreen, PreviewScreen, ListScreen };
+    enum Look { Up, Down, Disabled, Absent };
+
+    WindowMap(QSize screen, QSize camera);
+
+    // Null when that screen has no such button.
+    QRect button(Screen screen, const QString &name) const;
+    // The bitmap the screenshot shows at the button's place; the caption is not looked at.
+    Look look(const QImage &screenshot, Screen screen, const QString &name);
+    // The buttons of a screen that can be pressed.
+    QStringList pressable(const QImage &screenshot, Screen screen);
+
+    QRect videoRect() const { return m_video; }
+    // While a photo waits for "Accept" or "Retry": live at the left, the photo at the right.
+    QRect previewLiveRect() const { return m_half; }
+    QRect previewPhotoRect() const { return DialogGeometry::besideHalfScreen(m_half); }
+
+    // The middle of a control of a dialog of the program, found on a twin of the dialog that is
+    // laid out but not shown. `topLeft` is where the real one stands.
+    static QPoint inDialog(QDialog *twin, const QWidget *control, QPoint topLeft);
+
+private:
+    QStringList rowOf(Screen screen) const;
+    const QVector<QImage> &bitmaps(const QString &name, QSize size);
+
+    DialogGeometry m_geometry;
+    QRect m_close;
+    QRect m_settings;
+    QRect m_video;
+    QRect m_half;
+    QHash<QString, QVector<QImage>> m_bitmaps;
+};
+
+#endif // WINDOWMAP_H
