@@ -1,0 +1,123 @@
+// A guided tour of the program for those who have no screen at hand: it uses the program in the lab
+// with real clicks, keeps a picture of every screen and, at the end, the photo that was saved.
+//
+//   orvanta_tour PROGRAM FOLDER CAMERA WIDTHxHEIGHT
+//
+// Run by tests/lab/tour, which builds the lab around it. Status 0 when every step worked.
+
+#include "LabPattern.h"
+#include "Session.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTest>
+
+#include <cstdio>
+
+namespace {
+
+class Tour {
+public:
+    Tour(Session *user, const QString &folder)
+        : m_user(user)
+        , m_folder(folder)
+    {
+    }
+
+    // One stop: says what it is, and keeps a picture of the screen when the step worked.
+    void stop(const char *name, const char *what, bool worked)
+    {
+        if (!m_good) {
+            return;
+        }
+        m_good = worked;
+        if (!worked) {
+            std::fprintf(stderr, "tour: \"%s\" did not come up\n%s\n", what,
+                         qPrintable(m_user->program().output()));
+        }
+        // Also of what came up instead.
+        const QString file = m_folder.filePath(
+            QStringLiteral("%1-%2.png").arg(++m_stops, 2, 10, QChar('0')).arg(QLatin1String(name)));
+        m_user->desktop().screenshot().save(file);
+        std::printf("%-58s %s\n", what, qPrintable(QDir::cleanPath(file)));
+        std::fflush(stdout);
+    }
+
+    // The photos that the program saved, copied out of the lab.
+    void keepSavedPhotos()
+    {
+        const QDir saved(m_user->program().saveFolder());
+        const QStringList files = saved.entryList(QDir::Files, QDir::Name);
+        for (const QString &file : files) {
+            const QString kept = m_folder.filePath(file);
+            m_good = m_good && QFile::copy(saved.filePath(file), kept)
+                && LabPattern::counterOf(QImage(kept)) >= 0;
+            std::printf("%-58s %s\n", "A saved photo", qPrintable(QDir::cleanPath(kept)));
+        }
+        m_good = m_good && !files.isEmpty();
+    }
+
+    bool isGood() const { return m_good; }
+
+private:
+    Session *m_user;
+    QDir m_folder;
+    int m_stops = 0;
+    bool m_good = true;
+};
+
+void photograph(Tour *tour, Session *user)
+{
+    const WindowMap &map = user->map();
+    tour->stop("live", "The live picture", user->startLive());
+    tour->stop("preview", "A photo beside the live picture: accept or retry",
+               user->takePhotoForPreview()
+                   && QTest::qWaitFor([&] { return user->isStillAt(map.previewPhotoRect()); }));
+    tour->stop("photo", "The accepted photo",
+               user->pressWhenReady(WindowMap::PreviewScreen, "Apply")
+                   && QTest::qWaitFor([&] { return user->isStillAt(map.videoRect()); }));
+}
+
+void lookAround(Tour *tour, Session *user)
+{
+    tour->stop(
+        "list", "The list of photos",
+        user->pressWhenReady(WindowMap::PhotoScreen, "List")
+            && user->waitForPressable(WindowMap::ListScreen, {"Live", "SwitchMovie", "Close"}));
+    tour->stop("settings", "The settings",
+               user->pressWhenReady(WindowMap::ListScreen, "Live")
+                   && user->pressWhenReady(WindowMap::LiveScreen, "Settings")
+                   && user->waitForDialog("Settings"));
+}
+
+void leave(Tour *tour, Session *user)
+{
+    tour->stop("exit", "The question at exit",
+               user->clickInSettings("btnOk") && user->waitUntilNoDialog()
+                   && user->pressWhenReady(WindowMap::LiveScreen, "Close")
+                   && user->waitForDialog("Orvanta"));
+    const bool ended = user->answerExitQuestion("Yes") && user->program().hasEndedWithin(5000)
+        && user->program().exitStatus() == 0;
+    tour->stop("gone", "\"Yes\": the desktop is back", ended);
+    tour->keepSavedPhotos();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    const QStringList size = arguments.value(4).split('x');
+    if (size.size() != 2) {
+        std::fprintf(stderr, "usage: orvanta_tour PROGRAM FOLDER CAMERA WIDTHxHEIGHT\n");
+        return 2;
+    }
+    Session user(arguments[1], arguments[3], QSize(size[0].toInt(), size[1].toInt()));
+    QDir().mkpath(arguments[2]);
+    Tour tour(&user, arguments[2]);
+    photograph(&tour, &user);
+    lookAround(&tour, &user);
+    leave(&tour, &user);
+    return tour.isGood() ? 0 : 1;
+}
