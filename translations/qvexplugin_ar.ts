@@ -27,7 +27,7 @@
         <source>Continuous
 Capture</source>
         <translation>التقاط
-متتابع</translation>
+  متتابع</translation>
     </message>
     <message>
         <source>Take a series of photos</source>
@@ -358,16 +358,16 @@ Capture</source>
         <translation>الدقة:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>مجلد الحفظ:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>استخدام الموقع الافتراضي</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>استخدام موقع آخر</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>مجلد الحفظ:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ snímání</translation>
         <translation>Rozlišení:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Složka pro uložení:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Použít výchozí umístění</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Použít jiné umístění</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Složka pro uložení:</translation>
     </message>
     <message>
         <source>...</source>

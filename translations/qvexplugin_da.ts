@@ -358,16 +358,16 @@ optagelse</translation>
         <translation>Opløsning:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Mappe til lagring:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Brug standardplacering</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Brug anden placering</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Mappe til lagring:</translation>
     </message>
     <message>
         <source>...</source>

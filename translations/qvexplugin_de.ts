@@ -59,7 +59,7 @@ aufnahme</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation>Einstellungen</translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Change the settings</source>
@@ -358,16 +358,16 @@ aufnahme</translation>
         <translation>Auflösung:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Speicherordner:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Standardordner verwenden</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Anderen Ordner verwenden</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Speicherordner:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ Capture</source>
         <translation>Ανάλυση:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Φάκελος αποθήκευσης:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Προεπιλεγμένη θέση</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Άλλη θέση</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Φάκελος αποθήκευσης:</translation>
     </message>
     <message>
         <source>...</source>

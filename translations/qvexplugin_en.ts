@@ -358,16 +358,16 @@ Capture</translation>
         <translation>Resolution:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Save Directry:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Using the standard location</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Specify a destination</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Save Directry:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ continua</translation>
         <translation>Resolución:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Carpeta para guardar:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Usar la ubicación predeterminada</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Usar otra ubicación</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Carpeta para guardar:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ kuvaus</translation>
         <translation>Tarkkuus:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Tallennuskansio:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Käytä oletussijaintia</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Käytä muuta sijaintia</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Tallennuskansio:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ rafale</translation>
         <translation>Résolution&#xa0;:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Dossier d’enregistrement :</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Utiliser l’emplacement par défaut</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Utiliser un autre emplacement</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Dossier d’enregistrement :</translation>
     </message>
     <message>
         <source>...</source>

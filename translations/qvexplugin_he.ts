@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Live</source>
-        <translation>חי</translation>
+        <translation>שידור חי</translation>
     </message>
     <message>
         <source>Back to the live picture</source>
@@ -27,7 +27,7 @@
         <source>Continuous
 Capture</source>
         <translation>צילום
-רציף</translation>
+  רציף</translation>
     </message>
     <message>
         <source>Take a series of photos</source>
@@ -358,16 +358,16 @@ Capture</source>
         <translation>רזולוציה:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>תיקיית שמירה:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>שימוש במיקום ברירת המחדל</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>שימוש במיקום אחר</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>תיקיית שמירה:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ felvétel</translation>
         <translation>Felbontás:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Mentési mappa:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Alapértelmezett hely</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Más hely használata</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Mentési mappa:</translation>
     </message>
     <message>
         <source>...</source>

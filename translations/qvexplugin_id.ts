@@ -358,16 +358,16 @@ Beruntun</translation>
         <translation>Resolusi:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Folder penyimpanan:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Gunakan lokasi bawaan</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Gunakan lokasi lain</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Folder penyimpanan:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ continui</translation>
         <translation>Risoluzione:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Cartella di salvataggio:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Usa la posizione predefinita</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Usa un’altra posizione</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Cartella di salvataggio:</translation>
     </message>
     <message>
         <source>...</source>

@@ -357,16 +357,16 @@ Capture</source>
         <translation>解像度:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>保存先:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>標準の場所に保存する</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>別の場所に保存する</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>保存先:</translation>
     </message>
     <message>
         <source>...</source>

@@ -357,16 +357,16 @@ Capture</source>
         <translation>해상도:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>저장 폴더:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>기본 위치 사용</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>다른 위치 사용</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>저장 폴더:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ opname</translation>
         <translation>Resolutie:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Opslagmap:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Standaardlocatie gebruiken</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Andere locatie gebruiken</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Opslagmap:</translation>
     </message>
     <message>
         <source>...</source>

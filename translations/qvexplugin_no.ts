@@ -358,16 +358,16 @@ opptak</translation>
         <translation>Oppløsning:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Lagringsmappe:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Bruk standardplassering</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Bruk annen plassering</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Lagringsmappe:</translation>
     </message>
     <message>
         <source>...</source>

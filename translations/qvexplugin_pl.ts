@@ -358,16 +358,16 @@ seryjne</translation>
         <translation>Rozdzielczość:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Folder zapisu:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Użyj domyślnego miejsca</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Użyj innego miejsca</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Folder zapisu:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ contínua</translation>
         <translation>Resolução:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Pasta para guardar:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Usar a localização predefinida</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Usar outra localização</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Pasta para guardar:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ contínua</translation>
         <translation>Resolução:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Pasta para salvar:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Usar o local padrão</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Usar outro local</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Pasta para salvar:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ continuă</translation>
         <translation>Rezoluție:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Dosar pentru salvare:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Folosește locația implicită</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Folosește altă locație</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Dosar pentru salvare:</translation>
     </message>
     <message>
         <source>...</source>

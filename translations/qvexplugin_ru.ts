@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Live</source>
-        <translation>Прямой эфир</translation>
+        <translation>Прямой
+эфир</translation>
     </message>
     <message>
         <source>Back to the live picture</source>
@@ -358,16 +359,16 @@ Capture</source>
         <translation>Разрешение:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Папка сохранения:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Обычное место</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Другое место</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Папка сохранения:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ snímanie</translation>
         <translation>Rozlíšenie:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Priečinok na uloženie:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Použiť predvolené miesto</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Použiť iné miesto</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Priečinok na uloženie:</translation>
     </message>
     <message>
         <source>...</source>

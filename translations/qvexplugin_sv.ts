@@ -358,16 +358,16 @@ foto</translation>
         <translation>Upplösning:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Mapp att spara i:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Använd standardplats</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Använd annan plats</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Mapp att spara i:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ Capture</source>
         <translation>ความละเอียด:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>โฟลเดอร์สำหรับบันทึก:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>ใช้ตำแหน่งเริ่มต้น</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>ใช้ตำแหน่งอื่น</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>โฟลเดอร์สำหรับบันทึก:</translation>
     </message>
     <message>
         <source>...</source>

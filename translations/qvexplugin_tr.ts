@@ -358,16 +358,16 @@ Capture</source>
         <translation>Çözünürlük:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Kayıt klasörü:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Varsayılan konumu kullan</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Başka konum kullan</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Kayıt klasörü:</translation>
     </message>
     <message>
         <source>...</source>

@@ -358,16 +358,16 @@ Capture</source>
         <translation>Роздільність:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Папка збереження:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Звичайне місце</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Інше місце</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Папка збереження:</translation>
     </message>
     <message>
         <source>...</source>

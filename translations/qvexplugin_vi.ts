@@ -358,16 +358,16 @@ liên tục</translation>
         <translation>Độ phân giải:</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>Thư mục lưu:</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>Dùng vị trí mặc định</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>Dùng vị trí khác</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>Thư mục lưu:</translation>
     </message>
     <message>
         <source>...</source>

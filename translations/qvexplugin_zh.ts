@@ -357,16 +357,16 @@ Capture</source>
         <translation>分辨率：</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>保存文件夹：</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>使用默认位置</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>使用其他位置</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>保存文件夹：</translation>
     </message>
     <message>
         <source>...</source>

@@ -357,16 +357,16 @@ Capture</source>
         <translation>解析度：</translation>
     </message>
     <message>
-        <source>Save Directry:</source>
-        <translation>儲存資料夾：</translation>
-    </message>
-    <message>
         <source>Using the standard location</source>
         <translation>使用預設位置</translation>
     </message>
     <message>
         <source>Specify a destination</source>
         <translation>使用其他位置</translation>
+    </message>
+    <message>
+        <source>Save Directry:</source>
+        <translation>儲存資料夾：</translation>
     </message>
     <message>
         <source>...</source>
