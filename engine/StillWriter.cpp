@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <spng.h>
+#include <zlib.h>
 
 struct SpngFree {
     void operator()(spng_ctx *context) const { spng_ctx_free(context); }
@@ -20,8 +21,9 @@ struct MallocFree {
     void operator()(void *memory) const { std::free(memory); }
 };
 
-// A shutter cannot wait for the best compression: level 1 with one filter takes a tenth of the time
-// for a file that is a little larger.
+// A shutter cannot wait for the best compression. In a camera's picture the noise of the sensor
+// leaves hardly any repetition to search for, so only runs are looked for: that takes a tenth of
+// the time or less, for a file of the same size.
 static bool encodePng(const QImage &picture, QIODevice &file)
 {
     const std::unique_ptr<spng_ctx, SpngFree> context(spng_ctx_new(SPNG_CTX_ENCODER));
@@ -29,7 +31,8 @@ static bool encodePng(const QImage &picture, QIODevice &file)
         return false;
     spng_set_option(context.get(), SPNG_ENCODE_TO_BUFFER, 1);
     spng_set_option(context.get(), SPNG_IMG_COMPRESSION_LEVEL, 1);
-    spng_set_option(context.get(), SPNG_FILTER_CHOICE, SPNG_FILTER_CHOICE_SUB);
+    spng_set_option(context.get(), SPNG_FILTER_CHOICE, SPNG_FILTER_CHOICE_UP);
+    spng_set_option(context.get(), SPNG_IMG_COMPRESSION_STRATEGY, Z_RLE);
     spng_ihdr header = {};
     header.width = uint32_t(picture.width());
     header.height = uint32_t(picture.height());
