@@ -3,6 +3,7 @@
 #include "CWMUpdateTimer.h"
 
 #include <QWidget>
+#include <QWindow>
 #include <QX11Info>
 #include <cstdio>
 #include <cstdlib>
@@ -70,13 +71,22 @@ void CWindowManagement::update_window()
             return;
         }
     }
-    if (m_widget->isActiveWindow()) {
+    if (m_widget->isActiveWindow() || !hasBeenOnScreen()) {
         return;
     }
     if (m_raiseParents) {
         raiseParentWidgetTop(m_widget->parentWidget());
     }
     raiseQtWindowTop(m_widget->winId());
+}
+
+bool CWindowManagement::hasBeenOnScreen()
+{
+    if (!m_wasOnScreen) {
+        const QWindow *window = m_widget->window()->windowHandle();
+        m_wasOnScreen = window && window->isExposed();
+    }
+    return m_wasOnScreen;
 }
 
 void CWindowManagement::raiseParentWidgetTop(QWidget *widget)

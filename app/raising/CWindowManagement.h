@@ -60,10 +60,15 @@ public:
     static bool statesProcesses(const char *line);
 
 private:
+    /// False until the window manager has put the window on the screen. Mapped past it before that,
+    /// the window would stand there unmanaged: without the keyboard, and in front of its own boxes.
+    bool hasBeenOnScreen();
+
     QWidget *m_widget;
     std::unique_ptr<CWMUpdateTimer> m_timer;
     QString m_processName;
     bool m_raiseParents;
+    bool m_wasOnScreen = false;
 };
 
 #endif

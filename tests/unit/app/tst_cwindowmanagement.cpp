@@ -42,6 +42,22 @@ public:
     }
 };
 
+/// The window of another program that has come in front of a widget on the screen.
+class OtherWindow : public QWidget {
+public:
+    explicit OtherWindow(QWidget &behind)
+    {
+        behind.show();
+        show();
+        activateWindow();
+        m_isInFront = QTest::qWaitForWindowExposed(&behind) && QTest::qWaitForWindowActive(this);
+    }
+    bool isInFront() const { return m_isInFront; }
+
+private:
+    bool m_isInFront = false;
+};
+
 constexpr int never = 60000; // ms, a period in which no step falls into a test
 
 } // namespace
@@ -59,6 +75,8 @@ private slots:
 
     void theActiveWidgetIsLeftAlone();
     void anInactiveWidgetIsRaised();
+    void aWindowThatWasNeverOnScreenIsLeftToTheWindowManager();
+    void aWindowThatWasOnScreenIsBroughtBack();
     void parentsAreRaisedFirstAndOutermostFirst();
     void parentsAreLeftAloneUnlessAskedFor();
 
@@ -109,6 +127,8 @@ void tst_CWindowManagement::startingAgainTakesTheNewPeriod()
 void tst_CWindowManagement::aWidgetMayHandItselfOverWhileItIsBuilt()
 {
     HalfBuilt widget;
+    const OtherWindow other(widget);
+    QVERIFY(other.isInFront());
     QTRY_VERIFY(FakeXlib::calls.contains("XRaiseWindow " + QString::number(widget.winId())));
 }
 
@@ -127,6 +147,30 @@ void tst_CWindowManagement::anInactiveWidgetIsRaised()
 {
     QWidget widget;
     CWindowManagement management(&widget, never, true, QString());
+    const OtherWindow other(widget);
+    QVERIFY(other.isInFront());
+    management.update_window();
+    QCOMPARE(FakeXlib::calls, clientRaised(widget.winId()));
+}
+
+void tst_CWindowManagement::aWindowThatWasNeverOnScreenIsLeftToTheWindowManager()
+{
+    QWidget widget;
+    widget.winId(); // there is a window, but it has not been mapped yet
+    CWindowManagement management(&widget, never, true, QString());
+    management.update_window();
+    QCOMPARE(FakeXlib::calls, QStringList());
+}
+
+void tst_CWindowManagement::aWindowThatWasOnScreenIsBroughtBack()
+{
+    QWidget widget;
+    CWindowManagement management(&widget, never, true, QString());
+    const OtherWindow other(widget);
+    QVERIFY(other.isInFront());
+    management.update_window();
+    FakeXlib::calls.clear();
+    widget.hide();
     management.update_window();
     QCOMPARE(FakeXlib::calls, clientRaised(widget.winId()));
 }
@@ -137,6 +181,8 @@ void tst_CWindowManagement::parentsAreRaisedFirstAndOutermostFirst()
     QWidget inner(&outer);
     QWidget widget(&inner);
     CWindowManagement management(&widget, never, true, QString());
+    const OtherWindow other(outer);
+    QVERIFY(other.isInFront());
     management.update_window();
     QCOMPARE(FakeXlib::calls,
              clientRaised(outer.winId()) + clientRaised(inner.winId())
@@ -148,6 +194,8 @@ void tst_CWindowManagement::parentsAreLeftAloneUnlessAskedFor()
     QWidget outer;
     QWidget widget(&outer);
     CWindowManagement management(&widget, never, false, QString());
+    const OtherWindow other(outer);
+    QVERIFY(other.isInFront());
     management.update_window();
     QCOMPARE(FakeXlib::calls, clientRaised(widget.winId()));
 }
@@ -213,6 +261,8 @@ void tst_CWindowManagement::aRunningProgramIsFoundByItsNameAndSuspendsTheRaising
 
     QWidget widget;
     CWindowManagement management(&widget, never, true, name);
+    const OtherWindow other(widget);
+    QVERIFY(other.isInFront());
     std::string plain = name.toStdString();
     QVERIFY(!management.isRunning(plain));
     management.update_window();
