@@ -1,0 +1,210 @@
+#include "Session.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+constexpr int patienceMs = 10000;
+
+// With its trailing blank.
+const char lostText[] = "The video device is invalid. Please confirm whether the device is "
+                        "correctly connected. ";
+
+bool labctl(const QStringList &arguments)
+{
+    return QProcess::execute("labctl", arguments) == 0;
+}
+
+// A movie of a few seconds whose picture changes all the time.
+bool makeMovie(const QString &path)
+{
+    return QProcess::execute("gst-launch-1.0",
+                             {"-q", "videotestsrc", "pattern=ball", "num-buffers=300", "!",
+                              "video/x-raw,format=I420,width=320,height=240,framerate=20/1", "!",
+                              "x264enc", "tune=zerolatency", "key-int-max=10", "!", "qtmux", "!",
+                              "filesink", "location=" + path})
+        == 0;
+}
+
+} // namespace
+
+// The camera's cable is pulled while the user is busy with something: one message, nothing that
+// was captured is lost, and "List" and "Live" lead back to the picture.
+class TestLosingMidway : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void inTheMiddleOfASeries();
+    void withAPhotoToAccept();
+    void inTheList();
+    void duringPlayback();
+    void withTheSettingsOpen();
+    void atTheQuestionBeforeExit();
+
+private:
+    void pullTheCable();
+    void expectOnlyListAndExit();
+    void expectTheWayBack();
+    bool movesOnScreen(QRect place) const;
+
+    std::unique_ptr<Session> m_user;
+};
+
+void TestLosingMidway::init()
+{
+    m_user = std::make_unique<Session>(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+}
+
+void TestLosingMidway::cleanup()
+{
+    if (m_user->program().pid() != 0) {
+        QVERIFY2(m_user->program().isRunning(), qPrintable(m_user->program().output()));
+    }
+    m_user.reset();
+    labctl({"unplug", "cam1"});
+    QVERIFY(labctl({"plug", "cam1", "1280x720"}));
+}
+
+// Up to the message, which stays open.
+void TestLosingMidway::pullTheCable()
+{
+    QVERIFY(labctl({"unplug", "cam1"}));
+    QVERIFY(m_user->messageSays(lostText));
+}
+
+void TestLosingMidway::expectOnlyListAndExit()
+{
+    QVERIFY(m_user->waitForPressable(WindowMap::LiveScreen, {"List", "Close"}));
+    QCOMPARE(m_user->counterAt(m_user->map().videoRect()), -1);
+    // No second message.
+    QVERIFY(!QTest::qWaitFor([this] { return m_user->dialog().id != 0; }, 1200));
+}
+
+void TestLosingMidway::expectTheWayBack()
+{
+    QVERIFY(labctl({"plug", "cam1", "1280x720"}));
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "List"));
+    QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Live"));
+    QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
+    QVERIFY(m_user->waitForPressable(
+        WindowMap::LiveScreen,
+        {"Live", "Photo", "PhotoMulti", "Movie", "List", "Settings", "Close"}));
+}
+
+bool TestLosingMidway::movesOnScreen(QRect place) const
+{
+    const QImage first = m_user->seenAt(place);
+    return QTest::qWaitFor([&] { return m_user->seenAt(place) != first; }, 500);
+}
+
+// The self-timer takes a photo every six seconds; the cable goes while it counts to the second.
+void TestLosingMidway::inTheMiddleOfASeries()
+{
+    QVERIFY(m_user->startLive());
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti"));
+    // Hidden while it is being written.
+    QTRY_VERIFY_WITH_TIMEOUT(m_user->program().captured().value(0).startsWith("photo"), patienceMs);
+    const QStringList captured = m_user->program().captured();
+    pullTheCable();
+    QVERIFY(m_user->confirmMessage());
+    expectOnlyListAndExit();
+    expectTheWayBack();
+    QTest::qWait(3000); // the countdown that was interrupted would have ended by now
+    QCOMPARE(m_user->program().captured(), captured);
+}
+
+void TestLosingMidway::withAPhotoToAccept()
+{
+    QVERIFY(m_user->startLive());
+    QVERIFY(m_user->takePhotoForPreview());
+    const QStringList captured = m_user->program().captured();
+    pullTheCable();
+    QVERIFY(m_user->confirmMessage());
+    expectOnlyListAndExit();
+    expectTheWayBack();
+    QCOMPARE(m_user->program().captured(), captured);
+}
+
+void TestLosingMidway::inTheList()
+{
+    QVERIFY(m_user->startLive());
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "List"));
+    QVERIFY(m_user->waitForPressable(WindowMap::ListScreen, {"Live", "SwitchMovie", "Close"}));
+    pullTheCable();
+    QVERIFY(m_user->confirmMessage());
+    expectOnlyListAndExit();
+    expectTheWayBack();
+}
+
+void TestLosingMidway::duringPlayback()
+{
+    const QString stem = m_user->program().temporaryArea() + "/movie20240229101500";
+    QVERIFY(QDir().mkpath(m_user->program().temporaryArea()));
+    QVERIFY(makeMovie(stem + ".mov"));
+    QImage still(320, 240, QImage::Format_RGB32);
+    still.fill(Qt::blue);
+    QVERIFY(still.save(stem + "tmp.png"));
+    QVERIFY(m_user->startLive());
+
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "List"));
+    QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "SwitchMovie"));
+    const QRect show = m_user->map().button(WindowMap::ListScreen, "Show");
+    const QPoint thumbnail(60, show.top() - 60);
+    QTRY_COMPARE(m_user->desktop().pixel(thumbnail), QColor(Qt::blue));
+    m_user->desktop().click(thumbnail);
+    QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Show"));
+    // "Play" is the second of four cells, like "Photo" it has a cell at its left.
+    const QPoint play = show.center() - QPoint(show.width() / 2, 0);
+    const QRect video = m_user->map().videoRect();
+    QTRY_VERIFY_WITH_TIMEOUT(
+        (m_user->desktop().click(play), QTest::qWait(500), movesOnScreen(video)), patienceMs);
+
+    pullTheCable();
+    const QRect aboveTheMessage = video.adjusted(0, 0, 0, -video.height() / 2 - 100);
+    QTRY_VERIFY(!movesOnScreen(aboveTheMessage));
+    QVERIFY(m_user->confirmMessage());
+    expectOnlyListAndExit();
+    expectTheWayBack();
+    QCOMPARE(m_user->program().captured().size(), 2);
+}
+
+void TestLosingMidway::withTheSettingsOpen()
+{
+    QVERIFY(m_user->startLive());
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Settings"));
+    QVERIFY(m_user->waitForDialog("Settings"));
+    pullTheCable();
+    m_user->desktop().pressKey("Return");
+    QVERIFY(m_user->clickInSettings("btnCancel"));
+    QVERIFY(m_user->waitUntilNoDialog());
+    expectOnlyListAndExit();
+    expectTheWayBack();
+}
+
+void TestLosingMidway::atTheQuestionBeforeExit()
+{
+    QVERIFY(m_user->startLive());
+    QVERIFY(m_user->takePhotoForPreview());
+    const QStringList captured = m_user->program().captured();
+    QVERIFY(m_user->pressWhenReady(WindowMap::PreviewScreen, "Apply"));
+    QVERIFY(m_user->pressWhenReady(WindowMap::PhotoScreen, "Close"));
+    QVERIFY(m_user->waitForDialog("Orvanta"));
+    const quint32 question = m_user->dialog().id;
+    pullTheCable();
+    m_user->desktop().pressKey("Return");
+    QTRY_COMPARE(m_user->dialog().id, question);
+    QVERIFY(m_user->answerExitQuestion("Cancel"));
+    QVERIFY(m_user->waitUntilNoDialog());
+    expectOnlyListAndExit();
+    QCOMPARE(m_user->program().captured(), captured);
+    expectTheWayBack();
+}
+
+QTEST_MAIN(TestLosingMidway)
+#include "tst_losingmidway.moc"
