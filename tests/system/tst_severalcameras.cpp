@@ -1,0 +1,52 @@
+#include "Session.h"
+
+#include <QTest>
+
+#include <memory>
+
+// Two cameras: the user is asked which one.
+class TestSeveralCameras : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theChosenCameraIsShown_data();
+    void theChosenCameraIsShown();
+    void closingTheChooserEndsTheProgram();
+};
+
+void TestSeveralCameras::theChosenCameraIsShown_data()
+{
+    QTest::addColumn<QString>("camera");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("position");
+    QTest::newRow("the first") << "cam1" << QSize(1280, 720) << 0;
+    QTest::newRow("the second") << "cam2" << QSize(640, 480) << 1;
+}
+
+void TestSeveralCameras::theChosenCameraIsShown()
+{
+    QFETCH(QString, camera);
+    QFETCH(QSize, size);
+    QFETCH(int, position);
+    Session user(ORVANTA_PROGRAM, camera, size);
+    user.program().start();
+    QTRY_VERIFY_WITH_TIMEOUT(user.dialog().isActive, 15000);
+    QCOMPARE(user.mainWindow().id, 0U);
+    user.chooseCamera(position);
+    QVERIFY(user.waitForMainWindow());
+    QTRY_VERIFY(user.isLiveAt(user.map().videoRect()));
+}
+
+void TestSeveralCameras::closingTheChooserEndsTheProgram()
+{
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    user.program().start();
+    QTRY_VERIFY_WITH_TIMEOUT(user.dialog().isActive, 15000);
+    user.desktop().closeWindow(user.dialog().id);
+    QVERIFY(user.program().hasEndedWithin(4000));
+    QVERIFY(!user.program().hasCrashed());
+    QCOMPARE(user.program().exitStatus(), 255);
+}
+
+QTEST_MAIN(TestSeveralCameras)
+#include "tst_severalcameras.moc"
