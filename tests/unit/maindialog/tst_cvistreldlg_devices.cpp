@@ -143,6 +143,7 @@ private Q_SLOTS:
 
     void aLossLeavesTheLiveScreenWithListAndExit_data();
     void aLossLeavesTheLiveScreenWithListAndExit();
+    void aCountdownStandsStillWhileTheMessageStands();
     void aLossPausesPlaybackAndListAndViewPlayItAgain();
     void deadButtonsDoNothingAfterALoss();
     void aCameraThatStaysAwayLeavesTheErrorScreen();
@@ -428,6 +429,27 @@ void DevicesTest::aLossLeavesTheLiveScreenWithListAndExit()
     QVERIFY(FakeEngine::script().started);
     QCOMPARE(fixture.captures(), kept);
     QCOMPARE(reader.texts().size(), 1);
+}
+
+void DevicesTest::aCountdownStandsStillWhileTheMessageStands()
+{
+    DialogFixture fixture;
+    writeSettings(fixture, "AutoShoot=1\nAutoShootTime=30\n");
+    fixture.build();
+    auto &countdown = fixture.child<TimerWidget>();
+    countdown.setTickInterval(20);
+    fixture.click("PhotoMulti");
+    QTRY_VERIFY(!countdown.text().isEmpty());
+    QStringList shown;
+    const BoxUser user({{"QMessageBox", [&](QWidget &box) {
+                             shown.append(countdown.text());
+                             QTest::qWait(100);
+                             shown.append(countdown.text());
+                             pressIn(box, QStringLiteral("OK"));
+                         }}});
+    FakeEngine::loseCamera();
+    QVERIFY(user.hasDoneAll());
+    QCOMPARE(shown.value(1), shown.value(0));
 }
 
 void DevicesTest::aLossPausesPlaybackAndListAndViewPlayItAgain()
