@@ -177,6 +177,9 @@ void CVistrelDlg::copyDevicePresence()
 
 void CVistrelDlg::openCamera()
 {
+    // Earlier than the other connections: the first screen may wait at a disk warning, and a loss
+    // that nobody is told of would leave a dead camera that counts as open.
+    connect(m_liveView, &LiveVideoWidget::disconnectDevice, this, &CVistrelDlg::changeNodevicemode);
     m_liveView->Create();
     copyDevicePresence();
     if (!m_videoPresent || !m_liveView->isCreate())
@@ -220,7 +223,6 @@ void CVistrelDlg::SetLocalConnect()
     connect(m_timerWidget, &TimerWidget::shot, this, &CVistrelDlg::OnShot);
     connect(m_timerWidget, &TimerWidget::set, this, &CVistrelDlg::setMovieTime);
     connectButton(SettingsButton);
-    connect(m_liveView, &LiveVideoWidget::disconnectDevice, this, &CVistrelDlg::changeNodevicemode);
 }
 
 void CVistrelDlg::InitialVal()

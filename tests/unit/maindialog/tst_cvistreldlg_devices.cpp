@@ -155,6 +155,7 @@ private Q_SLOTS:
     void aLossAtTheSaveQuestionIsToldAboveIt_data();
     void aLossAtTheSaveQuestionIsToldAboveIt();
     void aLossAtTheDiskWarningIsToldAboveIt();
+    void aLossAtTheDiskWarningOfTheStartIsToldToo();
     void aLossAtTheMicrophoneWarningIsToldAboveIt();
     void aWindowClosedUnderTheMessageStaysClosed();
 
@@ -647,6 +648,31 @@ void DevicesTest::aLossAtTheDiskWarningIsToldAboveIt()
     QCOMPARE(dialog.displayMode(), LiveMode);
     QCOMPARE(FakeEngine::callCount("SaveBitmap"), 0);
     QCOMPARE(fixture.usableButtons(), lostButtons);
+}
+
+void DevicesTest::aLossAtTheDiskWarningOfTheStartIsToldToo()
+{
+    DialogFixture fixture;
+    DialogFixture::fillTheDisk();
+    QString told;
+    const BoxUser user({{"QMessageBox", loseCamera},
+                        {"QMessageBox",
+                         [&told](QWidget &box) {
+                             told = static_cast<QMessageBox &>(box).text();
+                             pressIn(box, QStringLiteral("OK"));
+                         }},
+                        {"QMessageBox", press(QStringLiteral("OK"))}});
+    fixture.build();
+    QVERIFY(user.hasDoneAll());
+    QCOMPARE(told, lossText);
+    QVERIFY(!fixture.child<LiveVideoWidget>().isVisible());
+    QCOMPARE(fixture.usableButtons(), lostButtons);
+
+    const MessageReader reader; // the disk is still full
+    fixture.click("List");
+    fixture.click("Live");
+    QCOMPARE(FakeEngine::callCount("Create"), 2);
+    QVERIFY(fixture.child<LiveVideoWidget>().isVisible());
 }
 
 void DevicesTest::aLossAtTheMicrophoneWarningIsToldAboveIt()
