@@ -1,15 +1,29 @@
 #ifndef CAPTUREDPICTURE_H
 #define CAPTUREDPICTURE_H
 
+#include <QImage>
 #include <QPixmap>
 #include <QString>
 
+/**
+ * Reading the pictures of the temporary area. Null when there is no such file, when it is damaged,
+ * or when it is larger than any camera's picture (50 megapixels): a stray file must not take all
+ * the memory.
+ */
 namespace CapturedPicture {
 
-/// Reads a picture of the temporary area by its bare file name. Null when there is no such file,
-/// when it is damaged, or when it is larger than any camera's picture (50 megapixels): a stray
-/// file must not take all the memory.
-QPixmap load(const QString &name);
+/// The full path of a picture that goes by its bare file name.
+QString path(const QString &name);
+
+/// Decodes the file at @p path, with the pixels that a pixmap of it would have. From any thread;
+/// pictures larger than a camera's usual ones are decoded one at a time, so that several threads
+/// do not hold several of them.
+QImage read(const QString &path);
+
+/// The picture by its bare file name. The one read last is remembered until its file changes: a
+/// photo just taken is shown at once in several places. GUI thread only.
+QImage whole(const QString &name);
+QPixmap load(const QString &name); ///< the same as a pixmap
 
 } // namespace CapturedPicture
 

@@ -1,6 +1,6 @@
 #include "PictureListView.h"
 
-#include "CapturedPicture.h"
+#include "PictureLoader.h"
 #include "WebcamUtil.h"
 
 #include <QRegularExpression>
@@ -41,36 +41,62 @@ PictureListView::PictureListView(QWidget *parent)
     connect(this, &QListWidget::itemSelectionChanged, this, &PictureListView::selectedItem);
 }
 
+PictureListView::~PictureListView()
+{
+    PictureLoader::shared().forget(this);
+}
+
 void PictureListView::AddPicture(const QString &name)
 {
+    if (addItem(name))
+        showThumbnail(name, PictureLoader::shared().now(name, thumbnailSize()));
+}
+
+void PictureListView::AddPicture(const QStringList &names)
+{
+    for (const QString &name : names)
+        if (addItem(name))
+            PictureLoader::shared().later(
+                name, thumbnailSize(), this,
+                [this, name](const QImage &thumbnail) { showThumbnail(name, thumbnail); });
+}
+
+// The item as it is without its thumbnail; null when the strip has one of this name.
+QListWidgetItem *PictureListView::addItem(const QString &name)
+{
     if (m_itemNames.contains(name))
-        return;
+        return nullptr;
     if (iconSize().isEmpty())
         chooseIconSize();
-    const QPixmap picture = CapturedPicture::load(name);
-    const QPixmap thumbnail = picture.isNull()
-        ? picture
-        : picture.scaled(iconSize(), Qt::KeepAspectRatio, Qt::FastTransformation);
-
     auto *item = new QListWidgetItem(this);
     item->setBackground(Qt::black);
     item->setForeground(Qt::white);
     // Width and height are crossed on purpose: the strip flows downwards, and tiles are as wide as
     // the strip is high. One tile fills the height, so the next one starts a column.
     item->setSizeHint(QSize(height(), iconSize().width()));
-    item->setIcon(QIcon(thumbnail));
     item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
     QString text = name;
     if (m_movieMode)
         text.replace(QLatin1String("tmp.png"), QLatin1String(".mov"));
     item->setText(text);
     m_itemNames.append(name);
+    return item;
 }
 
-void PictureListView::AddPicture(const QStringList &names)
+void PictureListView::showThumbnail(const QString &name, const QImage &thumbnail)
 {
-    for (const QString &name : names)
-        AddPicture(name);
+    QListWidgetItem *shown = item(m_itemNames.indexOf(name));
+    if (!shown)
+        return;
+    QPixmap pixmap = QPixmap::fromImage(thumbnail);
+    pixmap.setDevicePixelRatio(devicePixelRatioF());
+    shown->setIcon(QIcon(pixmap));
+}
+
+// In the screen's own pixels.
+QSize PictureListView::thumbnailSize() const
+{
+    return (QSizeF(iconSize()) * devicePixelRatioF()).toSize();
 }
 
 void PictureListView::AddPictureWithSelect(const QString &name)
@@ -167,7 +193,12 @@ void PictureListView::setPictSize(const QSize &size)
 
 void PictureListView::Release()
 {
-    clear();
+    PictureLoader::shared().forget(this);
+    {
+        // A strip that is being left has nothing more to say about its selection.
+        const QSignalBlocker leaving(this);
+        clear();
+    }
     m_selectedNames.clear();
     m_itemNames.clear();
     hide();

@@ -11,6 +11,9 @@
  * ("...tmp.png") everywhere but in the text beneath its thumbnail, which is the movie's own
  * ("....mov"). A picture that cannot be read still gets its item, with an empty icon.
  *
+ * A list of names gives all its items at once; the thumbnails come in while the strip is already
+ * in use, as the loader has read them.
+ *
  * Choosing a tenth photo is refused: it is deselected again and the user is told once, after
  * selectedPhoto() has gone out, in a modal box that has returned when the selecting call returns.
  */
@@ -19,6 +22,7 @@ class PictureListView : public QListWidget {
 
 public:
     explicit PictureListView(QWidget *parent);
+    ~PictureListView() override;
 
     void AddPicture(const QString &name); ///< ignored if already in the strip
     void AddPicture(const QStringList &names);
@@ -49,6 +53,9 @@ protected:
 
 private:
     void chooseIconSize();
+    QListWidgetItem *addItem(const QString &name);
+    QSize thumbnailSize() const;
+    void showThumbnail(const QString &name, const QImage &thumbnail);
     bool deselectBeyondLimit();
     void warnOfLimit();
 

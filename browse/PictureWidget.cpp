@@ -2,6 +2,7 @@
 
 #include "CStretchBitmapButton.h"
 #include "CapturedPicture.h"
+#include "PictureLoader.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -25,16 +26,38 @@ PictureWidget::PictureWidget(QWidget *parent, Qt::WindowFlags f)
     m_label->adjustSize();
 }
 
+PictureWidget::~PictureWidget()
+{
+    PictureLoader::shared().forget(this);
+}
+
 void PictureWidget::Loadbmp(const QString &name)
 {
+    PictureLoader::shared().forget(this);
     if (!name.isEmpty())
         m_fileName = name;
     m_pixmap = CapturedPicture::load(m_fileName);
+    m_fittedSize = QSize();
     update();
+}
+
+void PictureWidget::loadLater(const QString &name)
+{
+    PictureLoader::shared().forget(this);
+    if (!name.isEmpty())
+        m_fileName = name;
+    m_pixmap = QPixmap();
+    PictureLoader::shared().later(m_fileName, size(), this,
+                                  [this, fit = size()](const QImage &picture) {
+                                      m_pixmap = QPixmap::fromImage(picture);
+                                      m_fittedSize = fit;
+                                      update();
+                                  });
 }
 
 void PictureWidget::Release()
 {
+    PictureLoader::shared().forget(this);
     m_pixmap = QPixmap();
     m_label->hide();
     m_fileName.clear();
@@ -110,14 +133,21 @@ void PictureWidget::OnBack()
     Q_EMIT onBack(this);
 }
 
+// In the screen's own pixels.
+QSize PictureWidget::sizeOnScreen() const
+{
+    return (QSizeF(size()) * devicePixelRatioF()).toSize();
+}
+
 void PictureWidget::paintEvent(QPaintEvent * /*event*/)
 {
     if (m_pixmap.isNull())
         return;
     // Scaling in place keeps a strip of nine photos from holding nine full-size pictures.
     const qreal ratio = devicePixelRatioF();
-    m_pixmap = m_pixmap.scaled((QSizeF(size()) * ratio).toSize(), Qt::KeepAspectRatio,
-                               Qt::FastTransformation);
+    if (m_fittedSize != sizeOnScreen())
+        m_pixmap = m_pixmap.scaled(sizeOnScreen(), Qt::KeepAspectRatio, Qt::FastTransformation);
+    m_fittedSize = QSize();
     m_pixmap.setDevicePixelRatio(ratio);
     const QSizeF shown = QSizeF(m_pixmap.size()) / ratio;
     const int left = static_cast<int>((width() - shown.width()) * 0.5);

@@ -11,18 +11,22 @@ class QLabel;
  * One captured photo on black, as large as fits, with a caption in its top left corner and "Zoom"
  * or "Back" in its bottom right one.
  *
- * A widget is filled by Loadbmp() and emptied by Release(), any number of times. The picture is
- * kept in the size it was last painted in; only Loadbmp() brings the full quality back. A file that
- * cannot be read shows as bare black.
+ * A widget is filled by Loadbmp() or loadLater() and emptied by Release(), any number of times. The
+ * picture is kept in the size it was last painted in; only Loadbmp() brings the full quality back.
+ * A file that cannot be read shows as bare black.
  */
 class PictureWidget : public QWidget {
     Q_OBJECT
 
 public:
     explicit PictureWidget(QWidget *parent, Qt::WindowFlags f = {});
+    ~PictureWidget() override;
 
     /// @p name is a bare file name in the temporary area; an empty one loads the same file again.
     void Loadbmp(const QString &name);
+    /// Like Loadbmp(), but returns at once: the widget stays black until a worker has read the
+    /// picture, in the size that the widget has now.
+    void loadLater(const QString &name);
     void Release();
 
     /// Shows "Back" and an empty caption. The button is placed for the widget's present size.
@@ -52,9 +56,11 @@ protected:
 private:
     void createButtons();
     void placeInCorner(QWidget *button) const;
+    QSize sizeOnScreen() const;
 
     QString m_fileName;
     QPixmap m_pixmap;
+    QSize m_fittedSize; ///< the pixmap comes fitted into this size; empty once it was painted
     QLabel *m_label = nullptr;
     CStretchBitmapButton *m_zoomButton = nullptr; ///< null before the first mode
     CStretchBitmapButton *m_backButton = nullptr; ///< null before the first mode

@@ -100,7 +100,7 @@ void CVistrelDlg::SetPictureListMode(const QStringList &names)
     for (int i = 0; i < names.size(); ++i) {
         auto *tile = new PictureWidget(this, {});
         tile->setGeometry(places[i]);
-        tile->Loadbmp(names[i]);
+        tile->loadLater(names[i]);
         tile->setLabelText(QString::number(i + 1));
         if (names.size() != 1) {
             tile->ListMode();

@@ -1,0 +1,127 @@
+#include "PictureLoader.h"
+
+#include "CapturedPicture.h"
+
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace {
+
+constexpr int mostKept = 32 * 1024; // KB
+
+// Workers that are done wait for the window to take their picture; with these at hand the
+// processors need not wait meanwhile.
+constexpr int stepsAhead = 2;
+
+} // namespace
+
+bool operator==(const PictureLoader::Key &left, const PictureLoader::Key &right)
+{
+    return left.version == right.version && left.fit == right.fit;
+}
+
+uint qHash(const PictureLoader::Key &key, uint seed)
+{
+    return qHash(key.version, seed) ^ uint(key.fit.width() * 8192 + key.fit.height());
+}
+
+PictureLoader &PictureLoader::shared()
+{
+    static QPointer<PictureLoader> loader;
+    if (!loader)
+        loader = new PictureLoader(QCoreApplication::instance());
+    return *loader;
+}
+
+PictureLoader::PictureLoader(QObject *parent)
+    : QObject(parent)
+    , m_known(mostKept)
+{
+}
+
+PictureLoader::~PictureLoader()
+{
+    m_pool.clear();
+    m_pool.waitForDone();
+}
+
+QImage PictureLoader::scaled(const QImage &whole, QSize fit)
+{
+    return whole.isNull() ? whole : whole.scaled(fit, Qt::KeepAspectRatio, Qt::FastTransformation);
+}
+
+QImage PictureLoader::now(const QString &name, QSize fit)
+{
+    const Key key{PictureVersion::of(CapturedPicture::path(name)), fit};
+    if (const QImage *known = m_known.object(key))
+        return *known;
+    const QImage picture = scaled(CapturedPicture::whole(name), fit);
+    if (PictureVersion::of(key.version.path) == key.version && key.version.isSettled())
+        keep(key, picture);
+    return picture;
+}
+
+void PictureLoader::later(const QString &name, QSize fit, QObject *receiver, Delivery deliver)
+{
+    const Key key{PictureVersion::of(CapturedPicture::path(name)), fit};
+    if (const QImage *known = m_known.object(key)) {
+        const QImage picture = *known;
+        deliver(picture);
+        return;
+    }
+    m_waiting.enqueue({key, receiver, std::move(deliver)});
+    startWaiting();
+}
+
+void PictureLoader::forget(const QObject *receiver)
+{
+    QQueue<Request> others;
+    for (const Request &request : qAsConst(m_waiting))
+        if (request.receiver != receiver)
+            others.enqueue(request);
+    m_waiting = others;
+    for (Request &request : m_running)
+        if (request.receiver == receiver)
+            request.deliver = nullptr;
+}
+
+void PictureLoader::startWaiting()
+{
+    while (m_workers < m_pool.maxThreadCount() + stepsAhead && !m_waiting.isEmpty()) {
+        const Request request = m_waiting.dequeue();
+        if (!request.receiver)
+            continue;
+        ++m_workers;
+        m_running.insert(++m_lastNumber, request);
+        startWorker(m_lastNumber, request.key);
+    }
+}
+
+void PictureLoader::startWorker(int number, const Key &key)
+{
+    m_pool.start([this, number, key] {
+        const QImage picture = scaled(CapturedPicture::read(key.version.path), key.fit);
+        const bool isFinal =
+            PictureVersion::of(key.version.path) == key.version && key.version.isSettled();
+        QMetaObject::invokeMethod(
+            this, [this, number, key, picture, isFinal] { finish(number, key, picture, isFinal); },
+            Qt::QueuedConnection);
+    });
+}
+
+void PictureLoader::keep(const Key &key, const QImage &picture)
+{
+    m_known.insert(key, new QImage(picture), 1 + int(picture.sizeInBytes() / 1024));
+}
+
+void PictureLoader::finish(int number, const Key &key, const QImage &picture, bool isFinal)
+{
+    --m_workers;
+    if (isFinal)
+        keep(key, picture);
+    const Request request = m_running.take(number);
+    startWaiting();
+    if (request.receiver && request.deliver)
+        request.deliver(picture);
+}
