@@ -26,8 +26,9 @@ void CVistrelDlg::OnTVS()
 
 void CVistrelDlg::PutTVSPhoto()
 {
-    const QString folder = WebcamUtil::getTemporaryPath() + QStringLiteral("/tmp");
-    if (!QDir().mkpath(folder))
+    const QString area = WebcamUtil::getTemporaryPath();
+    const QString folder = area + QStringLiteral("/tmp");
+    if (area.isEmpty() || !QDir().mkpath(folder))
         return;
     QFile file(folder + QStringLiteral("/PUTTVS") + WebcamUtil::CurrentSecondString());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))

@@ -106,6 +106,13 @@ QStringList DialogFixture::usableButtons() const
     return usable;
 }
 
+void DialogFixture::setSettings(const QByteArray &lines) const
+{
+    QFile settings(home() + QStringLiteral("/.halcyra_orvantacc.ini"));
+    if (!settings.open(QIODevice::WriteOnly) || settings.write("[General]\n" + lines) < 0)
+        qFatal("The settings file cannot be written.");
+}
+
 QString DialogFixture::temporaryArea() const
 {
     return WebcamUtil::getTemporaryPath();

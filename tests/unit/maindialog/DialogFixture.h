@@ -42,6 +42,9 @@ public:
     /// Base names of the buttons shown that can be pressed.
     QStringList usableButtons() const;
 
+    /// Writes the settings file, lines such as "AutoShoot=0". To be called before build().
+    void setSettings(const QByteArray &lines) const;
+
     QString temporaryArea() const;
     QString home() const;
     /// Bare names in the temporary area, hidden ones included.
