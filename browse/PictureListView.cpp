@@ -90,7 +90,9 @@ void PictureListView::showThumbnail(const QString &name, const QImage &thumbnail
         return;
     QPixmap pixmap = QPixmap::fromImage(thumbnail);
     pixmap.setDevicePixelRatio(devicePixelRatioF());
-    shown->setIcon(QIcon(pixmap));
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected); // the tile is lit when chosen, its picture stays clear
+    shown->setIcon(icon);
 }
 
 // In the screen's own pixels.

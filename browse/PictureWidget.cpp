@@ -47,12 +47,12 @@ void PictureWidget::loadLater(const QString &name)
     if (!name.isEmpty())
         m_fileName = name;
     m_pixmap = QPixmap();
-    PictureLoader::shared().later(m_fileName, size(), this,
-                                  [this, fit = size()](const QImage &picture) {
-                                      m_pixmap = QPixmap::fromImage(picture);
-                                      m_fittedSize = fit;
-                                      update();
-                                  });
+    const QSize fit = sizeOnScreen();
+    PictureLoader::shared().later(m_fileName, fit, this, [this, fit](const QImage &picture) {
+        m_pixmap = QPixmap::fromImage(picture);
+        m_fittedSize = fit;
+        update();
+    });
 }
 
 void PictureWidget::Release()

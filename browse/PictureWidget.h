@@ -38,6 +38,7 @@ public:
     void setLabelText(const QString &text);
 
     QString fileName() const { return m_fileName; } ///< empty when released
+    bool hasPicture() const { return !m_pixmap.isNull(); } ///< it can be read, and has been
     QString labelText() const;
 
 Q_SIGNALS:

@@ -1,14 +1,13 @@
 // How long a photo takes, as a ratio to what Qt's own PNG writer takes with its default settings
 // for the same picture in the same run. Also how much larger the file is.
 
+#include "DeskPicture.h"
 #include "StillWriter.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
-#include <QPainter>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QVector>
 
@@ -24,42 +23,6 @@ struct Measure {
     double milliseconds = 0;
     qint64 bytes = 0;
 };
-
-// What a camera over a desk sees: soft light, a sheet with writing, hands, and the sensor's noise.
-QImage deskPicture(int noise)
-{
-    QImage image(size, QImage::Format_RGB888);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient light(0, 0, size.width(), size.height());
-    light.setColorAt(0, QColor(150, 120, 90));
-    light.setColorAt(1, QColor(70, 60, 50));
-    painter.fillRect(image.rect(), light);
-    painter.translate(350, 120);
-    painter.rotate(4);
-    painter.fillRect(0, 0, 1100, 800, QColor(235, 232, 222));
-    painter.setFont(QFont(QStringLiteral("Liberation Sans"), 26));
-    painter.setPen(QColor(30, 30, 60));
-    for (int line = 0; line < 14; ++line)
-        painter.drawText(60, 80 + line * 50, QStringLiteral("The quick brown fox jumps over it"));
-    painter.resetTransform();
-    QRadialGradient skin(1450, 800, 330);
-    skin.setColorAt(0, QColor(220, 170, 140));
-    skin.setColorAt(1, QColor(150, 100, 80));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(skin);
-    painter.drawEllipse(QPoint(1450, 800), 300, 180);
-    painter.end();
-    if (noise == 0)
-        return image;
-    QRandomGenerator random(1);
-    for (int y = 0; y < size.height(); ++y) {
-        uchar *row = image.scanLine(y);
-        for (int i = 0; i < size.width() * 3; ++i)
-            row[i] = uchar(qBound(0, int(row[i]) + random.bounded(-noise, noise + 1), 255));
-    }
-    return image;
-}
 
 template <typename Write> Measure measure(const QString &path, Write write)
 {
@@ -78,7 +41,7 @@ double median(QVector<double> values)
 
 bool compare(const QString &folder, int noise)
 {
-    const QImage picture = deskPicture(noise);
+    const QImage picture = deskPicture(size, noise);
     const QImage screenPicture = picture.convertToFormat(QImage::Format_RGB32);
     QVector<double> ours;
     QVector<double> baseline;

@@ -42,7 +42,11 @@ public:
         build();
     }
 
-    static QColor colorOf(int number) { return QColor::fromHsv(number * 37 % 360, 220, 200); }
+    /// In 8 bits, as a file keeps it.
+    static QColor colorOf(int number)
+    {
+        return {QColor::fromHsv(number * 37 % 360, 220, 200).rgb()};
+    }
 
     void addPicture(const QString &name, const QColor &color, const QDateTime &time) const
     {
