@@ -51,7 +51,7 @@ QImage CapturedPicture::whole(const QString &name)
     const PictureVersion version = PictureVersion::of(path(name));
     if (!lastPicture.isNull() && version == lastVersion)
         return lastPicture;
-    const QImage picture = read(version.path);
+    QImage picture = read(version.path);
     const bool isRemembered = pixelsOf(picture.size()) <= largePixels
         && PictureVersion::of(version.path) == version && version.isSettled();
     lastVersion = isRemembered ? version : PictureVersion();

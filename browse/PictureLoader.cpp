@@ -3,6 +3,7 @@
 #include "CapturedPicture.h"
 
 #include <QCoreApplication>
+#include <QMutexLocker>
 
 #include <utility>
 
@@ -38,6 +39,8 @@ PictureLoader::PictureLoader(QObject *parent)
     : QObject(parent)
     , m_known(mostKept)
 {
+    connect(this, &PictureLoader::resultReady, this, &PictureLoader::takeResults,
+            Qt::QueuedConnection);
 }
 
 PictureLoader::~PictureLoader()
@@ -56,7 +59,7 @@ QImage PictureLoader::now(const QString &name, QSize fit)
     const Key key{PictureVersion::of(CapturedPicture::path(name)), fit};
     if (const QImage *known = m_known.object(key))
         return *known;
-    const QImage picture = scaled(CapturedPicture::whole(name), fit);
+    QImage picture = scaled(CapturedPicture::whole(name), fit);
     if (PictureVersion::of(key.version.path) == key.version && key.version.isSettled())
         keep(key, picture);
     return picture;
@@ -94,20 +97,20 @@ void PictureLoader::startWaiting()
             continue;
         ++m_workers;
         m_running.insert(++m_lastNumber, request);
-        startWorker(m_lastNumber, request.key);
+        m_pool.start([this, number = m_lastNumber, key = request.key] { work(number, key); });
     }
 }
 
-void PictureLoader::startWorker(int number, const Key &key)
+/// Runs on a worker.
+void PictureLoader::work(int number, const Key &key)
 {
-    m_pool.start([this, number, key] {
-        const QImage picture = scaled(CapturedPicture::read(key.version.path), key.fit);
-        const bool isFinal =
-            PictureVersion::of(key.version.path) == key.version && key.version.isSettled();
-        QMetaObject::invokeMethod(
-            this, [this, number, key, picture, isFinal] { finish(number, key, picture, isFinal); },
-            Qt::QueuedConnection);
-    });
+    Result result{number, key, scaled(CapturedPicture::read(key.version.path), key.fit)};
+    result.isFinal = PictureVersion::of(key.version.path) == key.version && key.version.isSettled();
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_results.append(result);
+    }
+    Q_EMIT resultReady();
 }
 
 void PictureLoader::keep(const Key &key, const QImage &picture)
@@ -115,13 +118,20 @@ void PictureLoader::keep(const Key &key, const QImage &picture)
     m_known.insert(key, new QImage(picture), 1 + int(picture.sizeInBytes() / 1024));
 }
 
-void PictureLoader::finish(int number, const Key &key, const QImage &picture, bool isFinal)
+void PictureLoader::takeResults()
 {
-    --m_workers;
-    if (isFinal)
-        keep(key, picture);
-    const Request request = m_running.take(number);
+    QVector<Result> results;
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_results.swap(results);
+    }
+    m_workers -= results.size();
     startWaiting();
-    if (request.receiver && request.deliver)
-        request.deliver(picture);
+    for (const Result &result : qAsConst(results)) {
+        if (result.isFinal)
+            keep(result.key, result.picture);
+        const Request request = m_running.take(result.number);
+        if (request.receiver && request.deliver)
+            request.deliver(result.picture);
+    }
 }

@@ -6,11 +6,13 @@
 #include <QCache>
 #include <QHash>
 #include <QImage>
+#include <QMutex>
 #include <QObject>
 #include <QPointer>
 #include <QQueue>
 #include <QSize>
 #include <QThreadPool>
+#include <QVector>
 
 #include <functional>
 
@@ -45,6 +47,9 @@ public:
     /// Drops all that @p receiver still waits for.
     void forget(const QObject *receiver);
 
+Q_SIGNALS:
+    void resultReady(); ///< leaves a worker; for the loader itself
+
 private:
     struct Key {
         PictureVersion version;
@@ -58,17 +63,27 @@ private:
         Delivery deliver;
     };
 
+    struct Result {
+        int number = 0;
+        Key key;
+        QImage picture;
+        bool isFinal = false; ///< the file was left alone while it was read
+    };
+
     static QImage scaled(const QImage &whole, QSize fit);
     void startWaiting();
-    void startWorker(int number, const Key &key);
+    void work(int number, const Key &key);
     void keep(const Key &key, const QImage &picture);
-    void finish(int number, const Key &key, const QImage &picture, bool isFinal);
+    void takeResults();
 
     QCache<Key, QImage> m_known; ///< costs in KB
     QQueue<Request> m_waiting;
     QHash<int, Request> m_running; ///< by number; a request may be gone while its worker runs on
     int m_lastNumber = 0;
     int m_workers = 0; ///< busy, or done and not yet delivered
+
+    QMutex m_mutex; ///< protects m_results
+    QVector<Result> m_results; ///< from the workers
     QThreadPool m_pool; ///< last, so that it is gone first
 };
 

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int secondMs = 60; // the length of a second in these tests
+constexpr int secondMs = 100; // the length of a second in these tests
 // A tick may come late on a busy machine, but never a whole second.
 constexpr int toleranceMs = secondMs * 3 / 4;
 
@@ -69,7 +69,7 @@ public:
 
 bool isAbout(qint64 milliseconds, int seconds)
 {
-    return qAbs(milliseconds - seconds * secondMs) <= toleranceMs;
+    return qAbs(milliseconds - qint64(seconds) * secondMs) <= toleranceMs;
 }
 
 } // namespace
@@ -176,13 +176,17 @@ void SeriesFlowTest::aPressInARunningSeriesTakesAPhotoAndRestartsTheCountdown()
 void SeriesFlowTest::nineTimedPhotosDoNotDrift()
 {
     // Photos that take most of a tick to write must not push the later ones back.
-    constexpr int second = 40;
-    Series series(selfTimer(3, 9), second);
-    FakeEngine::script().picture = QImage(640, 480, QImage::Format_RGB32);
+    Series series(selfTimer(3, 9));
+    FakeEngine::script().picture = QImage(1280, 720, QImage::Format_RGB32);
     series.start();
-    QTRY_COMPARE(series.timed.size(), 9);
-    const qint64 drift = series.timed.last() - series.timed.first() - 8 * 4 * second;
-    QVERIFY2(qAbs(drift) < second, qPrintable(QStringLiteral("%1 ms").arg(drift)));
+    QTRY_COMPARE_WITH_TIMEOUT(series.timed.size(), 9, 20000);
+    // A busy machine delays single photos; the most punctual of the first and of the last count.
+    QVector<qint64> late;
+    for (int i = 0; i < 9; ++i)
+        late.append(series.timed[i] - qint64(4) * (i + 1) * secondMs);
+    const qint64 drift =
+        std::min({late[6], late[7], late[8]}) - std::min({late[0], late[1], late[2]});
+    QVERIFY2(qAbs(drift) < secondMs, qPrintable(QStringLiteral("%1 ms").arg(drift)));
 }
 
 void SeriesFlowTest::onlyTheSeriesAndLiveCanBePressed()
