@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QDir>
+#include <QFile>
 
 #include <unistd.h>
 
@@ -60,6 +61,20 @@ QString Program::temporaryArea() const
 QStringList Program::captured() const
 {
     return QDir(temporaryArea()).entryList(QDir::Files | QDir::Hidden, QDir::Time | QDir::Reversed);
+}
+
+QByteArray Program::handedOver() const
+{
+    const QDir folder(temporaryArea() + "/tmp");
+    QFile file(folder.filePath(
+        folder.entryList({"PUTTVS*"}, QDir::Files, QDir::Name | QDir::Reversed).value(0)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool Program::writeSettings(const QByteArray &lines) const
+{
+    QFile file(settingsFile());
+    return file.open(QIODevice::WriteOnly) && file.write("[General]\n" + lines) > 0;
 }
 
 QString Program::saveFolder() const

@@ -39,6 +39,10 @@ public:
     QString temporaryArea() const;
     // File names in the temporary area, hidden ones too; the oldest first.
     QStringList captured() const;
+    // What "Paste" left for the whiteboard software last; empty when there is nothing.
+    QByteArray handedOver() const;
+    // Lines such as "AutoShoot=0", for the next start.
+    bool writeSettings(const QByteArray &lines) const;
     // Where "Yes" puts things today when nothing else is set.
     QString saveFolder() const;
 

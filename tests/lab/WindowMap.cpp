@@ -40,6 +40,8 @@ QStringList WindowMap::rowOf(Screen screen) const
         return {"Live", "PutPhoto", "List"};
     case ListScreen:
         return {"Live", "Show", "SwitchMovie"};
+    case MovieListScreen:
+        return {"Live", "Show", "SwitchPhoto"};
     case PreviewScreen:
         break;
     }
@@ -98,6 +100,41 @@ QStringList WindowMap::pressable(const QImage &screenshot, Screen screen)
         }
     }
     return found;
+}
+
+QRect WindowMap::seriesLiveRect() const
+{
+    return m_geometry.seriesLiveRect(m_video.size(), m_geometry.stripRect().height());
+}
+
+QRect WindowMap::seriesPhotoRect() const
+{
+    return m_geometry.seriesPhotoRect(seriesLiveRect());
+}
+
+QRect WindowMap::thumbnail(int position) const
+{
+    constexpr int spacing = 10;
+    const QRect strip = m_geometry.stripRect();
+    const int width = strip.height(); // each is as wide as the strip is high
+    return {spacing + position * (width + spacing), strip.top() + spacing, width,
+            strip.height() * 2 / 3};
+}
+
+QRect WindowMap::selectionRect() const
+{
+    return m_geometry.selectionRect(m_video, m_geometry.stripRect().height());
+}
+
+QRect WindowMap::tile(int count, int position) const
+{
+    return DialogGeometry::tileRects(m_video, count).value(position);
+}
+
+QPoint WindowMap::cornerButton(QRect tile) const
+{
+    const QSize size = CStretchBitmapButton("Zoom", nullptr).size();
+    return tile.bottomRight() - QPoint(size.width() / 2, size.height() / 2);
 }
 
 QPoint WindowMap::inDialog(QDialog *twin, const QWidget *control, QPoint topLeft)

@@ -18,7 +18,8 @@ class QWidget;
 // Buttons go by their base name ("Photo", "Close"); all places are pixels of the screen.
 class WindowMap {
 public:
-    enum Screen { LiveScreen, PhotoScreen, PreviewScreen, ListScreen };
+    // A running series has the live screen's buttons, tiles have those of a photo.
+    enum Screen { LiveScreen, PhotoScreen, PreviewScreen, ListScreen, MovieListScreen };
     enum Look { Up, Down, Disabled, Absent };
 
     WindowMap(QSize screen, QSize camera);
@@ -34,6 +35,18 @@ public:
     // While a photo waits for "Accept" or "Retry": live at the left, the photo at the right.
     QRect previewLiveRect() const { return m_half; }
     QRect previewPhotoRect() const { return DialogGeometry::besideHalfScreen(m_half); }
+
+    // While a series runs: live at the left, the last photo at the right.
+    QRect seriesLiveRect() const;
+    QRect seriesPhotoRect() const;
+
+    // Of the strip, as long as it is not scrolled.
+    QRect thumbnail(int position) const;
+    // The picture above the strip while thumbnails are being selected.
+    QRect selectionRect() const;
+    QRect tile(int count, int position) const;
+    // "Zoom" on a tile, and "Back" on a zoomed one.
+    QPoint cornerButton(QRect tile) const;
 
     // The middle of a control of a dialog of the program, found on a twin of the dialog that is
     // laid out but not shown. `topLeft` is where the real one stands.

@@ -1,0 +1,134 @@
+#include "LabPattern.h"
+#include "Session.h"
+
+#include <QTest>
+#include <QTime>
+
+#include <memory>
+
+namespace {
+
+const QSize cameraSize(640, 480);
+
+/// When a photo was taken, in ms of the day, as its name tells.
+int momentOf(const QString &photo)
+{
+    return QTime::fromString(photo.mid(13, 9), "hhmmsszzz").msecsSinceStartOfDay();
+}
+
+} // namespace
+
+// Several photos in a row, from the first press to all of them side by side.
+class TestTakingASeries : public QObject {
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void timedPhotosComeOnTimeAndTheNextSeriesFollowsNewSettings();
+    void liveDuringASeriesKeepsItsPhotos();
+
+private:
+    bool startWith(const QByteArray &settings);
+    int counterInFile(const QString &photo) const;
+    bool showsSideBySide(const QStringList &photos) const;
+    QByteArray handOverOf(const QStringList &photos) const;
+
+    std::unique_ptr<Session> m_user;
+};
+
+void TestTakingASeries::cleanup()
+{
+    QVERIFY2(m_user->program().isRunning(), qPrintable(m_user->program().output()));
+    m_user.reset();
+}
+
+bool TestTakingASeries::startWith(const QByteArray &settings)
+{
+    m_user = std::make_unique<Session>(ORVANTA_PROGRAM, "cam1", cameraSize);
+    return m_user->program().writeSettings(settings) && m_user->startLive();
+}
+
+int TestTakingASeries::counterInFile(const QString &photo) const
+{
+    return LabPattern::counterOf(QImage(m_user->program().temporaryArea() + "/" + photo));
+}
+
+bool TestTakingASeries::showsSideBySide(const QStringList &photos) const
+{
+    const auto isShown = [&](int i) {
+        return m_user->counterAt(m_user->map().tile(photos.size(), i)) == counterInFile(photos[i]);
+    };
+    for (int i = 0; i < photos.size(); ++i) {
+        if (counterInFile(photos[i]) < 0 || !QTest::qWaitFor([&] { return isShown(i); }, 4000)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QByteArray TestTakingASeries::handOverOf(const QStringList &photos) const
+{
+    const QSize area = m_user->map().videoRect().size();
+    return QString("0\n%1x%2\n%3\n")
+        .arg(area.width())
+        .arg(area.height())
+        .arg(photos.join('\n'))
+        .toUtf8();
+}
+
+void TestTakingASeries::timedPhotosComeOnTimeAndTheNextSeriesFollowsNewSettings()
+{
+    QVERIFY(startWith("AutoShoot=1\nAutoShootTime=2\nContinuShootCount=4\n"));
+    const WindowMap &map = m_user->map();
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti"));
+    QTRY_VERIFY(m_user->isLiveAt(map.seriesLiveRect()));
+    QVERIFY(m_user->waitForPressable(WindowMap::LiveScreen, {"Live", "PhotoMulti"}));
+    QTRY_COMPARE_WITH_TIMEOUT(m_user->program().captured().size(), 1, 6000);
+    const QString first = m_user->program().captured().value(0);
+    QTRY_COMPARE(m_user->counterAt(map.seriesPhotoRect()), counterInFile(first));
+
+    const QStringList row{"Live", "PutPhoto", "List", "Close"};
+    QTRY_VERIFY_WITH_TIMEOUT(m_user->program().captured().size() == 4, 15000);
+    QVERIFY(m_user->waitForPressable(WindowMap::PhotoScreen, row));
+    const QStringList timed = m_user->program().captured();
+    QVERIFY(showsSideBySide(timed));
+    for (int i = 1; i < 4; ++i) {
+        const int interval = momentOf(timed[i]) - momentOf(timed[i - 1]);
+        QVERIFY2(qAbs(interval - 3000) < 250, qPrintable(QString::number(interval)));
+    }
+    QVERIFY(m_user->pressWhenReady(WindowMap::PhotoScreen, "PutPhoto"));
+    QTRY_COMPARE(m_user->program().handedOver(), handOverOf(timed));
+
+    QVERIFY(m_user->pressWhenReady(WindowMap::PhotoScreen, "Live"));
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Settings"));
+    QVERIFY(m_user->clickInSettings("chbAutoShooting"));
+    QVERIFY(m_user->clickInSettings("btnOk"));
+    QVERIFY(m_user->waitUntilNoDialog());
+    for (int photo = 1; photo <= 4; ++photo) {
+        QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti"));
+        QTRY_COMPARE(m_user->program().captured().size(), 4 + photo);
+    }
+    QVERIFY(m_user->waitForPressable(WindowMap::PhotoScreen, row));
+    QVERIFY(showsSideBySide(m_user->program().captured().mid(4)));
+}
+
+void TestTakingASeries::liveDuringASeriesKeepsItsPhotos()
+{
+    QVERIFY(startWith("AutoShoot=0\nContinuShootCount=4\n"));
+    for (int photo = 1; photo <= 2; ++photo) {
+        QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti"));
+        QTRY_COMPARE(m_user->program().captured().size(), photo);
+    }
+    const QStringList photos = m_user->program().captured();
+    QTRY_COMPARE(m_user->counterAt(m_user->map().seriesPhotoRect()), counterInFile(photos[1]));
+    QVERIFY(m_user->isLiveAt(m_user->map().seriesLiveRect()));
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Live"));
+    QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
+    QVERIFY(m_user->waitForPressable(
+        WindowMap::LiveScreen,
+        {"Live", "Photo", "PhotoMulti", "Movie", "List", "Settings", "Close"}));
+    QCOMPARE(m_user->program().captured(), photos);
+}
+
+QTEST_MAIN(TestTakingASeries)
+#include "tst_takingaseries.moc"
