@@ -78,12 +78,45 @@ void photograph(Tour *tour, Session *user)
                    && QTest::qWaitFor([&] { return user->isStillAt(map.videoRect()); }));
 }
 
+void photographASeries(Tour *tour, Session *user)
+{
+    const auto presses = [user](int count) {
+        for (int i = 0; i < count; ++i) {
+            const int before = user->program().captured().size();
+            if (!user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti")
+                || !QTest::qWaitFor([&] { return user->program().captured().size() > before; })) {
+                return false;
+            }
+        }
+        return true;
+    };
+    // The self-timer is on at first; further presses do not wait for it.
+    tour->stop("countdown", "A series: the self-timer counts down",
+               user->pressWhenReady(WindowMap::PhotoScreen, "Live")
+                   && user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti")
+                   && !QTest::qWaitFor([] { return false; }, 1500)
+                   && user->isLiveAt(user->map().seriesLiveRect()));
+    tour->stop("series", "A series: live, the last photo, and those before", presses(3));
+    tour->stop("tiles", "A series: all photos side by side",
+               presses(1)
+                   && QTest::qWaitFor([user] { return user->isStillAt(user->map().tile(4, 3)); }));
+    const QPoint zoom = user->map().cornerButton(user->map().tile(4, 0));
+    user->desktop().click(zoom);
+    tour->stop("zoom", "One of them, enlarged",
+               QTest::qWaitFor([user] { return user->isStillAt(user->map().videoRect()); }));
+}
+
 void lookAround(Tour *tour, Session *user)
 {
     tour->stop(
         "list", "The list of photos",
         user->pressWhenReady(WindowMap::PhotoScreen, "List")
             && user->waitForPressable(WindowMap::ListScreen, {"Live", "SwitchMovie", "Close"}));
+    for (int i = 0; i < 2; ++i) {
+        user->desktop().click(user->map().thumbnail(i).center());
+    }
+    tour->stop("selection", "Two of them selected, the last one shown",
+               QTest::qWaitFor([user] { return user->isStillAt(user->map().selectionRect()); }));
     tour->stop("settings", "The settings",
                user->pressWhenReady(WindowMap::ListScreen, "Live")
                    && user->pressWhenReady(WindowMap::LiveScreen, "Settings")
@@ -117,6 +150,7 @@ int main(int argc, char *argv[])
     QDir().mkpath(arguments[2]);
     Tour tour(&user, arguments[2]);
     photograph(&tour, &user);
+    photographASeries(&tour, &user);
     lookAround(&tour, &user);
     leave(&tour, &user);
     return tour.isGood() ? 0 : 1;
