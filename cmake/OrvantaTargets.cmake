@@ -29,13 +29,14 @@ function(orvanta_room name)
 endfunction()
 
 # orvanta_test(NAME LABEL unit|engine|system SOURCES file... [USES target...] [TIMEOUT seconds]
-#              [COMMAND prefix...] [LAB option...])
+#              [COMMAND prefix...] [LAB option...] [ALONE])
 # One test program. Unit tests draw on the offscreen platform. COMMAND is put before the program.
 # Home, temporary and runtime folders are private to the test. With LAB the program runs inside a
 # lab of its own, with these options of tests/lab/lab, such as --camera cam1:1280x720; an option
-# that says the default, --screen 1024x768, gives a lab without cameras.
+# that says the default, --screen 1024x768, gives a lab without cameras. ALONE is for what measures
+# time: nothing else runs beside it.
 function(orvanta_test name)
-    cmake_parse_arguments(TEST "" "LABEL;TIMEOUT" "SOURCES;USES;COMMAND;LAB" ${ARGN})
+    cmake_parse_arguments(TEST "ALONE" "LABEL;TIMEOUT" "SOURCES;USES;COMMAND;LAB" ${ARGN})
     if(NOT TEST_TIMEOUT)
         set(TEST_TIMEOUT 120)
     endif()
@@ -61,5 +62,6 @@ function(orvanta_test name)
         list(APPEND environment "QT_QPA_PLATFORM=offscreen")
     endif()
     set_tests_properties(${name} PROPERTIES
-        LABELS ${TEST_LABEL} TIMEOUT ${TEST_TIMEOUT} ENVIRONMENT "${environment}")
+        LABELS ${TEST_LABEL} TIMEOUT ${TEST_TIMEOUT} ENVIRONMENT "${environment}"
+        RUN_SERIAL ${TEST_ALONE})
 endfunction()

@@ -89,7 +89,8 @@ void TestKeepingSettings::photosGoToTheChosenFolder()
     chooseFolder(folder);
     QVERIFY(m_user->clickInSettings("btnOk"));
     QVERIFY(m_user->waitUntilNoDialog());
-    QCOMPARE(stored("SaveDirectory").toString(), folder);
+    // The file is written after the box has gone.
+    QTRY_COMPARE(stored("SaveDirectory").toString(), folder);
     QVERIFY(m_user->takePhotoForPreview());
     QVERIFY(m_user->pressWhenReady(WindowMap::PreviewScreen, "Apply"));
     QVERIFY(m_user->pressWhenReady(WindowMap::PhotoScreen, "Close"));
