@@ -1,6 +1,7 @@
 #include "CameraPipeline.h"
 
 #include "EngineLog.h"
+#include "FrameTap.h"
 
 #include <QVector>
 
@@ -63,6 +64,9 @@ bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<
 {
     m_pipeline = ownFloating(gst_pipeline_new("camera"));
     m_bus.reset(gst_element_get_bus(m_pipeline.get()));
+    // The microphone's clock too: a movie lays picture and sound together by it.
+    const GstObjectHandle<GstClock> clock(gst_system_clock_obtain());
+    gst_pipeline_use_clock(GST_PIPELINE(m_pipeline.get()), clock.get());
     tuneSource(source.get());
     QVector<GstElement *> chain{source.get(), makeFilter(format.get())};
     if (m_mode.coding == CameraMode::Coding::Jpeg)
@@ -81,6 +85,13 @@ bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<
     }
     m_sink.reset(static_cast<GstElement *>(gst_object_ref(sink)));
     return true;
+}
+
+void CameraPipeline::setTap(const std::shared_ptr<FrameTap> &tap)
+{
+    const GstObjectHandle<GstElement> tee(gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "split"));
+    const GstObjectHandle<GstPad> pad(gst_element_get_static_pad(tee.get(), "sink"));
+    FrameTap::attach(tap, pad.get());
 }
 
 bool CameraPipeline::play()

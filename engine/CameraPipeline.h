@@ -10,13 +10,15 @@
 
 #include <memory>
 
+class FrameTap;
+
 /**
  * The chain from one camera to its newest frame:
  *
  *   source ! one fixed format ! (JPEG decoder) ! tee ! appsink that keeps one frame
  *
  * The format is fixed right behind the source, because a source that is left to choose takes a poor
- * mode or, on the media server, none at all. A movie's branch joins at the tee.
+ * mode or, on the media server, none at all. A movie takes its frames where they enter the tee.
  *
  * Made on the GUI thread, then used by one worker only; play(), close() and destruction may hang
  * in a driver.
@@ -32,6 +34,9 @@ public:
     CameraPipeline &operator=(const CameraPipeline &) = delete;
 
     const CameraMode &mode() const { return m_mode; }
+
+    /// Has every frame shown to @p tap; before play().
+    void setTap(const std::shared_ptr<FrameTap> &tap);
 
     /// Starts the camera; false when it refuses at once.
     bool play();

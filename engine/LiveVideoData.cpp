@@ -10,6 +10,7 @@
 #include "GrabThread.h"
 #include "GstStart.h"
 #include "ModeChooser.h"
+#include "MovieMaker.h"
 #include "PictureConverter.h"
 #include "StillWriter.h"
 #include "TargetPainter.h"
@@ -18,6 +19,7 @@
 
 static const std::chrono::milliseconds listLimit(1900); // the promise is 2 s
 static const int openLimit = 5000; // ms
+static const std::chrono::milliseconds quickListLimit(300); // when a movie waits for it
 
 /// A listed camera and what opens it.
 struct Camera {
@@ -51,6 +53,7 @@ public:
     GrabThread *thread = nullptr; ///< null while there is none, or it is lost
     Camera camera;
     bool showing = false;
+    MovieMaker movie;
 };
 
 static QVector<ListedDevice> devicesOf(const QVector<Camera> &cameras)
@@ -111,6 +114,8 @@ bool LiveVideoData::Private::open(const Camera &chosen, const QSize &size)
     if (!pipeline)
         return false;
     camera = chosen;
+    pipeline->setTap(movie.tap());
+    const double rate = pipeline->mode().rate();
     thread = new GrabThread;
     connect(thread, &GrabThread::grabtrue, q, &LiveVideoData::grab);
     connect(thread, &GrabThread::deviceerr, q, &LiveVideoData::device);
@@ -124,11 +129,13 @@ bool LiveVideoData::Private::open(const Camera &chosen, const QSize &size)
     }
     q->nativeWidth = frame->size().width();
     q->nativeHeight = frame->size().height();
+    movie.prepare(frame->size(), rate);
     return true;
 }
 
 void LiveVideoData::Private::close()
 {
+    movie.stop();
     GrabThread::retire(thread);
     thread = nullptr;
     camera = {};
@@ -139,7 +146,6 @@ void LiveVideoData::Private::loseCamera()
 {
     close();
     showing = false;
-    q->RecordMovie();
     Q_EMIT q->devicestop();
     Q_EMIT q->deviceerr();
     Q_EMIT q->disconnectDevice();
@@ -180,6 +186,7 @@ LiveVideoData::LiveVideoData()
 LiveVideoData::~LiveVideoData()
 {
     d->painter.disconnect(this);
+    d->movie.stop();
     GrabThread::retire(d->thread);
     d->thread = nullptr;
 }
@@ -253,7 +260,6 @@ void LiveVideoData::Release()
     const bool wasOpen = d->thread != nullptr;
     created = false;
     d->showing = false;
-    RecordMovie();
     d->close();
     if (wasOpen)
         Q_EMIT devicestop();
@@ -271,7 +277,12 @@ bool LiveVideoData::SaveBitmap(QString path)
 
 void LiveVideoData::Record(const QString &path)
 {
-    qCWarning(engineLog) << "movies cannot be recorded yet:" << path;
+    const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
+    if (!frame)
+        return;
+    DeviceProviders::start(quickListLimit);
+    if (DeviceProviders::hasMicrophone())
+        d->movie.record(path, frame->picture().info);
 }
 
 void LiveVideoData::RecordStop()
@@ -281,7 +292,7 @@ void LiveVideoData::RecordStop()
 
 bool LiveVideoData::IsValidVideoDevice()
 {
-    return false;
+    return d->thread && !d->thread->hasFailed() && d->movie.hasPicture();
 }
 
 bool LiveVideoData::IsValidAudioDevice()
@@ -289,7 +300,7 @@ bool LiveVideoData::IsValidAudioDevice()
     if (!gstreamerIsReady())
         return false;
     DeviceProviders::start(listLimit);
-    return DeviceProviders::hasMicrophone();
+    return DeviceProviders::hasMicrophone() && d->movie.hasSound();
 }
 
 QStringList LiveVideoData::GetResoList()
@@ -316,11 +327,14 @@ void LiveVideoData::grab()
     d->painter.repaintSoon();
 }
 
-// No recording can run yet, so there is none to end.
-void LiveVideoData::RecordMovie() { }
+void LiveVideoData::RecordMovie()
+{
+    d->movie.stop();
+}
 
 void LiveVideoData::device()
 {
+    d->movie.devicesChanged();
     if (!d->thread)
         return;
     const bool unplugged = d->camera.device && !DeviceProviders::contains(d->camera.device);

@@ -16,8 +16,9 @@ class QWidget;
  * The capture engine: one camera, its live picture in a widget of the caller's, stills and movies.
  *
  * Every operation is called on the GUI thread, in any state and in any order; none throws and none
- * blocks without a limit (listing 2 s, opening 5 s on top of that, closing 2 s). The very first
- * call in a session may take longer while GStreamer indexes its plug-ins.
+ * blocks without a limit (listing 2 s, opening 5 s on top of that, closing 2 s, beginning a movie
+ * 2 s, ending it 5 s). The very first call in a session may take longer while GStreamer indexes its
+ * plug-ins.
  *
  * What an operation does in which state ("-" is nothing at all):
  *
@@ -32,9 +33,10 @@ class QWidget;
  *   Reset                 repaints black     repaints black    repaints           repaints black
  *   Release               -                  -> idle           -> idle            -> idle
  *   SaveBitmap            false              newest frame      newest frame       false
- *   Record, RecordStop    -                  -                 -                  -
- *   IsValidVideoDevice    false              false             false              false
- *   IsValidAudioDevice    microphone?        microphone?       microphone?        microphone?
+ *   Record                -                  begins a movie     begins a movie     -
+ *   RecordStop            -                  ends the movie     ends the movie     -
+ *   IsValidVideoDevice    false              movies possible?   movies possible?   false
+ *   IsValidAudioDevice    microphone?        microphone?        microphone?        microphone?
  *   GetResoList           empty              the camera's      the camera's       empty
  *   SetResolution         -                  reopens           reopens, shows on  -
  *
@@ -42,7 +44,9 @@ class QWidget;
  * showing: the target shows the picture as well. lost: the camera went away by itself;
  * disconnectDevice() was emitted once, the target is black, `created` stays true until Release().
  *
- * A movie cannot be recorded yet: Record() leaves no file and IsValidVideoDevice() says so.
+ * A movie ends with RecordStop(), or with the camera: Release(), SetResolution(), its loss and the
+ * engine's end complete it all the same. A microphone that is lost in the middle of a movie leaves
+ * silence from there on. On a full disk the movie ends where the space ended, and can be played.
  *
  * The target is painted from its own paint event, by an event filter, and is never owned: it may be
  * resized, hidden, given another parent or destroyed at any time. No picture is converted while it
@@ -84,10 +88,18 @@ public:
     /// format is unknown or the file cannot be written.
     bool SaveBitmap(QString path);
 
+    /// Begins a movie with sound in @p path. Leaves no file when the camera, the microphone or a
+    /// coder is missing; ask the two queries below. Does nothing while a movie is recorded.
     void Record(const QString &path);
+
+    /// Completes the movie, which can then be played at once. When the disk is too slow for that
+    /// the file stays as it is, playable but for its last moment.
     void RecordStop();
-    bool IsValidVideoDevice(); ///< always false: see above
-    bool IsValidAudioDevice(); ///< a sound source that is no loudspeaker's monitor is there
+
+    /// The camera is open, movies of it can be coded, and the last one asked for could begin.
+    bool IsValidVideoDevice();
+    /// A sound source that is no loudspeaker's monitor is there, and opened when last asked to.
+    bool IsValidAudioDevice();
 
     /// The sizes the open camera can deliver, "1280x720", largest first.
     QStringList GetResoList();

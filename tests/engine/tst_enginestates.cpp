@@ -205,10 +205,11 @@ void TestEngineStates::whatIsAskedIsAnsweredByState()
                  state == State::Lost ? QStringList() : QStringList{"first"});
     QVERIFY(m_engine->IsValidAudioDevice());
     const QString movie = m_folder.filePath("movie.mov");
+    QFile::remove(movie);
     m_engine->Record(movie);
-    QVERIFY(!m_engine->IsValidVideoDevice());
+    QCOMPARE(m_engine->IsValidVideoDevice(), hasCamera);
     m_engine->RecordStop();
-    QVERIFY2(!QFile::exists(movie), "a movie that cannot be recorded must leave no file");
+    QCOMPARE(QFile::exists(movie), hasCamera);
 }
 
 void TestEngineStates::movingTheTargetMovesThePicture()

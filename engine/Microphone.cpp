@@ -1,0 +1,136 @@
+#include "Microphone.h"
+
+#include "BoundedTask.h"
+#include "EngineLog.h"
+#include "MovieRecorder.h"
+#include "SoundTrack.h"
+
+#include <gst/app/gstappsink.h>
+
+#include <mutex>
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+static const milliseconds closeLimit(1000);
+
+/// What may hang: opened and closed on a thread of its own.
+class Microphone::Chain {
+public:
+    ~Chain();
+    bool open(const char *source);
+
+    std::mutex mutex; ///< guards recorder
+    std::weak_ptr<MovieRecorder> recorder;
+
+private:
+    static GstFlowReturn onSound(GstAppSink *sink, gpointer chain);
+    bool isMonitor() const;
+
+    GstObjectHandle<GstElement> m_pipeline;
+};
+
+Microphone::Chain::~Chain()
+{
+    if (m_pipeline)
+        gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
+}
+
+GstFlowReturn Microphone::Chain::onSound(GstAppSink *sink, gpointer shared)
+{
+    auto &chain = *static_cast<Chain *>(shared);
+    const GstMiniHandle<GstSample> sample(gst_app_sink_pull_sample(sink));
+    std::shared_ptr<MovieRecorder> recorder;
+    {
+        const std::lock_guard<std::mutex> lock(chain.mutex);
+        recorder = chain.recorder.lock();
+    }
+    if (!sample || !recorder)
+        return GST_FLOW_OK;
+    GstBuffer *buffer = gst_sample_get_buffer(sample.get());
+    GstMapInfo map;
+    if (!gst_buffer_map(buffer, &map, GST_MAP_READ))
+        return GST_FLOW_OK;
+    recorder->addSound(reinterpret_cast<const char *>(map.data),
+                       qint64(map.size) / SoundTrack::bytesOfSample,
+                       capturedAt(GST_ELEMENT(sink), buffer));
+    gst_buffer_unmap(buffer, &map);
+    return GST_FLOW_OK;
+}
+
+// The server may have nothing better as its default.
+bool Microphone::Chain::isMonitor() const
+{
+    const GstObjectHandle<GstElement> source(
+        gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "source"));
+    if (!g_object_class_find_property(G_OBJECT_GET_CLASS(source.get()), "current-device"))
+        return false;
+    gchar *name = nullptr;
+    g_object_get(source.get(), "current-device", &name, nullptr);
+    const GlibString owned(name);
+    return name && g_str_has_suffix(name, ".monitor");
+}
+
+bool Microphone::Chain::open(const char *source)
+{
+    const QByteArray description = QByteArray(source)
+        + " name=source provide-clock=false ! audioconvert ! audioresample !"
+          " audio/x-raw,format=S16LE,layout=interleaved,rate="
+        + QByteArray::number(SoundTrack::rate) + ",channels="
+        + QByteArray::number(SoundTrack::channels) + " ! appsink name=sound sync=false async=false";
+    m_pipeline = ownFloating(gst_parse_launch_full(description.constData(), nullptr,
+                                                   GST_PARSE_FLAG_FATAL_ERRORS, nullptr));
+    if (!m_pipeline)
+        return false;
+    // The same clock as the camera's, whatever else would offer itself.
+    const GstObjectHandle<GstClock> clock(gst_system_clock_obtain());
+    gst_pipeline_use_clock(GST_PIPELINE(m_pipeline.get()), clock.get());
+    const GstObjectHandle<GstElement> sink(gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "sound"));
+    GstAppSinkCallbacks callbacks = {};
+    callbacks.new_sample = onSound;
+    gst_app_sink_set_callbacks(GST_APP_SINK(sink.get()), &callbacks, this, nullptr);
+    return gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE
+        && !isMonitor();
+}
+
+std::unique_ptr<Microphone> Microphone::open(milliseconds limit)
+{
+    struct Attempt {
+        std::shared_ptr<Chain> chain;
+    };
+    const auto attempt = std::make_shared<Attempt>();
+    const BoundedTask opening([attempt] {
+        for (const char *source :
+             {"pulsesrc stream-properties=\"props,node.dont-reconnect=(string)true\"", "alsasrc"}) {
+            const auto chain = std::make_shared<Chain>();
+            if (chain->open(source)) {
+                attempt->chain = chain;
+                return;
+            }
+        }
+    });
+    if (!opening.waitUntil(steady_clock::now() + limit) || !attempt->chain) {
+        qCInfo(engineLog, "no microphone can be opened");
+        return nullptr;
+    }
+    return std::unique_ptr<Microphone>(new Microphone(std::move(attempt->chain)));
+}
+
+Microphone::Microphone(std::shared_ptr<Chain> chain)
+    : m_chain(std::move(chain))
+{
+}
+
+Microphone::~Microphone()
+{
+    record(nullptr);
+    const BoundedTask closing([chain = std::move(m_chain)]() mutable { chain.reset(); });
+    if (!closing.waitUntil(steady_clock::now() + closeLimit))
+        qCWarning(engineLog, "the microphone does not close; it is left behind");
+}
+
+void Microphone::record(const std::shared_ptr<MovieRecorder> &recorder)
+{
+    const std::lock_guard<std::mutex> lock(m_chain->mutex);
+    m_chain->recorder = recorder;
+}

@@ -1,0 +1,52 @@
+#ifndef MOVIEFILE_H
+#define MOVIEFILE_H
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/**
+ * A movie of a lab camera as it lies on the disk: what its boxes are, and what a player would show
+ * and let be heard. Everything is decoded once, by the constructor.
+ */
+class MovieFile {
+public:
+    struct Frame {
+        int counter; ///< the lab camera's number of it, -1 when it cannot be read
+        double time; ///< s, when it is shown
+    };
+
+    explicit MovieFile(const QString &path);
+
+    /// Names of the outermost boxes, in order: "ftyp", "moov", "mdat" and such.
+    const QStringList &boxes() const { return m_boxes; }
+    double duration() const { return m_duration; } ///< s, as its header says
+    double soundDuration() const { return m_soundDuration; } ///< s of sound that was decoded
+    const QVector<Frame> &frames() const { return m_frames; }
+    const QVector<double> &tones() const { return m_tones; } ///< s, when each begins
+    const QStringList &complaints() const { return m_complaints; } ///< of the decoders
+    QString videoFormat() const { return m_videoFormat; } ///< of the coded picture
+
+    QVector<int> counters() const;
+    /// Frames of the camera, between the first and the last shown, that are never shown.
+    int missingFrames() const;
+    /// The longest time that one camera frame stands still, in frames of the movie.
+    int longestRepeat() const;
+    /// How much later each tone is heard than the frame that it belongs to is seen (s).
+    QVector<double> soundDelays() const;
+
+private:
+    void readBoxes(const QString &path);
+    void decode(const QString &path);
+
+    QStringList m_boxes;
+    double m_duration = 0;
+    double m_soundDuration = 0;
+    QVector<Frame> m_frames;
+    QVector<double> m_tones;
+    QStringList m_complaints;
+    QString m_videoFormat;
+};
+
+#endif

@@ -1,0 +1,38 @@
+// Records one movie with the engine, for tests that end a program in the middle of it.
+//
+//   moviemaker CAMERA PATH   records until its input ends, then says what the stop took in ms
+//
+// Says "recording" as soon as it does.
+
+#include "LiveVideoData.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QSocketNotifier>
+
+#include <cstdio>
+#include <unistd.h>
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    LiveVideoData engine;
+    engine.SetVideoDevice(engine.GetVideoDeviceList().indexOf(arguments.value(1)));
+    engine.Create();
+    engine.Record(arguments.value(2));
+    if (!engine.created || !engine.IsValidVideoDevice() || !engine.IsValidAudioDevice()) {
+        std::fprintf(stderr, "moviemaker: cannot record\n");
+        return 1;
+    }
+    std::printf("recording\n");
+    std::fflush(stdout);
+    QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&input, &QSocketNotifier::activated, &application, &QApplication::quit);
+    QApplication::exec();
+    QElapsedTimer timer;
+    timer.start();
+    engine.RecordStop();
+    std::printf("%lld\n", static_cast<long long>(timer.elapsed()));
+    return 0;
+}
