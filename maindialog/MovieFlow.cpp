@@ -69,7 +69,9 @@ void CVistrelDlg::setMovieTime()
     const QString totalText = clockText(total);
     const QString currentText = clockText(current);
     m_timerWidget->setText(currentText + QLatin1Char('/') + totalText);
-    if (currentText == totalText)
+    // The player does not know a movie's length before it plays, nor after its end; to stop at the
+    // zeros shown then would stop the clock of every movie at its beginning.
+    if (total > 0 && currentText == totalText)
         m_timerWidget->Stop();
 }
 
