@@ -42,6 +42,12 @@ QStringList WindowMap::rowOf(Screen screen) const
         return {"Live", "Show", "SwitchMovie"};
     case MovieListScreen:
         return {"Live", "Show", "SwitchPhoto"};
+    case RecordingScreen:
+        return {"Live", "Photo", "PhotoMulti", "MovieStop", "List"};
+    case MovieScreen:
+        return {"Live", "MoviePlay", "List"};
+    case PlayingScreen:
+        return {"Live", "MoviePause", "List"};
     case PreviewScreen:
         break;
     }
@@ -66,7 +72,8 @@ QRect WindowMap::button(Screen screen, const QString &name) const
     if (cell < 0) {
         return {};
     }
-    double left = m_geometry.rowStart(row.size());
+    const bool isMovie = screen == MovieScreen || screen == PlayingScreen;
+    double left = isMovie ? m_geometry.movieRowStart() : m_geometry.rowStart(row.size());
     for (int i = 0; i < cell; ++i) {
         left += m_geometry.cellAt(left).width();
     }

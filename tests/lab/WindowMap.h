@@ -19,7 +19,16 @@ class QWidget;
 class WindowMap {
 public:
     // A running series has the live screen's buttons, tiles have those of a photo.
-    enum Screen { LiveScreen, PhotoScreen, PreviewScreen, ListScreen, MovieListScreen };
+    enum Screen {
+        LiveScreen,
+        PhotoScreen,
+        PreviewScreen,
+        ListScreen,
+        MovieListScreen,
+        RecordingScreen,
+        MovieScreen, // a movie that waits or is paused
+        PlayingScreen
+    };
     enum Look { Up, Down, Disabled, Absent };
 
     WindowMap(QSize screen, QSize camera);

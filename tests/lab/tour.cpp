@@ -47,7 +47,7 @@ public:
     void keepSavedPhotos()
     {
         const QDir saved(m_user->program().saveFolder());
-        const QStringList files = saved.entryList(QDir::Files, QDir::Name);
+        const QStringList files = saved.entryList({"photo*"}, QDir::Files, QDir::Name);
         for (const QString &file : files) {
             const QString kept = m_folder.filePath(file);
             m_good = m_good && QFile::copy(saved.filePath(file), kept)
@@ -78,6 +78,25 @@ void photograph(Tour *tour, Session *user)
                    && QTest::qWaitFor([&] { return user->isStillAt(map.videoRect()); }));
 }
 
+void film(Tour *tour, Session *user)
+{
+    const QRect picture = user->map().videoRect();
+    tour->stop("recording", "A movie being recorded",
+               user->pressWhenReady(WindowMap::PhotoScreen, "Live")
+                   && user->pressWhenReady(WindowMap::LiveScreen, "Movie")
+                   && user->waitForPressable(WindowMap::RecordingScreen, {"MovieStop"})
+                   && QTest::qWaitFor([=] { return user->isLiveAt(picture); }));
+    QTest::qWait(3000);
+    tour->stop("playing", "The movie played",
+               user->pressWhenReady(WindowMap::RecordingScreen, "MovieStop")
+                   && user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay")
+                   && QTest::qWaitFor([=] { return user->counterAt(picture) >= 0; }));
+    tour->stop("paused", "The movie paused",
+               user->pressWhenReady(WindowMap::PlayingScreen, "MoviePause")
+                   && user->waitForPressable(WindowMap::MovieScreen,
+                                             {"Live", "MoviePlay", "List", "Close"}));
+}
+
 void photographASeries(Tour *tour, Session *user)
 {
     const auto presses = [user](int count) {
@@ -92,7 +111,7 @@ void photographASeries(Tour *tour, Session *user)
     };
     // The self-timer is on at first; further presses do not wait for it.
     tour->stop("countdown", "A series: the self-timer counts down",
-               user->pressWhenReady(WindowMap::PhotoScreen, "Live")
+               user->pressWhenReady(WindowMap::MovieScreen, "Live")
                    && user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti")
                    && !QTest::qWaitFor([] { return false; }, 1500)
                    && user->isLiveAt(user->map().seriesLiveRect()));
@@ -150,6 +169,7 @@ int main(int argc, char *argv[])
     QDir().mkpath(arguments[2]);
     Tour tour(&user, arguments[2]);
     photograph(&tour, &user);
+    film(&tour, &user);
     photographASeries(&tour, &user);
     lookAround(&tour, &user);
     leave(&tour, &user);

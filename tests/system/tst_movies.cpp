@@ -1,0 +1,134 @@
+// A movie as a person makes and watches it, and what becomes of one whose program is closed.
+
+#include "LabPattern.h"
+#include "Session.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTest>
+
+#include <csignal>
+#include <phonon/mediaobject.h>
+#include <phonon/videoplayer.h>
+
+namespace {
+
+constexpr int kPatienceMs = 10000;
+
+} // namespace
+
+class MoviesTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void aMovieIsRecordedAndPlayedTwice();
+    void aMovieSurvivesTheEndOfTheProgram_data();
+    void aMovieSurvivesTheEndOfTheProgram();
+
+private:
+    static QStringList movies(Session &user);
+    static QImage timeLine(Session &user);
+    static bool beginRecording(Session &user);
+};
+
+void MoviesTest::initTestCase()
+{
+    qputenv("PHONON_GST_VIDEOMODE", "software");
+}
+
+QStringList MoviesTest::movies(Session &user)
+{
+    const QDir area(user.program().temporaryArea());
+    QStringList paths;
+    for (const QString &name : area.entryList({"movie*.mov"}, QDir::Files))
+        paths.append(area.filePath(name));
+    return paths;
+}
+
+/// What stands in the right corner at the top: the time, as long as it is shown.
+QImage MoviesTest::timeLine(Session &user)
+{
+    const int width = 190; // px; "00:00/00:00" is a little wider
+    return user.seenAt({user.desktop().screen().width() - width, 0, width, 36});
+}
+
+bool MoviesTest::beginRecording(Session &user)
+{
+    return user.startLive() && user.pressWhenReady(WindowMap::LiveScreen, "Movie")
+        && user.waitForPressable(WindowMap::RecordingScreen, {"MovieStop"});
+}
+
+void MoviesTest::aMovieIsRecordedAndPlayedTwice()
+{
+    Session user(QStringLiteral(ORVANTA_PROGRAM), "cam1", QSize(1280, 720));
+    const QRect picture = user.map().videoRect();
+    QVERIFY(beginRecording(user));
+    const QImage begin = timeLine(user);
+    QVERIFY(user.isLiveAt(picture));
+    QTRY_VERIFY_WITH_TIMEOUT(timeLine(user) != begin, 3000);
+    QTest::qWait(2000);
+    QVERIFY(user.isLiveAt(picture));
+    user.press(WindowMap::RecordingScreen, "MovieStop");
+    QVERIFY(user.waitForPressable(WindowMap::MovieScreen, {"Live", "MoviePlay", "List", "Close"}));
+    QCOMPARE(movies(user).size(), 1);
+    const QString still = QString(movies(user).first()).replace(".mov", "tmp.png");
+    QVERIFY(LabPattern::counterOf(QImage(still)) >= 0);
+    const QImage unplayed = timeLine(user);
+
+    for (int showing = 0; showing < 2; ++showing) {
+        user.press(WindowMap::MovieScreen, "MoviePlay");
+        QVERIFY(user.waitForPressable(WindowMap::PlayingScreen,
+                                      {"Live", "MoviePause", "List", "Close"}));
+        QTRY_VERIFY_WITH_TIMEOUT(user.counterAt(picture) > 0, kPatienceMs);
+        QVERIFY(timeLine(user) != unplayed);
+        if (showing == 0) {
+            user.press(WindowMap::PlayingScreen, "MoviePause");
+            QVERIFY(user.waitForPressable(WindowMap::MovieScreen,
+                                          {"Live", "MoviePlay", "List", "Close"}));
+            QTRY_VERIFY_WITH_TIMEOUT(user.isStillAt(picture), kPatienceMs);
+            user.press(WindowMap::MovieScreen, "MoviePlay");
+        }
+        // Its end brings "Play" back.
+        QTRY_VERIFY_WITH_TIMEOUT(
+            user.map().look(user.desktop().screenshot(), WindowMap::MovieScreen, "MoviePlay")
+                == WindowMap::Up,
+            kPatienceMs);
+    }
+    QVERIFY(user.pressWhenReady(WindowMap::MovieScreen, "Live"));
+    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(picture), kPatienceMs);
+}
+
+void MoviesTest::aMovieSurvivesTheEndOfTheProgram_data()
+{
+    QTest::addColumn<int>("signal"); // 0: by the window system
+    QTest::newRow("closed by the window system") << 0;
+    QTest::newRow("ended by the session") << SIGTERM;
+    QTest::newRow("interrupted from a terminal") << SIGINT;
+}
+
+void MoviesTest::aMovieSurvivesTheEndOfTheProgram()
+{
+    QFETCH(int, signal);
+    Session user(QStringLiteral(ORVANTA_PROGRAM), "cam1", QSize(1280, 720));
+    QVERIFY(beginRecording(user));
+    QTest::qWait(2500);
+    if (signal)
+        kill(pid_t(user.program().pid()), signal);
+    else
+        user.desktop().closeWindow(user.mainWindow().id);
+    QVERIFY(user.program().hasEndedWithin(8000));
+    QVERIFY(!user.program().hasCrashed());
+    QCOMPARE(user.program().exitStatus(), 0);
+    QCOMPARE(movies(user).size(), 1);
+
+    Phonon::VideoPlayer player(Phonon::VideoCategory);
+    player.play(Phonon::MediaSource(QUrl::fromLocalFile(movies(user).first())));
+    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.totalTime() > 0, kPatienceMs);
+    QVERIFY2(player.totalTime() > 2200 && player.totalTime() < 6000,
+             qPrintable(QString::number(player.totalTime())));
+    player.stop();
+}
+
+QTEST_MAIN(MoviesTest)
+#include "tst_movies.moc"
