@@ -21,16 +21,15 @@ QSize primaryScreenSize()
     QSize size(DisplayWidth(display, DefaultScreen(display)),
                DisplayHeight(display, DefaultScreen(display)));
     int count = 0;
-    // The first monitor is the primary one, when there is a primary one.
+    // The primary monitor, or the first one when none is primary.
     XRRMonitorInfo *monitors =
         XRRGetMonitors(display, DefaultRootWindow(display), True /* active ones */, &count);
-    if (monitors && count > 0)
-        size = QSize(monitors[0].width, monitors[0].height);
-    for (int i = 0; i < count; ++i)
-        if (monitors[i].primary)
-            size = QSize(monitors[i].width, monitors[i].height);
-    if (monitors)
+    if (monitors) {
+        for (int i = 0; i < count; ++i)
+            if (i == 0 || monitors[i].primary)
+                size = QSize(monitors[i].width, monitors[i].height);
         XRRFreeMonitors(monitors);
+    }
     XCloseDisplay(display);
     return size;
 }
