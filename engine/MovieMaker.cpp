@@ -22,6 +22,10 @@ MovieMaker::~MovieMaker()
 
 void MovieMaker::prepare(const QSize &size, double rate)
 {
+    if (m_search && size == m_searchedSize && qFuzzyCompare(rate, m_searchedRate))
+        return;
+    m_searchedSize = size;
+    m_searchedRate = rate;
     m_search = std::make_unique<MovieCodingSearch>(size, rate);
 }
 

@@ -7,6 +7,7 @@
 
 #include <gst/video/video.h>
 
+#include <QSize>
 #include <QString>
 
 #include <memory>
@@ -27,7 +28,8 @@ public:
     /// For the chain of the next camera.
     std::shared_ptr<FrameTap> tap() const { return m_tap; }
 
-    /// A camera was opened: looks for a way to write its movies, on the side.
+    /// A camera was opened: looks for a way to write its movies, on the side. What was found for a
+    /// size (px) and rate (frames a second) holds as long as they do.
     void prepare(const QSize &size, double rate);
 
     /// Begins a movie of frames like @p format, unless one is being recorded. Does nothing when
@@ -46,6 +48,8 @@ private:
 
     const std::shared_ptr<FrameTap> m_tap;
     std::unique_ptr<MovieCodingSearch> m_search; ///< null until the first camera
+    QSize m_searchedSize;
+    double m_searchedRate = 0;
     std::shared_ptr<MovieRecorder> m_recorder; ///< null while no movie is recorded
     std::unique_ptr<Microphone> m_microphone; ///< likewise
     bool m_fileFailed = false;
