@@ -1,3 +1,4 @@
+#include "LabPattern.h"
 #include "Session.h"
 
 #include <QDir>
@@ -9,6 +10,7 @@
 namespace {
 
 constexpr int patienceMs = 10000;
+const QSize cameraSize(1280, 720);
 
 // With its trailing blank.
 const char lostText[] = "The video device is invalid. Please confirm whether the device is "
@@ -41,24 +43,30 @@ private slots:
     void init();
     void cleanup();
     void inTheMiddleOfASeries();
+    void whileRecording();
     void withAPhotoToAccept();
     void inTheList();
+    void withPhotosSideBySide();
+    void withAPhotoEnlarged();
     void duringPlayback();
     void withTheSettingsOpen();
     void atTheQuestionBeforeExit();
 
 private:
+    void showTwoPhotos();
     void pullTheCable();
     void expectOnlyListAndExit();
     void expectTheWayBack();
+    void expectLiveAgainFrom(WindowMap::Screen screen);
     bool movesOnScreen(QRect place) const;
+    bool showsThePicture(QRect thumbnail) const;
 
     std::unique_ptr<Session> m_user;
 };
 
 void TestLosingMidway::init()
 {
-    m_user = std::make_unique<Session>(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    m_user = std::make_unique<Session>(ORVANTA_PROGRAM, "cam1", cameraSize);
 }
 
 void TestLosingMidway::cleanup()
@@ -69,6 +77,30 @@ void TestLosingMidway::cleanup()
     m_user.reset();
     labctl({"unplug", "cam1"});
     QVERIFY(labctl({"plug", "cam1", "1280x720"}));
+}
+
+// Of an earlier lesson; they stand on the screen as frames 1 and 2 of the camera.
+void TestLosingMidway::showTwoPhotos()
+{
+    const QString area = m_user->program().temporaryArea();
+    QVERIFY(QDir().mkpath(area));
+    for (const int counter : {1, 2}) {
+        const QImage photo = LabPattern::frame(cameraSize.width(), cameraSize.height(),
+                                               quint32(counter), m_user->ground());
+        QVERIFY(photo.save(area + QString("/photo2024022910150000%1.png").arg(counter)));
+    }
+    QVERIFY(m_user->startLive());
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "List"));
+    const WindowMap &map = m_user->map();
+    QVERIFY(m_user->waitForPressable(WindowMap::ListScreen, {"Live", "SwitchMovie", "Close"}));
+    for (const int i : {0, 1}) {
+        m_user->desktop().click(map.thumbnail(i).center());
+        QTRY_COMPARE(m_user->counterAt(map.selectionRect()), i + 1);
+    }
+    QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Show"));
+    for (const int i : {0, 1}) {
+        QTRY_COMPARE(m_user->counterAt(map.tile(2, i)), i + 1);
+    }
 }
 
 // Up to the message, which stays open.
@@ -88,9 +120,14 @@ void TestLosingMidway::expectOnlyListAndExit()
 
 void TestLosingMidway::expectTheWayBack()
 {
-    QVERIFY(labctl({"plug", "cam1", "1280x720"}));
     QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "List"));
-    QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Live"));
+    expectLiveAgainFrom(WindowMap::ListScreen);
+}
+
+void TestLosingMidway::expectLiveAgainFrom(WindowMap::Screen screen)
+{
+    QVERIFY(labctl({"plug", "cam1", "1280x720"}));
+    QVERIFY(m_user->pressWhenReady(screen, "Live"));
     QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
     QVERIFY(m_user->waitForPressable(
         WindowMap::LiveScreen,
@@ -101,6 +138,15 @@ bool TestLosingMidway::movesOnScreen(QRect place) const
 {
     const QImage first = m_user->seenAt(place);
     return QTest::qWaitFor([&] { return m_user->seenAt(place) != first; }, 500);
+}
+
+// The colour of the camera's ground, low in the middle of its picture.
+bool TestLosingMidway::showsThePicture(QRect thumbnail) const
+{
+    const QRgb seen = m_user->desktop().pixel(thumbnail.center() + QPoint(0, 10)).rgb();
+    const QRgb ground = m_user->ground();
+    return qAbs(qRed(seen) - qRed(ground)) < 16 && qAbs(qGreen(seen) - qGreen(ground)) < 16
+        && qAbs(qBlue(seen) - qBlue(ground)) < 16;
 }
 
 // The self-timer takes a photo every six seconds; the cable goes while it counts to the second.
@@ -117,6 +163,33 @@ void TestLosingMidway::inTheMiddleOfASeries()
     expectTheWayBack();
     QTest::qWait(3000); // the countdown that was interrupted would have ended by now
     QCOMPARE(m_user->program().captured(), captured);
+}
+
+// What was filmed up to then is there to be played, and "List" shows the movies by itself.
+void TestLosingMidway::whileRecording()
+{
+    QVERIFY(m_user->startLive());
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Movie"));
+    QVERIFY(m_user->waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
+    QTest::qWait(2000);
+    const WindowMap &map = m_user->map();
+    const int filmed = m_user->counterAt(map.videoRect());
+    pullTheCable();
+    QVERIFY(m_user->confirmMessage());
+    expectOnlyListAndExit();
+
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "List"));
+    QTRY_VERIFY(showsThePicture(map.thumbnail(0)));
+    m_user->desktop().click(map.thumbnail(0).center());
+    QTRY_VERIFY(m_user->counterAt(map.selectionRect()) >= 0);
+    const int still = m_user->counterAt(map.selectionRect());
+    QVERIFY2(still < filmed - 30, qPrintable(QString("%1 of %2").arg(still).arg(filmed)));
+    QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Show"));
+    QVERIFY(m_user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
+    // To the last half second; the very last frame is not waited for, the player leaves it at once.
+    QTRY_VERIFY_WITH_TIMEOUT(m_user->counterAt(map.videoRect()) > filmed - 15, patienceMs);
+    QCOMPARE(m_user->program().captured().size(), 2);
+    expectLiveAgainFrom(WindowMap::MovieScreen);
 }
 
 void TestLosingMidway::withAPhotoToAccept()
@@ -140,6 +213,34 @@ void TestLosingMidway::inTheList()
     QVERIFY(m_user->confirmMessage());
     expectOnlyListAndExit();
     expectTheWayBack();
+}
+
+void TestLosingMidway::withPhotosSideBySide()
+{
+    showTwoPhotos();
+    const QStringList captured = m_user->program().captured();
+    pullTheCable();
+    QVERIFY(m_user->confirmMessage());
+    expectOnlyListAndExit();
+    for (const int i : {0, 1}) {
+        QCOMPARE(m_user->counterAt(m_user->map().tile(2, i)), -1);
+    }
+    expectTheWayBack();
+    QCOMPARE(m_user->program().captured(), captured);
+}
+
+void TestLosingMidway::withAPhotoEnlarged()
+{
+    showTwoPhotos();
+    const QStringList captured = m_user->program().captured();
+    const WindowMap &map = m_user->map();
+    m_user->desktop().click(map.cornerButton(map.tile(2, 1)));
+    QTRY_COMPARE(m_user->counterAt(map.videoRect()), 2);
+    pullTheCable();
+    QVERIFY(m_user->confirmMessage());
+    expectOnlyListAndExit();
+    expectTheWayBack();
+    QCOMPARE(m_user->program().captured(), captured);
 }
 
 void TestLosingMidway::duringPlayback()
