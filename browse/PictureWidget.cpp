@@ -89,11 +89,13 @@ void PictureWidget::createButtons()
     if (!m_zoomButton) {
         //: The name of a bitmap, not a text: keep it as it is in every language.
         m_zoomButton = new CStretchBitmapButton(tr("Zoom"), this);
+        m_zoomButton->setAccessibleName(tr("Enlarge this photo"));
         m_zoomButton->setAccessibleDescription(tr("Shows this photo as large as possible"));
     }
     if (!m_backButton) {
         //: The name of a bitmap, not a text: keep it as it is in every language.
         m_backButton = new CStretchBitmapButton(tr("Back"), this);
+        m_backButton->setAccessibleName(tr("Back to all photos"));
         m_backButton->setAccessibleDescription(tr("Returns to all chosen photos"));
     }
 }

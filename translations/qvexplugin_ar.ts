@@ -267,6 +267,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>العودة إلى كل الصور المختارة</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>تكبير هذه الصورة</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>العودة إلى كل الصور</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

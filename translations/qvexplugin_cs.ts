@@ -267,6 +267,14 @@ snímání</translation>
         <source>Returns to all chosen photos</source>
         <translation>Vrátí se ke všem vybraným fotografiím</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Zvětšit tuto fotografii</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Zpět ke všem fotografiím</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

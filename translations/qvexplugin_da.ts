@@ -267,6 +267,14 @@ optagelse</translation>
         <source>Returns to all chosen photos</source>
         <translation>Vender tilbage til alle valgte fotos</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Forstør dette foto</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Tilbage til alle fotos</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ aufnahme</translation>
         <source>Returns to all chosen photos</source>
         <translation>Kehrt zu allen gewählten Fotos zurück</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Dieses Foto vergrößern</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Zurück zu allen Fotos</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

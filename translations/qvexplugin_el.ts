@@ -267,6 +267,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>Επιστρέφει σε όλες τις επιλεγμένες φωτογραφίες</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Μεγέθυνση αυτής της φωτογραφίας</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Επιστροφή σε όλες τις φωτογραφίες</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ Capture</translation>
         <source>Returns to all chosen photos</source>
         <translation>Returns to all chosen photos</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Enlarge this photo</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Back to all photos</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ continua</translation>
         <source>Returns to all chosen photos</source>
         <translation>Vuelve a todas las fotos elegidas</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Ampliar esta foto</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Volver a todas las fotos</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ kuvaus</translation>
         <source>Returns to all chosen photos</source>
         <translation>Palaa kaikkiin valittuihin kuviin</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Suurenna tämä kuva</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Takaisin kaikkiin kuviin</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

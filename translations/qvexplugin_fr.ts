@@ -267,6 +267,14 @@ rafale</translation>
         <source>Returns to all chosen photos</source>
         <translation>Revient à toutes les photos choisies</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Agrandir cette photo</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Revenir à toutes les photos</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

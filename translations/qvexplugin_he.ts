@@ -267,6 +267,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>חזרה לכל התמונות שנבחרו</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>הגדלת תמונה זו</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>חזרה לכל התמונות</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

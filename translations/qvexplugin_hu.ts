@@ -267,6 +267,14 @@ felvétel</translation>
         <source>Returns to all chosen photos</source>
         <translation>Visszatér az összes kiválasztott fotóhoz</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>A fotó nagyítása</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Vissza az összes fotóhoz</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

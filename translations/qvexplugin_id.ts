@@ -267,6 +267,14 @@ Beruntun</translation>
         <source>Returns to all chosen photos</source>
         <translation>Kembali ke semua foto terpilih</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Perbesar foto ini</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Kembali ke semua foto</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ continui</translation>
         <source>Returns to all chosen photos</source>
         <translation>Torna a tutte le foto scelte</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Ingrandisci questa foto</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Torna a tutte le foto</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

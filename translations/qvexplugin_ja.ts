@@ -266,6 +266,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>選んだすべての写真に戻ります</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>この写真を拡大する</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>すべての写真に戻る</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -266,6 +266,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>선택한 모든 사진으로 돌아갑니다</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>이 사진 확대</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>모든 사진으로 돌아가기</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ opname</translation>
         <source>Returns to all chosen photos</source>
         <translation>Keert terug naar alle gekozen foto’s</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Deze foto vergroten</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Terug naar alle foto’s</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

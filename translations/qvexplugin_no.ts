@@ -267,6 +267,14 @@ opptak</translation>
         <source>Returns to all chosen photos</source>
         <translation>Går tilbake til alle valgte fotoer</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Forstørr dette fotoet</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Tilbake til alle fotoene</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ seryjne</translation>
         <source>Returns to all chosen photos</source>
         <translation>Wraca do wszystkich wybranych zdjęć</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Powiększ to zdjęcie</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Powrót do wszystkich zdjęć</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

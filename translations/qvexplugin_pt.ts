@@ -267,6 +267,14 @@ contínua</translation>
         <source>Returns to all chosen photos</source>
         <translation>Volta a todas as fotos escolhidas</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Ampliar esta foto</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Voltar a todas as fotos</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ continuă</translation>
         <source>Returns to all chosen photos</source>
         <translation>Revine la toate fotografiile alese</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Mărește această fotografie</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Înapoi la toate fotografiile</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

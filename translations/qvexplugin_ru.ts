@@ -268,6 +268,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>Возвращает ко всем выбранным снимкам</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Увеличить этот снимок</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Назад ко всем снимкам</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ snímanie</translation>
         <source>Returns to all chosen photos</source>
         <translation>Vráti sa ku všetkým vybraným fotografiám</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Zväčšiť túto fotografiu</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Späť ku všetkým fotografiám</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ foto</translation>
         <source>Returns to all chosen photos</source>
         <translation>Återgår till alla valda foton</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Förstora detta foto</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Tillbaka till alla foton</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>กลับไปที่ภาพทั้งหมดที่เลือก</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>ขยายภาพนี้</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>กลับไปที่ภาพทั้งหมด</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

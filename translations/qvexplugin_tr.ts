@@ -267,6 +267,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>Seçilen tüm fotoğraflara döner</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Bu fotoğrafı büyüt</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Tüm fotoğraflara dön</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

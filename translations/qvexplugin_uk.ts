@@ -267,6 +267,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>Повертає до всіх вибраних знімків</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Збільшити цей знімок</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Назад до всіх знімків</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -267,6 +267,14 @@ liên tục</translation>
         <source>Returns to all chosen photos</source>
         <translation>Trở lại tất cả ảnh đã chọn</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>Phóng to ảnh này</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>Trở lại tất cả ảnh</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -266,6 +266,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>返回所有选中的照片</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>放大这张照片</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>返回所有照片</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

@@ -266,6 +266,14 @@ Capture</source>
         <source>Returns to all chosen photos</source>
         <translation>返回所有選取的相片</translation>
     </message>
+    <message>
+        <source>Enlarge this photo</source>
+        <translation>放大這張相片</translation>
+    </message>
+    <message>
+        <source>Back to all photos</source>
+        <translation>返回所有相片</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
