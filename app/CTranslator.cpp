@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QSettings>
 #include <QTranslator>
 
@@ -13,6 +15,21 @@ constexpr char filePrefix[] = "qvexplugin_";
 bool hasTranslation(const QString &dir, const QString &prefix, const QString &locale)
 {
     return QFileInfo(QDir(dir), prefix + locale + ".qm").isFile();
+}
+
+// What the toolkit writes on the buttons of our boxes. It does not speak all of our languages, so
+// our own files translate these as well.
+[[maybe_unused]] constexpr const char *toolkitCaptions[] = {
+    QT_TRANSLATE_NOOP("QPlatformTheme", "OK"), QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel")};
+
+// The toolkit's own texts, such as those of the box that chooses a folder, in our language.
+void translateToolkit(const QString &locale)
+{
+    static auto *const translator = new QTranslator; // as long-lived as our own
+    if (translator->load(QLocale(locale), "qtbase", "_",
+                         QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(translator);
+    }
 }
 
 } // namespace
@@ -47,7 +64,9 @@ void translate()
 
     // Never deleted: it is in use until the last widget is gone.
     static auto *const translator = new QTranslator;
-    translator->load(dir + "/" + filePrefix + locale);
+    if (translator->load(dir + "/" + filePrefix + locale)) {
+        translateToolkit(locale); // first: what we translate ourselves goes before
+    }
     // Installed even when there was nothing to load; the texts are then the English ones.
     QCoreApplication::installTranslator(translator);
 

@@ -20,8 +20,9 @@ public:
 };
 
 /**
- * Installs the translation that lies beside the program and turns the layout round for languages
- * that are read from the right. Called once, with the application object there and no widget yet.
+ * Installs the translation that lies beside the program, and with it the toolkit's own one where
+ * the system has it, and turns the layout round for languages that are read from the right. Called
+ * once, with the application object there and no widget yet.
  */
 void translate();
 

@@ -294,6 +294,17 @@ Beruntun</translation>
     </message>
 </context>
 <context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Batal</translation>
+    </message>
+</context>
+<context>
     <name>SaveConfirmDlg</name>
     <message>
         <source>Orvanta</source>

@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 
 #include <unistd.h>
 
@@ -27,6 +28,15 @@ Program::~Program()
 void Program::setEnvironment(const QString &name, const QString &value)
 {
     m_environment.insert(name, value);
+}
+
+void Program::setLanguage(const QString &code)
+{
+    const QString folder = home() + "/.config";
+    m_environment.insert("XDG_CONFIG_HOME", folder);
+    QSettings whiteboard(folder + "/MerovexSolutions/Tavelin Software.conf",
+                         QSettings::NativeFormat);
+    whiteboard.setValue("locale", code);
 }
 
 void Program::start()

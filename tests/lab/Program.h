@@ -19,6 +19,9 @@ public:
 
     void setEnvironment(const QString &name, const QString &value);
 
+    // The language that the user's whiteboard application is set to, for the next start.
+    void setLanguage(const QString &code);
+
     // Starts the program without waiting for a window.
     void start();
     // As the session does it when the user logs out.

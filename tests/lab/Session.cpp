@@ -171,26 +171,25 @@ void Session::prepareTwin(QMessageBox *box) const
     box->setWindowTitle("Orvanta");
     box->setText(m_messageText);
     box->setStandardButtons(QMessageBox::Ok);
+    box->button(QMessageBox::Ok)->setText(m_confirmText);
     box->setAttribute(Qt::WA_DontShowOnScreen);
     // Long texts break into lines by the size the box has before it is shown.
     WebcamUtil::moveToCenter(box, nullptr);
     box->show();
 }
 
-bool Session::messageSays(const QString &text)
+bool Session::messageSays(const QString &text, const QString &confirm)
 {
     m_messageText = text;
+    m_confirmText = confirm;
     QMessageBox twin;
     prepareTwin(&twin);
-    const auto *label = twin.findChild<QLabel *>("qt_msgbox_label");
-    const QRect textArea(label->mapTo(&twin, QPoint()), label->size());
-    const QImage expected =
-        twin.grab().toImage().copy(textArea).convertToFormat(QImage::Format_RGB32);
+    const QImage expected = twin.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    m_desktop.moveMouse({0, 0}); // a button that the mouse is on looks different
     return QTest::qWaitFor(
         [&] {
             const Desktop::Window box = dialog();
-            return box.id != 0 && box.geometry.size() == twin.size()
-                && seenAt(textArea.translated(box.geometry.topLeft())) == expected;
+            return box.id != 0 && seenAt(box.geometry) == expected;
         },
         reactionLimit);
 }

@@ -51,8 +51,9 @@ public:
     bool answerExitQuestion(const QString &caption);
     // In the chooser at start, by the keyboard: the camera at this position of the box, then "OK".
     void chooseCamera(int position);
-    // Whether the open dialog is a message box with this very text, compared pixel by pixel.
-    bool messageSays(const QString &text);
+    // Whether the open dialog is a message box with this very text and this caption of its button,
+    // compared pixel by pixel. A box that reads from the right needs a QApplication that does.
+    bool messageSays(const QString &text, const QString &confirm = "OK");
     bool confirmMessage();
 
 private:
@@ -63,6 +64,7 @@ private:
     WindowMap m_map;
     QRgb m_ground;
     QString m_messageText;
+    QString m_confirmText = "OK";
 };
 
 #endif // SESSION_H

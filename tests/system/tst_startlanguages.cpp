@@ -6,7 +6,6 @@
 #include "Program.h"
 
 #include <QDir>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -61,8 +60,6 @@ void StartLanguagesTest::init()
     QVERIFY(m_folder->isValid());
     QVERIFY(copyProgram(m_folder->path()));
     m_program = std::make_unique<Program>(m_folder->filePath(QStringLiteral("orvanta")));
-    m_program->setEnvironment(QStringLiteral("XDG_CONFIG_HOME"),
-                              m_program->home() + QStringLiteral("/.config"));
 }
 
 void StartLanguagesTest::cleanup()
@@ -86,12 +83,7 @@ void StartLanguagesTest::startWith(const QString &stored, const QString &missing
     if (!missing.isEmpty()) {
         QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("qvexplugin_%1.qm").arg(missing))));
     }
-    {
-        QSettings whiteboard(
-            m_program->home() + QStringLiteral("/.config/MerovexSolutions/Tavelin Software.conf"),
-            QSettings::NativeFormat);
-        whiteboard.setValue(QStringLiteral("locale"), stored);
-    }
+    m_program->setLanguage(stored);
     m_program->start();
     QTRY_VERIFY2_WITH_TIMEOUT(isOnTop(QStringLiteral("Orvanta")), qPrintable(m_program->output()),
                               kPatienceMs);

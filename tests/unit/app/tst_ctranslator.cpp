@@ -122,18 +122,31 @@ void tst_CTranslator::textsAndDirectionFollowTheChosenLanguage_data()
     QTest::addColumn<QVariant>("stored");
     QTest::addColumn<QString>("file");
     QTest::addColumn<QByteArray>("said");
-    const QByteArray english("Photo\nfrom the left\n");
-    const QByteArray translated("translated\nfrom the left\n");
-    const QByteArray reversed("translated\nfrom the right\n");
+    // Of the program and of the toolkit, which has no Norwegian.
+    const QByteArray english("Photo\nNew Folder\nfrom the left\n");
+    const auto translated = [](const char *toolkit) {
+        return QByteArray("translated\n") + toolkit + "\nfrom the left\n";
+    };
+    const auto reversed = [](const char *toolkit) {
+        return QByteArray("translated\n") + toolkit + "\nfrom the right\n";
+    };
     QTest::newRow("no whiteboard application") << QVariant() << "de" << english;
-    QTest::newRow("German") << QVariant("de") << "de" << translated;
-    QTest::newRow("Brazilian, with Portuguese only") << QVariant("pt_BR") << "pt" << translated;
-    QTest::newRow("Bokmål, with the Norwegian file") << QVariant("nb_NO") << "no" << translated;
+    QTest::newRow("German") << QVariant("de") << "de" << translated("Neues Verzeichnis");
+    QTest::newRow("German without a file") << QVariant("de") << "fr" << english;
+    QTest::newRow("English, with its file") << QVariant("en") << "en" << translated("New Folder");
+    QTest::newRow("Brazilian, with its file")
+        << QVariant("pt_BR") << "pt_BR" << translated("Nova pasta");
+    QTest::newRow("Brazilian, with Portuguese only")
+        << QVariant("pt_BR") << "pt" << translated("Nova pasta");
+    QTest::newRow("Bokmål, with the Norwegian file")
+        << QVariant("nb_NO") << "no" << translated("New Folder");
     QTest::newRow("Bokmål without a file") << QVariant("nb_NO") << "de" << english;
-    QTest::newRow("Arabic") << QVariant("ar") << "ar" << reversed;
+    QTest::newRow("Chinese") << QVariant("zh") << "zh" << translated("新建文件夹");
+    QTest::newRow("Chinese of Taiwan") << QVariant("zh_TW") << "zh_TW" << translated("新資料夾");
+    QTest::newRow("Arabic") << QVariant("ar") << "ar" << reversed("مجلّد جديد");
     QTest::newRow("Arabic without a file") << QVariant("ar") << "de" << english;
-    QTest::newRow("Hebrew") << QVariant("he") << "he" << reversed;
-    QTest::newRow("Hebrew of Israel") << QVariant("he_IL") << "he" << reversed;
+    QTest::newRow("Hebrew") << QVariant("he") << "he" << reversed("תיקייה חדשה");
+    QTest::newRow("Hebrew of Israel") << QVariant("he_IL") << "he" << reversed("תיקייה חדשה");
 }
 
 void tst_CTranslator::textsAndDirectionFollowTheChosenLanguage()
