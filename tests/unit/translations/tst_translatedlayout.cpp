@@ -1,65 +1,64 @@
 // Every language in the real widgets, with the real fonts: nothing may be clipped on a screen of
 // 1024x768, and no letter may be missing from the fonts.
 
-#include "ButtonGeometry.h"
 #include "CStretchBitmapButton.h"
+#include "DialogFixture.h"
 #include "Languages.h"
+#include "PictureWidget.h"
 #include "SaveConfirmDlg.h"
 #include "SelectDeviceDlg.h"
 #include "Setting.h"
 #include "TimerWidget.h"
+#include "WebcamUtil.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QGlyphRun>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QTextLayout>
 #include <QTimer>
 #include <QTranslator>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 
 namespace {
 
 const QSize kScreen(1024, 768);
-// What a bitmap of the row and half of one come to on that screen.
-const QSize kMainButton(170, 77);
-const QSize kSmallButton(170, 38);
+constexpr int kMostTiles = 9;
 // Of the caption's label, at its right: a text up to the very rim of the bitmap looks cut off.
 constexpr int kRimPx = 6;
 
-struct Caption {
-    const char *baseName;
-    const char *text;
+struct Text {
+    const char *context;
+    const char *source;
 };
 
-constexpr Caption kCaptions[] = {
-    {"Live", "Live"},
-    {"Photo", "Photo"},
-    {"PhotoMulti", "Continuous\nCapture"},
-    {"Movie", "Movie"},
-    {"MovieStop", "Stop"},
-    {"List", "List"},
-    {"Settings", "Settings"},
-    {"Close", "Exit"},
-    {"Apply", "Accept"},
-    {"Retry", "Retry"},
-    {"MoviePlay", "Play"},
-    {"MoviePause", "Pause"},
-    {"Show", "View"},
-    {"SwitchPhoto", "Movie /\n    Photo"},
-    {"SwitchMovie", "Photo /\n    Movie"},
-    {"Back", "Back"},
-    {"PutPhoto", "Paste"},
+// What boxes say, but for the full disk, whose two pieces come from the store.
+constexpr Text kMessages[] = {
+    {"CVistrelDlg", "Save failed."},
+    {"CVistrelDlg", "Cannot find Video / Audio Devices."},
+    {"CVistrelDlg", "Cannot find Audio Devices."},
+    {"CVistrelDlg", "Cannot find Video Devices."},
+    {"CVistrelDlg",
+     "The video device is invalid. Please confirm whether the device is correctly connected. "},
+    {"LiveVideoWidget", "Not Suport"},
+    {"LiveVideoWidget",
+     "The video device and the audio device are invalid. Please confirm whether "
+     "the device is correctly connected. "},
+    {"LiveVideoWidget",
+     "The audio device is invalid. Please confirm whether the device is correctly connected."},
+    {"PictureListView", "You can not select 10 or more."},
+    {"Setting", "Please specify the save location."},
+    {"Setting", "Invalid PATH is specified."},
 };
 
-QSize sizeOf(const QString &baseName)
+QString inLanguage(const Text &text)
 {
-    return baseName == QLatin1String("Settings") || baseName == QLatin1String("Close")
-        ? kSmallButton
-        : kMainButton;
+    return QCoreApplication::translate(text.context, text.source);
 }
 
 /// What the label needs for its text at its own width. A word that is too long makes it wider.
@@ -92,20 +91,74 @@ QByteArray complaint(const QString &text, QSize needed, QSize available)
 QByteArray clippedTextsOf(const QWidget &box)
 {
     QByteArray clipped;
-    const auto look = [&](const QWidget &widget, const QString &text) {
+    const auto look = [&](const QWidget &widget, const QString &text, QSize needed) {
         const QSize visible =
             widget.geometry().intersected(widget.parentWidget()->contentsRect()).size();
-        if (!text.isEmpty() && !fits(widget.sizeHint(), visible)) {
-            clipped += complaint(text, widget.sizeHint(), visible) + '\n';
+        if (!text.isEmpty() && !fits(needed, visible)) {
+            clipped += complaint(text, needed, visible) + '\n';
         }
     };
     for (const QLabel *label : box.findChildren<QLabel *>()) {
-        look(*label, label->text());
+        look(*label, label->text(), label->wordWrap() ? neededBy(*label) : label->sizeHint());
     }
     for (const QAbstractButton *button : box.findChildren<QAbstractButton *>()) {
-        look(*button, button->text());
+        look(*button, button->text(), button->sizeHint());
     }
     return clipped;
+}
+
+/// The buttons of the window's screens. "Back" is on none of them: tiles bring their own.
+QList<CStretchBitmapButton *> buttonsOf(const QWidget &window)
+{
+    auto buttons =
+        window.findChildren<CStretchBitmapButton *>(QString(), Qt::FindDirectChildrenOnly);
+    buttons.removeOne(window.findChild<CStretchBitmapButton *>(QStringLiteral("Back"),
+                                                               Qt::FindDirectChildrenOnly));
+    return buttons;
+}
+
+QLabel *captionOf(const CStretchBitmapButton &button)
+{
+    return button.findChild<QLabel *>(QStringLiteral("caption"));
+}
+
+/// The captions of a window that their buttons have no room for, at the size that the window gave
+/// them; empty when all is well.
+QByteArray clippedCaptionsOf(const QWidget &window)
+{
+    QByteArray clipped;
+    for (CStretchBitmapButton *button : buttonsOf(window)) {
+        button->show(); // each has its place, but no screen has all of them
+        button->layout()->activate();
+        const QLabel *caption = captionOf(*button);
+        const QSize needed = neededBy(*caption);
+        const QSize available = caption->size() - QSize(kRimPx, 0);
+        if (!fits(needed, available)) {
+            clipped += complaint(caption->text(), needed, available) + '\n';
+        }
+    }
+    return clipped;
+}
+
+/// What is wrong with the message box that an action shows; it is closed at once.
+QByteArray troubleWithBoxOf(const std::function<void()> &action)
+{
+    QByteArray trouble = "no box came";
+    QTimer glance;
+    QObject::connect(&glance, &QTimer::timeout, [&trouble] {
+        QWidget *box = QApplication::activeModalWidget();
+        if (!box || !box->isVisible()) {
+            return;
+        }
+        trouble = clippedTextsOf(*box);
+        if (!QRect(QPoint(), kScreen).contains(box->geometry())) {
+            trouble += "a box larger than the screen";
+        }
+        box->close();
+    });
+    glance.start(0);
+    action();
+    return trouble;
 }
 
 bool hasALetterWithoutAShape(const QString &text, const QFont &font)
@@ -126,15 +179,20 @@ class TranslatedLayoutTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
     void everyCaptionFitsItsButton_data() { addLanguageRows(); }
     void everyCaptionFitsItsButton();
     void aCaptionTooLongForItsButtonIsNoticed();
+    void tilesShowTheirNumbersAndButtonsWhole_data() { addLanguageRows(); }
+    void tilesShowTheirNumbersAndButtonsWhole();
     void theFontsHaveEveryLetter_data() { addLanguageRows(); }
     void theFontsHaveEveryLetter();
     void aLetterThatNoFontHasIsNoticed();
     void aTextTooLongForItsRowIsNoticed();
+    void messagesAreShownWhole_data() { addLanguageRows(); }
+    void messagesAreShownWhole();
     void theChooserShowsItsTextsWhole_data() { addLanguageRows(); }
     void theChooserShowsItsTextsWhole();
     void theSettingsShowTheirTextsWhole_data() { addLanguageRows(); }
@@ -146,10 +204,14 @@ private Q_SLOTS:
 
 private:
     void speak(const QString &language);
-    static QSize neededByCaption(CStretchBitmapButton &button, const QString &text);
 
     std::unique_ptr<QTranslator> m_translator;
 };
+
+void TranslatedLayoutTest::initTestCase()
+{
+    QCOMPARE(QGuiApplication::primaryScreen()->availableGeometry(), QRect(QPoint(), kScreen));
+}
 
 void TranslatedLayoutTest::init()
 {
@@ -172,46 +234,61 @@ void TranslatedLayoutTest::speak(const QString &language)
     }
 }
 
-/// The room for the text in the caption's label, once the button has its size on a screen of 1024
-/// px. The screen of the test is another one, so the font is set to what it is there.
-QSize TranslatedLayoutTest::neededByCaption(CStretchBitmapButton &button, const QString &text)
-{
-    auto *caption = button.findChild<QLabel *>(QStringLiteral("caption"));
-    QFont font = caption->font();
-    font.setPointSize(ButtonGeometry::captionPointSize(kScreen.width()));
-    caption->setFont(font);
-    button.resize(sizeOf(button.objectName()));
-    button.setCaptionText(text);
-    button.show();
-    return neededBy(*caption);
-}
-
 void TranslatedLayoutTest::everyCaptionFitsItsButton()
 {
     QFETCH(QString, language);
     speak(language);
-    QByteArray clipped;
-    for (const Caption &row : kCaptions) {
-        CStretchBitmapButton button(row.baseName, nullptr);
-        const QString text = QCoreApplication::translate("CVistrelDlg", row.text);
-        const QSize needed = neededByCaption(button, text);
-        const QSize available =
-            button.findChild<QLabel *>(QStringLiteral("caption"))->size() - QSize(kRimPx, 0);
-        QVERIFY(available.width() > 90);
-        if (!fits(needed, available)) {
-            clipped += complaint(text, needed, available) + '\n';
-        }
-    }
+    DialogFixture fixture;
+    const CVistrelDlg &window = fixture.build();
+    const auto buttons = buttonsOf(window);
+    QVERIFY(buttons.size() >= 17);
+    const QByteArray clipped = clippedCaptionsOf(window);
     QVERIFY2(clipped.isEmpty(), clipped.constData());
+    for (const CStretchBitmapButton *button : buttons) {
+        QVERIFY2(!captionOf(*button)->text().isEmpty(), qPrintable(button->objectName()));
+        QVERIFY2(captionOf(*button)->width() > 90, qPrintable(button->objectName()));
+    }
 }
 
 void TranslatedLayoutTest::aCaptionTooLongForItsButtonIsNoticed()
 {
-    CStretchBitmapButton button(QStringLiteral("Settings"), nullptr);
-    const QSize longWord = neededByCaption(button, QStringLiteral("Grundeinstellungen"));
-    const QSize available = button.findChild<QLabel *>(QStringLiteral("caption"))->size();
-    QVERIFY(longWord.width() > available.width());
-    QVERIFY(neededByCaption(button, QStringLiteral("a\nb\nc")).height() > available.height());
+    DialogFixture fixture;
+    const CVistrelDlg &window = fixture.build();
+    auto &settings = static_cast<CStretchBitmapButton &>(fixture.button("Settings"));
+    settings.setCaptionText(QStringLiteral("Grundeinstellungen"));
+    QVERIFY(clippedCaptionsOf(window).startsWith("\"Grundeinstellungen\""));
+    settings.setCaptionText(QStringLiteral("a\nb\nc"));
+    QVERIFY(clippedCaptionsOf(window).startsWith("\"a\nb\nc\""));
+    settings.setCaptionText(QStringLiteral("Settings"));
+    QCOMPARE(clippedCaptionsOf(window), QByteArray());
+}
+
+void TranslatedLayoutTest::tilesShowTheirNumbersAndButtonsWhole()
+{
+    QFETCH(QString, language);
+    speak(language);
+    DialogFixture fixture;
+    CVistrelDlg &window = fixture.build();
+    QStringList names;
+    for (int i = 0; i < kMostTiles; ++i) {
+        names.append(QStringLiteral("photo%1.png").arg(i)); // none is there: the tiles stay black
+    }
+    window.SetPictureListMode(names);
+    int tiles = 0;
+    for (PictureWidget *tile :
+         window.findChildren<PictureWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        const auto *zoom = tile->findChild<CStretchBitmapButton *>(QStringLiteral("Zoom"));
+        if (!zoom) {
+            continue; // the view of single photos
+        }
+        ++tiles;
+        QVERIFY(zoom->isVisible() && !zoom->size().isEmpty());
+        QVERIFY(tile->rect().contains(zoom->geometry()));
+        QCOMPARE(captionOf(*zoom)->text(), QString()); // the bitmap says it all
+        const QByteArray clipped = clippedTextsOf(*tile);
+        QVERIFY2(clipped.isEmpty(), clipped.constData());
+    }
+    QCOMPARE(tiles, kMostTiles);
 }
 
 void TranslatedLayoutTest::theFontsHaveEveryLetter()
@@ -219,20 +296,22 @@ void TranslatedLayoutTest::theFontsHaveEveryLetter()
     QFETCH(QString, language);
     speak(language);
     const QFont font(QStringLiteral("Arial"), 11);
-    const struct {
-        const char *context;
-        const char *text;
-    } samples[] = {{"CVistrelDlg", "Back to the live picture"},
-                   {"PictureWidget", "Shows this photo as large as possible"},
-                   {"TimerWidget", "Self-timer, recording time or playing time"},
-                   {"SaveConfirmDlg", "Do you want to save the Photo / Movie data?"}};
-    for (const auto &sample : samples) {
-        const QString text = QCoreApplication::translate(sample.context, sample.text);
-        QVERIFY2(!hasALetterWithoutAShape(text, font), qPrintable(text));
+    QStringList texts;
+    for (const Text &text : {Text{"CVistrelDlg", "Back to the live picture"},
+                             Text{"PictureWidget", "Shows this photo as large as possible"},
+                             Text{"TimerWidget", "Self-timer, recording time or playing time"},
+                             Text{"SaveConfirmDlg", "Do you want to save the Photo / Movie data?"},
+                             Text{"QPlatformTheme", "Cancel"}}) {
+        texts.append(inLanguage(text));
     }
-    for (const Caption &row : kCaptions) {
-        QString text = QCoreApplication::translate("CVistrelDlg", row.text);
-        text.remove(QLatin1Char('\n'));
+    for (const Text &message : kMessages) {
+        texts.append(inLanguage(message));
+    }
+    DialogFixture fixture;
+    for (const CStretchBitmapButton *button : buttonsOf(fixture.build())) {
+        texts.append(captionOf(*button)->text().remove(QLatin1Char('\n')));
+    }
+    for (const QString &text : qAsConst(texts)) {
         QVERIFY2(!hasALetterWithoutAShape(text, font), qPrintable(text));
     }
 }
@@ -257,6 +336,22 @@ void TranslatedLayoutTest::aTextTooLongForItsRowIsNoticed()
     QVERIFY(!clippedTextsOf(box).isEmpty());
 }
 
+void TranslatedLayoutTest::messagesAreShownWhole()
+{
+    QFETCH(QString, language);
+    speak(language);
+    for (const Text &message : kMessages) {
+        QVERIFY2(!m_translator->translate(message.context, message.source).isEmpty(),
+                 message.source);
+        const QByteArray trouble =
+            troubleWithBoxOf([&] { WebcamUtil::WarningMessage(inLanguage(message), nullptr); });
+        QVERIFY2(trouble.isEmpty(), trouble.constData());
+    }
+    const QByteArray trouble =
+        troubleWithBoxOf([] { WebcamUtil::ShowDiskWorningMessage(nullptr); });
+    QVERIFY2(trouble.isEmpty(), trouble.constData());
+}
+
 void TranslatedLayoutTest::theChooserShowsItsTextsWhole()
 {
     QFETCH(QString, language);
@@ -273,6 +368,7 @@ void TranslatedLayoutTest::theSettingsShowTheirTextsWhole()
     speak(language);
     Setting settings(nullptr);
     settings.show();
+    QVERIFY(fits(settings.frameSize(), kScreen));
     QCOMPARE(settings.windowTitle(), QCoreApplication::translate("Setting", "Settings"));
     const QByteArray clipped = clippedTextsOf(settings);
     QVERIFY2(clipped.isEmpty(), clipped.constData());
