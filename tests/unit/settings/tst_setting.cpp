@@ -1,3 +1,4 @@
+#include "ContextTranslator.h"
 #include "MessageReader.h"
 #include "OrdinaryUser.h"
 #include "Setting.h"
@@ -96,16 +97,6 @@ public:
     {
         const QString english = QLatin1String(text);
         return english + QString((english.size() * 2 + 4) / 5, QLatin1Char('n'));
-    }
-    bool isEmpty() const override { return false; }
-};
-
-/** Translates a text to the name of its context and itself, so that the context shows. */
-class ContextTranslator : public QTranslator {
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return QString("%1: %2").arg(QLatin1String(context), QLatin1String(text));
     }
     bool isEmpty() const override { return false; }
 };

@@ -1,3 +1,4 @@
+#include "ContextTranslator.h"
 #include "SaveConfirmDlg.h"
 
 #include <QLabel>
@@ -5,7 +6,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QTranslator>
 
 #include <algorithm>
 #include <functional>
@@ -31,16 +31,6 @@ void press(SaveConfirmDlg &dialog, const QString &caption)
             QTest::mouseClick(button, Qt::LeftButton);
     }
 }
-
-/** Translates a text to the name of its context and itself, so that the context shows. */
-class ContextTranslator : public QTranslator {
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return QString("%1: %2").arg(QLatin1String(context), QLatin1String(text));
-    }
-    bool isEmpty() const override { return false; }
-};
 
 } // namespace
 

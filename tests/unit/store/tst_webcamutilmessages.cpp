@@ -1,3 +1,4 @@
+#include "ContextTranslator.h"
 #include "WebcamUtil.h"
 
 #include <QAbstractButton>
@@ -7,7 +8,6 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
-#include <QTranslator>
 
 namespace {
 
@@ -56,16 +56,6 @@ QPoint cornerOfCentred(const QSize &size)
     const QSize desktop = QGuiApplication::primaryScreen()->virtualSize();
     return {(desktop.width() - size.width()) / 2, (desktop.height() - size.height()) / 2};
 }
-
-/** Translates a text to the name of its context and itself, so that the context shows. */
-class ContextTranslator : public QTranslator {
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        return QString("<%1>%2").arg(QLatin1String(context), QLatin1String(text));
-    }
-    bool isEmpty() const override { return false; }
-};
 
 const QString kShort = QStringLiteral("Save failed.");
 const QString kLong = QStringLiteral("A sentence that goes on. ").repeated(12);
@@ -135,11 +125,11 @@ void WebcamUtilMessagesTest::boxesAreTranslatedInTheGeneralContext()
     const SeenBox lowDisk = see([] { WebcamUtil::ShowDiskWorningMessage(nullptr); });
     const SeenBox warning = see([] { WebcamUtil::WarningMessage(kShort, nullptr); });
     QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(lowDisk.title, QString("<QObject>Orvanta"));
+    QCOMPARE(lowDisk.title, QString("QObject: Orvanta"));
     QCOMPARE(lowDisk.text,
-             QString("<QObject>The disk free space is insufficient.\n<QObject>Taking a picture is "
+             QString("QObject: The disk free space is insufficient.\nQObject: Taking a picture is "
                      "discontinued. Please secure the free space. "));
-    QCOMPARE(warning.title, QString("<QObject>Orvanta"));
+    QCOMPARE(warning.title, QString("QObject: Orvanta"));
     QCOMPARE(warning.text, kShort);
 }
 
