@@ -62,7 +62,7 @@ private:
     QVector<quint32> cardinals(quint32 window, const char *property) const;
 
     // Xlib's own name for its Display, whose header must not meet Qt's.
-    struct _XDisplay *m_display; // NOLINT(bugprone-reserved-identifier)
+    struct _XDisplay *m_display;
 };
 
 #endif // DESKTOP_H
