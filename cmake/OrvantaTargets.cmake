@@ -29,14 +29,14 @@ function(orvanta_room name)
 endfunction()
 
 # orvanta_test(NAME LABEL unit|engine|system SOURCES file... [USES target...] [TIMEOUT seconds]
-#              [COMMAND prefix...] [LAB option...] [ALONE])
+#              [COMMAND prefix...] [LAB option...] [ALONE] [BUSY])
 # One test program. Unit tests draw on the offscreen platform. COMMAND is put before the program.
 # Home, temporary and runtime folders are private to the test. With LAB the program runs inside a
 # lab of its own, with these options of tests/lab/lab, such as --camera cam1:1280x720; an option
 # that says the default, --screen 1024x768, gives a lab without cameras. ALONE is for what measures
-# time: nothing else runs beside it.
+# time: nothing else runs beside it. BUSY is for what keeps a processor busy all the time.
 function(orvanta_test name)
-    cmake_parse_arguments(TEST "ALONE" "LABEL;TIMEOUT" "SOURCES;USES;COMMAND;LAB" ${ARGN})
+    cmake_parse_arguments(TEST "ALONE;BUSY" "LABEL;TIMEOUT" "SOURCES;USES;COMMAND;LAB" ${ARGN})
     if(NOT TEST_TIMEOUT)
         set(TEST_TIMEOUT 120)
     endif()
@@ -61,7 +61,13 @@ function(orvanta_test name)
     if(TEST_LABEL STREQUAL "unit")
         list(APPEND environment "QT_QPA_PLATFORM=offscreen")
     endif()
+    set(processors 1)
+    if(TEST_BUSY)
+        set(processors 2) # as many as the tests that share one
+    endif()
     set_tests_properties(${name} PROPERTIES
         LABELS ${TEST_LABEL} TIMEOUT ${TEST_TIMEOUT} ENVIRONMENT "${environment}"
-        RUN_SERIAL ${TEST_ALONE})
+        RUN_SERIAL ${TEST_ALONE}
+        PROCESSORS ${processors}
+        COST ${TEST_TIMEOUT}) # what may take long begins early
 endfunction()
