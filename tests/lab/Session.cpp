@@ -172,6 +172,7 @@ void Session::prepareTwin(QMessageBox *box) const
     box->setText(m_messageText);
     box->setStandardButtons(QMessageBox::Ok);
     box->button(QMessageBox::Ok)->setText(m_confirmText);
+    box->button(QMessageBox::Ok)->setIcon(QIcon());
     box->setAttribute(Qt::WA_DontShowOnScreen);
     // Long texts break into lines by the size the box has before it is shown.
     WebcamUtil::moveToCenter(box, nullptr);
