@@ -51,7 +51,7 @@ void SaveConfirmDlg::createControls()
     const auto addButton = [this, &font](const QString &caption) {
         auto *button = new QPushButton(caption, this);
         button->setFont(font);
-        button->setMinimumHeight(36); // large enough for a finger
+        button->setMinimumSize(96, 36); // large enough for a finger
         return button;
     };
     m_yes = addButton(tr("Yes"));
