@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QFont>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QSettings>
@@ -70,6 +71,11 @@ void translate()
     // Installed even when there was nothing to load; the texts are then the English ones.
     QCoreApplication::installTranslator(translator);
 
+    if (locale == "ar") {
+        // The thinnest cut of DejaVu Sans, which our thin texts would come to, has no Arabic
+        // letters, and those of its typewriter would stand in for them.
+        QFont::insertSubstitutions("Arial", {"Liberation Sans", "DejaVu Sans Condensed"});
+    }
     if (locale == "ar" || locale == "he") {
         QApplication::setLayoutDirection(Qt::RightToLeft);
     }
