@@ -121,7 +121,7 @@ Capture</source>
     </message>
     <message>
         <source>List the photos</source>
-        <translation>سرد الصور</translation>
+        <translation>عرض قائمة الصور</translation>
     </message>
     <message>
         <source>Photo /
@@ -131,7 +131,7 @@ Capture</source>
     </message>
     <message>
         <source>List the movies</source>
-        <translation>سرد مقاطع الفيديو</translation>
+        <translation>عرض قائمة مقاطع الفيديو</translation>
     </message>
     <message>
         <source>Back</source>
@@ -167,7 +167,7 @@ Capture</source>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>الكاميرا غير صالحة. يرجى التأكد من توصيل الجهاز بشكل صحيح. </translation>
+        <translation>الكاميرا غير متاحة. يرجى التأكد من توصيل الجهاز بشكل صحيح. </translation>
     </message>
     <message>
         <source>Still</source>
@@ -202,15 +202,15 @@ Capture</source>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>الكاميرا غير صالحة. يرجى التأكد من توصيل الجهاز بشكل صحيح. </translation>
+        <translation>الكاميرا غير متاحة. يرجى التأكد من توصيل الجهاز بشكل صحيح. </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>الكاميرا والميكروفون غير صالحين. يرجى التأكد من توصيل الجهاز بشكل صحيح. </translation>
+        <translation>الكاميرا والميكروفون غير متاحين. يرجى التأكد من توصيل الجهاز بشكل صحيح. </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>الميكروفون غير صالح. يرجى التأكد من توصيل الجهاز بشكل صحيح.</translation>
+        <translation>الميكروفون غير متاح. يرجى التأكد من توصيل الجهاز بشكل صحيح.</translation>
     </message>
 </context>
 <context>

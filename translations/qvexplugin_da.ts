@@ -63,7 +63,7 @@ optagelse</translation>
     </message>
     <message>
         <source>Change the settings</source>
-        <translation>Skift indstillingerne</translation>
+        <translation>Ændr indstillingerne</translation>
     </message>
     <message>
         <source>Exit</source>

@@ -63,7 +63,7 @@ aufnahme</translation>
     </message>
     <message>
         <source>Change the settings</source>
-        <translation>Die Einstellungen ändern</translation>
+        <translation>Die Optionen ändern</translation>
     </message>
     <message>
         <source>Exit</source>
@@ -350,7 +350,7 @@ aufnahme</translation>
     <name>Setting</name>
     <message>
         <source>Settings</source>
-        <translation>Einstellungen</translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>AutoShooting:</source>

@@ -35,11 +35,11 @@ Capture</source>
     </message>
     <message>
         <source>Movie</source>
-        <translation>Ταινία</translation>
+        <translation>Βίντεο</translation>
     </message>
     <message>
         <source>Record a movie with sound</source>
-        <translation>Εγγραφή ταινίας με ήχο</translation>
+        <translation>Εγγραφή βίντεο με ήχο</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -95,7 +95,7 @@ Capture</source>
     </message>
     <message>
         <source>Play the movie</source>
-        <translation>Αναπαραγωγή της ταινίας</translation>
+        <translation>Αναπαραγωγή του βίντεο</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -103,7 +103,7 @@ Capture</source>
     </message>
     <message>
         <source>Pause the movie</source>
-        <translation>Παύση της ταινίας</translation>
+        <translation>Παύση του βίντεο</translation>
     </message>
     <message>
         <source>View</source>
@@ -116,7 +116,7 @@ Capture</source>
     <message>
         <source>Movie /
     Photo</source>
-        <translation>Ταινία /
+        <translation>Βίντεο /
     Φωτο</translation>
     </message>
     <message>
@@ -127,11 +127,11 @@ Capture</source>
         <source>Photo /
     Movie</source>
         <translation>Φωτο /
-    Ταινία</translation>
+    Βίντεο</translation>
     </message>
     <message>
         <source>List the movies</source>
-        <translation>Λίστα των ταινιών</translation>
+        <translation>Λίστα των βίντεο</translation>
     </message>
     <message>
         <source>Back</source>
@@ -167,7 +167,7 @@ Capture</source>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Η κάμερα δεν είναι έγκυρη. Βεβαιωθείτε ότι η συσκευή είναι σωστά συνδεδεμένη. </translation>
+        <translation>Η κάμερα δεν είναι διαθέσιμη. Βεβαιωθείτε ότι η συσκευή είναι σωστά συνδεδεμένη. </translation>
     </message>
     <message>
         <source>Still</source>
@@ -202,26 +202,26 @@ Capture</source>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Η κάμερα δεν είναι έγκυρη. Βεβαιωθείτε ότι η συσκευή είναι σωστά συνδεδεμένη. </translation>
+        <translation>Η κάμερα δεν είναι διαθέσιμη. Βεβαιωθείτε ότι η συσκευή είναι σωστά συνδεδεμένη. </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Η κάμερα και το μικρόφωνο δεν είναι έγκυρα. Βεβαιωθείτε ότι η συσκευή είναι σωστά συνδεδεμένη. </translation>
+        <translation>Η κάμερα και το μικρόφωνο δεν είναι διαθέσιμα. Βεβαιωθείτε ότι η συσκευή είναι σωστά συνδεδεμένη. </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>Το μικρόφωνο δεν είναι έγκυρο. Βεβαιωθείτε ότι η συσκευή είναι σωστά συνδεδεμένη.</translation>
+        <translation>Το μικρόφωνο δεν είναι διαθέσιμο. Βεβαιωθείτε ότι η συσκευή είναι σωστά συνδεδεμένη.</translation>
     </message>
 </context>
 <context>
     <name>MovieWidget</name>
     <message>
         <source>Movie</source>
-        <translation>Ταινία</translation>
+        <translation>Βίντεο</translation>
     </message>
     <message>
         <source>Plays a recorded movie</source>
-        <translation>Αναπαράγει μια εγγεγραμμένη ταινία</translation>
+        <translation>Αναπαράγει ένα εγγεγραμμένο βίντεο</translation>
     </message>
 </context>
 <context>
@@ -232,7 +232,7 @@ Capture</source>
     </message>
     <message>
         <source>Choose up to nine photos, or one movie</source>
-        <translation>Επιλέξτε έως εννέα φωτογραφίες ή μία ταινία</translation>
+        <translation>Επιλέξτε έως εννέα φωτογραφίες ή ένα βίντεο</translation>
     </message>
     <message>
         <source>You can not select 10 or more.</source>
@@ -312,7 +312,7 @@ Capture</source>
     </message>
     <message>
         <source>Do you want to save the Photo / Movie data?</source>
-        <translation>Θέλετε να αποθηκεύσετε τις φωτογραφίες και τις ταινίες;</translation>
+        <translation>Θέλετε να αποθηκεύσετε τις φωτογραφίες και τα βίντεο;</translation>
     </message>
     <message>
         <source>Yes</source>

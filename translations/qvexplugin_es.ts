@@ -167,7 +167,7 @@ continua</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>La cámara no es válida. Compruebe que el dispositivo esté bien conectado. </translation>
+        <translation>La cámara no está disponible. Compruebe que el dispositivo esté bien conectado. </translation>
     </message>
     <message>
         <source>Still</source>
@@ -202,15 +202,15 @@ continua</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>La cámara no es válida. Compruebe que el dispositivo esté bien conectado. </translation>
+        <translation>La cámara no está disponible. Compruebe que el dispositivo esté bien conectado. </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>La cámara y el micrófono no son válidos. Compruebe que el dispositivo esté bien conectado. </translation>
+        <translation>La cámara y el micrófono no están disponibles. Compruebe que el dispositivo esté bien conectado. </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>El micrófono no es válido. Compruebe que el dispositivo esté bien conectado.</translation>
+        <translation>El micrófono no está disponible. Compruebe que el dispositivo esté bien conectado.</translation>
     </message>
 </context>
 <context>

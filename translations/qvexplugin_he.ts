@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Live</source>
-        <translation>שידור חי</translation>
+        <translation>תצוגה חיה</translation>
     </message>
     <message>
         <source>Back to the live picture</source>
@@ -35,11 +35,11 @@ Capture</source>
     </message>
     <message>
         <source>Movie</source>
-        <translation>סרט</translation>
+        <translation>סרטון</translation>
     </message>
     <message>
         <source>Record a movie with sound</source>
-        <translation>הקלטת סרט עם קול</translation>
+        <translation>הקלטת סרטון עם קול</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -95,7 +95,7 @@ Capture</source>
     </message>
     <message>
         <source>Play the movie</source>
-        <translation>ניגון הסרט</translation>
+        <translation>הפעלת הסרטון</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -103,7 +103,7 @@ Capture</source>
     </message>
     <message>
         <source>Pause the movie</source>
-        <translation>השהיית הסרט</translation>
+        <translation>השהיית הסרטון</translation>
     </message>
     <message>
         <source>View</source>
@@ -116,7 +116,7 @@ Capture</source>
     <message>
         <source>Movie /
     Photo</source>
-        <translation>סרט /
+        <translation>סרטון /
     תמונה</translation>
     </message>
     <message>
@@ -127,11 +127,11 @@ Capture</source>
         <source>Photo /
     Movie</source>
         <translation>תמונה /
-    סרט</translation>
+    סרטון</translation>
     </message>
     <message>
         <source>List the movies</source>
-        <translation>רשימת הסרטים</translation>
+        <translation>רשימת הסרטונים</translation>
     </message>
     <message>
         <source>Back</source>
@@ -167,7 +167,7 @@ Capture</source>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>המצלמה אינה תקינה. נא לוודא שההתקן מחובר כראוי. </translation>
+        <translation>המצלמה אינה זמינה. נא לוודא שההתקן מחובר כראוי. </translation>
     </message>
     <message>
         <source>Still</source>
@@ -190,7 +190,7 @@ Capture</source>
     </message>
     <message>
         <source>LIVE</source>
-        <translation>שידור חי</translation>
+        <translation>תצוגה חיה</translation>
     </message>
     <message>
         <source>Not Suport</source>
@@ -202,26 +202,26 @@ Capture</source>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>המצלמה אינה תקינה. נא לוודא שההתקן מחובר כראוי. </translation>
+        <translation>המצלמה אינה זמינה. נא לוודא שההתקן מחובר כראוי. </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>המצלמה והמיקרופון אינם תקינים. נא לוודא שההתקן מחובר כראוי. </translation>
+        <translation>המצלמה והמיקרופון אינם זמינים. נא לוודא שההתקן מחובר כראוי. </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>המיקרופון אינו תקין. נא לוודא שההתקן מחובר כראוי.</translation>
+        <translation>המיקרופון אינו זמין. נא לוודא שההתקן מחובר כראוי.</translation>
     </message>
 </context>
 <context>
     <name>MovieWidget</name>
     <message>
         <source>Movie</source>
-        <translation>סרט</translation>
+        <translation>סרטון</translation>
     </message>
     <message>
         <source>Plays a recorded movie</source>
-        <translation>ניגון סרט מוקלט</translation>
+        <translation>הפעלת סרטון מוקלט</translation>
     </message>
 </context>
 <context>
@@ -232,7 +232,7 @@ Capture</source>
     </message>
     <message>
         <source>Choose up to nine photos, or one movie</source>
-        <translation>יש לבחור עד תשע תמונות, או סרט אחד</translation>
+        <translation>יש לבחור עד תשע תמונות, או סרטון אחד</translation>
     </message>
     <message>
         <source>You can not select 10 or more.</source>
@@ -312,7 +312,7 @@ Capture</source>
     </message>
     <message>
         <source>Do you want to save the Photo / Movie data?</source>
-        <translation>האם לשמור את התמונות והסרטים?</translation>
+        <translation>האם לשמור את התמונות והסרטונים?</translation>
     </message>
     <message>
         <source>Yes</source>

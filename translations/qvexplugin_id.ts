@@ -35,11 +35,11 @@ Beruntun</translation>
     </message>
     <message>
         <source>Movie</source>
-        <translation>Film</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Record a movie with sound</source>
-        <translation>Rekam film dengan suara</translation>
+        <translation>Rekam video dengan suara</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -95,7 +95,7 @@ Beruntun</translation>
     </message>
     <message>
         <source>Play the movie</source>
-        <translation>Putar film</translation>
+        <translation>Putar video</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -103,7 +103,7 @@ Beruntun</translation>
     </message>
     <message>
         <source>Pause the movie</source>
-        <translation>Jeda film</translation>
+        <translation>Jeda video</translation>
     </message>
     <message>
         <source>View</source>
@@ -116,7 +116,7 @@ Beruntun</translation>
     <message>
         <source>Movie /
     Photo</source>
-        <translation>Film /
+        <translation>Video /
     Foto</translation>
     </message>
     <message>
@@ -127,11 +127,11 @@ Beruntun</translation>
         <source>Photo /
     Movie</source>
         <translation>Foto /
-    Film</translation>
+    Video</translation>
     </message>
     <message>
         <source>List the movies</source>
-        <translation>Tampilkan daftar film</translation>
+        <translation>Tampilkan daftar video</translation>
     </message>
     <message>
         <source>Back</source>
@@ -167,7 +167,7 @@ Beruntun</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Kamera tidak valid. Pastikan perangkat tersambung dengan benar. </translation>
+        <translation>Kamera tidak dapat digunakan. Pastikan perangkat tersambung dengan benar. </translation>
     </message>
     <message>
         <source>Still</source>
@@ -202,26 +202,26 @@ Beruntun</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Kamera tidak valid. Pastikan perangkat tersambung dengan benar. </translation>
+        <translation>Kamera tidak dapat digunakan. Pastikan perangkat tersambung dengan benar. </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Kamera dan mikrofon tidak valid. Pastikan perangkat tersambung dengan benar. </translation>
+        <translation>Kamera dan mikrofon tidak dapat digunakan. Pastikan perangkat tersambung dengan benar. </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>Mikrofon tidak valid. Pastikan perangkat tersambung dengan benar.</translation>
+        <translation>Mikrofon tidak dapat digunakan. Pastikan perangkat tersambung dengan benar.</translation>
     </message>
 </context>
 <context>
     <name>MovieWidget</name>
     <message>
         <source>Movie</source>
-        <translation>Film</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Plays a recorded movie</source>
-        <translation>Memutar film hasil rekaman</translation>
+        <translation>Memutar video hasil rekaman</translation>
     </message>
 </context>
 <context>
@@ -232,7 +232,7 @@ Beruntun</translation>
     </message>
     <message>
         <source>Choose up to nine photos, or one movie</source>
-        <translation>Pilih hingga sembilan foto, atau satu film</translation>
+        <translation>Pilih hingga sembilan foto, atau satu video</translation>
     </message>
     <message>
         <source>You can not select 10 or more.</source>
@@ -312,7 +312,7 @@ Beruntun</translation>
     </message>
     <message>
         <source>Do you want to save the Photo / Movie data?</source>
-        <translation>Simpan foto dan film?</translation>
+        <translation>Simpan foto dan video?</translation>
     </message>
     <message>
         <source>Yes</source>

@@ -75,7 +75,7 @@ seryjne</translation>
     </message>
     <message>
         <source>Accept</source>
-        <translation>Przyjmij</translation>
+        <translation>Akceptuj</translation>
     </message>
     <message>
         <source>Keep this photo</source>

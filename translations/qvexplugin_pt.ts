@@ -167,7 +167,7 @@ contínua</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>A câmara não é válida. Verifique se o dispositivo está bem ligado. </translation>
+        <translation>A câmara não está disponível. Verifique se o dispositivo está bem ligado. </translation>
     </message>
     <message>
         <source>Still</source>
@@ -202,15 +202,15 @@ contínua</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>A câmara não é válida. Verifique se o dispositivo está bem ligado. </translation>
+        <translation>A câmara não está disponível. Verifique se o dispositivo está bem ligado. </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>A câmara e o microfone não são válidos. Verifique se o dispositivo está bem ligado. </translation>
+        <translation>A câmara e o microfone não estão disponíveis. Verifique se o dispositivo está bem ligado. </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>O microfone não é válido. Verifique se o dispositivo está bem ligado.</translation>
+        <translation>O microfone não está disponível. Verifique se o dispositivo está bem ligado.</translation>
     </message>
 </context>
 <context>

@@ -35,11 +35,11 @@ contínua</translation>
     </message>
     <message>
         <source>Movie</source>
-        <translation>Filme</translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>Record a movie with sound</source>
-        <translation>Gravar um filme com som</translation>
+        <translation>Gravar um vídeo com som</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -95,7 +95,7 @@ contínua</translation>
     </message>
     <message>
         <source>Play the movie</source>
-        <translation>Reproduzir o filme</translation>
+        <translation>Reproduzir o vídeo</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -103,7 +103,7 @@ contínua</translation>
     </message>
     <message>
         <source>Pause the movie</source>
-        <translation>Pausar o filme</translation>
+        <translation>Pausar o vídeo</translation>
     </message>
     <message>
         <source>View</source>
@@ -116,7 +116,7 @@ contínua</translation>
     <message>
         <source>Movie /
     Photo</source>
-        <translation>Filme /
+        <translation>Vídeo /
     Foto</translation>
     </message>
     <message>
@@ -127,11 +127,11 @@ contínua</translation>
         <source>Photo /
     Movie</source>
         <translation>Foto /
-    Filme</translation>
+    Vídeo</translation>
     </message>
     <message>
         <source>List the movies</source>
-        <translation>Listar os filmes</translation>
+        <translation>Listar os vídeos</translation>
     </message>
     <message>
         <source>Back</source>
@@ -167,7 +167,7 @@ contínua</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>A câmera não é válida. Verifique se o dispositivo está conectado corretamente. </translation>
+        <translation>A câmera não está disponível. Verifique se o dispositivo está conectado corretamente. </translation>
     </message>
     <message>
         <source>Still</source>
@@ -202,26 +202,26 @@ contínua</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>A câmera não é válida. Verifique se o dispositivo está conectado corretamente. </translation>
+        <translation>A câmera não está disponível. Verifique se o dispositivo está conectado corretamente. </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>A câmera e o microfone não são válidos. Verifique se o dispositivo está conectado corretamente. </translation>
+        <translation>A câmera e o microfone não estão disponíveis. Verifique se o dispositivo está conectado corretamente. </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>O microfone não é válido. Verifique se o dispositivo está conectado corretamente.</translation>
+        <translation>O microfone não está disponível. Verifique se o dispositivo está conectado corretamente.</translation>
     </message>
 </context>
 <context>
     <name>MovieWidget</name>
     <message>
         <source>Movie</source>
-        <translation>Filme</translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>Plays a recorded movie</source>
-        <translation>Reproduz um filme gravado</translation>
+        <translation>Reproduz um vídeo gravado</translation>
     </message>
 </context>
 <context>
@@ -232,7 +232,7 @@ contínua</translation>
     </message>
     <message>
         <source>Choose up to nine photos, or one movie</source>
-        <translation>Escolha até nove fotos ou um filme</translation>
+        <translation>Escolha até nove fotos ou um vídeo</translation>
     </message>
     <message>
         <source>You can not select 10 or more.</source>
@@ -312,7 +312,7 @@ contínua</translation>
     </message>
     <message>
         <source>Do you want to save the Photo / Movie data?</source>
-        <translation>Deseja salvar as fotos e os filmes?</translation>
+        <translation>Deseja salvar as fotos e os vídeos?</translation>
     </message>
     <message>
         <source>Yes</source>

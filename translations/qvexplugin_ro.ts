@@ -167,7 +167,7 @@ continuă</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Camera nu este validă. Verificați dacă dispozitivul este conectat corect. </translation>
+        <translation>Camera nu este disponibilă. Verificați dacă dispozitivul este conectat corect. </translation>
     </message>
     <message>
         <source>Still</source>
@@ -202,15 +202,15 @@ continuă</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Camera nu este validă. Verificați dacă dispozitivul este conectat corect. </translation>
+        <translation>Camera nu este disponibilă. Verificați dacă dispozitivul este conectat corect. </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Camera și microfonul nu sunt valide. Verificați dacă dispozitivul este conectat corect. </translation>
+        <translation>Camera și microfonul nu sunt disponibile. Verificați dacă dispozitivul este conectat corect. </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>Microfonul nu este valid. Verificați dacă dispozitivul este conectat corect.</translation>
+        <translation>Microfonul nu este disponibil. Verificați dacă dispozitivul este conectat corect.</translation>
     </message>
 </context>
 <context>

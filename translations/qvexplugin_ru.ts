@@ -9,8 +9,7 @@
     </message>
     <message>
         <source>Live</source>
-        <translation>Прямой
-эфир</translation>
+        <translation>Камера</translation>
     </message>
     <message>
         <source>Back to the live picture</source>
@@ -191,7 +190,7 @@ Capture</source>
     </message>
     <message>
         <source>LIVE</source>
-        <translation>ПРЯМОЙ ЭФИР</translation>
+        <translation>КАМЕРА</translation>
     </message>
     <message>
         <source>Not Suport</source>
@@ -379,11 +378,11 @@ Capture</source>
     </message>
     <message>
         <source>Using the standard location</source>
-        <translation>Обычное место</translation>
+        <translation>Стандартная папка</translation>
     </message>
     <message>
         <source>Specify a destination</source>
-        <translation>Другое место</translation>
+        <translation>Другая папка</translation>
     </message>
     <message>
         <source>Save Directry:</source>
@@ -427,11 +426,11 @@ Capture</source>
     </message>
     <message>
         <source>Use default location</source>
-        <translation>Обычное место</translation>
+        <translation>Стандартная папка</translation>
     </message>
     <message>
         <source>Use other location</source>
-        <translation>Другое место</translation>
+        <translation>Другая папка</translation>
     </message>
     <message>
         <source>SaveDirectory</source>
@@ -439,7 +438,7 @@ Capture</source>
     </message>
     <message>
         <source>Please specify the save location.</source>
-        <translation>Укажите место сохранения.</translation>
+        <translation>Укажите папку сохранения.</translation>
     </message>
     <message>
         <source>Invalid PATH is specified.</source>

@@ -99,11 +99,11 @@ Capture</source>
     </message>
     <message>
         <source>Pause</source>
-        <translation>พัก</translation>
+        <translation>หยุดชั่วคราว</translation>
     </message>
     <message>
         <source>Pause the movie</source>
-        <translation>พักวิดีโอ</translation>
+        <translation>หยุดวิดีโอชั่วคราว</translation>
     </message>
     <message>
         <source>View</source>
@@ -320,7 +320,7 @@ Capture</source>
     </message>
     <message>
         <source>No</source>
-        <translation>ไม่</translation>
+        <translation>ไม่ใช่</translation>
     </message>
     <message>
         <source>Cancel</source>

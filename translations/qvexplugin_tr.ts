@@ -35,11 +35,11 @@ Capture</source>
     </message>
     <message>
         <source>Movie</source>
-        <translation>Film</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Record a movie with sound</source>
-        <translation>Sesli film kaydet</translation>
+        <translation>Sesli video kaydet</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -95,7 +95,7 @@ Capture</source>
     </message>
     <message>
         <source>Play the movie</source>
-        <translation>Filmi oynat</translation>
+        <translation>Videoyu oynat</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -103,7 +103,7 @@ Capture</source>
     </message>
     <message>
         <source>Pause the movie</source>
-        <translation>Filmi duraklat</translation>
+        <translation>Videoyu duraklat</translation>
     </message>
     <message>
         <source>View</source>
@@ -116,7 +116,7 @@ Capture</source>
     <message>
         <source>Movie /
     Photo</source>
-        <translation>Film /
+        <translation>Video /
     Fotoğraf</translation>
     </message>
     <message>
@@ -127,11 +127,11 @@ Capture</source>
         <source>Photo /
     Movie</source>
         <translation>Fotoğraf /
-    Film</translation>
+    Video</translation>
     </message>
     <message>
         <source>List the movies</source>
-        <translation>Filmleri listele</translation>
+        <translation>Videoları listele</translation>
     </message>
     <message>
         <source>Back</source>
@@ -217,11 +217,11 @@ Capture</source>
     <name>MovieWidget</name>
     <message>
         <source>Movie</source>
-        <translation>Film</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Plays a recorded movie</source>
-        <translation>Kaydedilmiş bir filmi oynatır</translation>
+        <translation>Kaydedilmiş bir videoyu oynatır</translation>
     </message>
 </context>
 <context>
@@ -232,7 +232,7 @@ Capture</source>
     </message>
     <message>
         <source>Choose up to nine photos, or one movie</source>
-        <translation>En çok dokuz fotoğraf veya bir film seçin</translation>
+        <translation>En çok dokuz fotoğraf veya bir video seçin</translation>
     </message>
     <message>
         <source>You can not select 10 or more.</source>
@@ -312,7 +312,7 @@ Capture</source>
     </message>
     <message>
         <source>Do you want to save the Photo / Movie data?</source>
-        <translation>Fotoğrafları ve filmleri kaydetmek istiyor musunuz?</translation>
+        <translation>Fotoğrafları ve videoları kaydetmek istiyor musunuz?</translation>
     </message>
     <message>
         <source>Yes</source>

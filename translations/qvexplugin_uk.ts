@@ -378,11 +378,11 @@ Capture</source>
     </message>
     <message>
         <source>Using the standard location</source>
-        <translation>Звичайне місце</translation>
+        <translation>Стандартна папка</translation>
     </message>
     <message>
         <source>Specify a destination</source>
-        <translation>Інше місце</translation>
+        <translation>Інша папка</translation>
     </message>
     <message>
         <source>Save Directry:</source>
@@ -426,11 +426,11 @@ Capture</source>
     </message>
     <message>
         <source>Use default location</source>
-        <translation>Звичайне місце</translation>
+        <translation>Стандартна папка</translation>
     </message>
     <message>
         <source>Use other location</source>
-        <translation>Інше місце</translation>
+        <translation>Інша папка</translation>
     </message>
     <message>
         <source>SaveDirectory</source>
@@ -438,7 +438,7 @@ Capture</source>
     </message>
     <message>
         <source>Please specify the save location.</source>
-        <translation>Укажіть місце збереження.</translation>
+        <translation>Укажіть папку збереження.</translation>
     </message>
     <message>
         <source>Invalid PATH is specified.</source>

@@ -35,11 +35,11 @@ liên tục</translation>
     </message>
     <message>
         <source>Movie</source>
-        <translation>Phim</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Record a movie with sound</source>
-        <translation>Quay phim có âm thanh</translation>
+        <translation>Quay video có âm thanh</translation>
     </message>
     <message>
         <source>Stop</source>
@@ -47,7 +47,7 @@ liên tục</translation>
     </message>
     <message>
         <source>End the recording</source>
-        <translation>Kết thúc quay phim</translation>
+        <translation>Kết thúc quay video</translation>
     </message>
     <message>
         <source>List</source>
@@ -95,7 +95,7 @@ liên tục</translation>
     </message>
     <message>
         <source>Play the movie</source>
-        <translation>Phát phim</translation>
+        <translation>Phát video</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -103,7 +103,7 @@ liên tục</translation>
     </message>
     <message>
         <source>Pause the movie</source>
-        <translation>Tạm dừng phim</translation>
+        <translation>Tạm dừng video</translation>
     </message>
     <message>
         <source>View</source>
@@ -116,7 +116,7 @@ liên tục</translation>
     <message>
         <source>Movie /
     Photo</source>
-        <translation>Phim /
+        <translation>Video /
     Ảnh</translation>
     </message>
     <message>
@@ -127,11 +127,11 @@ liên tục</translation>
         <source>Photo /
     Movie</source>
         <translation>Ảnh /
-    Phim</translation>
+    Video</translation>
     </message>
     <message>
         <source>List the movies</source>
-        <translation>Liệt kê các phim</translation>
+        <translation>Liệt kê các video</translation>
     </message>
     <message>
         <source>Back</source>
@@ -155,7 +155,7 @@ liên tục</translation>
     </message>
     <message>
         <source>Cannot find Video / Audio Devices.</source>
-        <translation>Không tìm thấy máy ảnh và micrô.</translation>
+        <translation>Không tìm thấy camera và micrô.</translation>
     </message>
     <message>
         <source>Cannot find Audio Devices.</source>
@@ -163,11 +163,11 @@ liên tục</translation>
     </message>
     <message>
         <source>Cannot find Video Devices.</source>
-        <translation>Không tìm thấy máy ảnh.</translation>
+        <translation>Không tìm thấy camera.</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Máy ảnh không hợp lệ. Vui lòng kiểm tra xem thiết bị đã được kết nối đúng chưa. </translation>
+        <translation>Không dùng được camera. Vui lòng kiểm tra xem thiết bị đã được kết nối đúng chưa. </translation>
     </message>
     <message>
         <source>Still</source>
@@ -186,7 +186,7 @@ liên tục</translation>
     </message>
     <message>
         <source>What the camera sees now</source>
-        <translation>Những gì máy ảnh đang thấy</translation>
+        <translation>Những gì camera đang thấy</translation>
     </message>
     <message>
         <source>LIVE</source>
@@ -198,30 +198,30 @@ liên tục</translation>
     </message>
     <message>
         <source>Cannot find Video Devices.</source>
-        <translation>Không tìm thấy máy ảnh.</translation>
+        <translation>Không tìm thấy camera.</translation>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Máy ảnh không hợp lệ. Vui lòng kiểm tra xem thiết bị đã được kết nối đúng chưa. </translation>
+        <translation>Không dùng được camera. Vui lòng kiểm tra xem thiết bị đã được kết nối đúng chưa. </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>Máy ảnh và micrô không hợp lệ. Vui lòng kiểm tra xem thiết bị đã được kết nối đúng chưa. </translation>
+        <translation>Không dùng được camera và micrô. Vui lòng kiểm tra xem thiết bị đã được kết nối đúng chưa. </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>Micrô không hợp lệ. Vui lòng kiểm tra xem thiết bị đã được kết nối đúng chưa.</translation>
+        <translation>Không dùng được micrô. Vui lòng kiểm tra xem thiết bị đã được kết nối đúng chưa.</translation>
     </message>
 </context>
 <context>
     <name>MovieWidget</name>
     <message>
         <source>Movie</source>
-        <translation>Phim</translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Plays a recorded movie</source>
-        <translation>Phát một phim đã quay</translation>
+        <translation>Phát một video đã quay</translation>
     </message>
 </context>
 <context>
@@ -232,7 +232,7 @@ liên tục</translation>
     </message>
     <message>
         <source>Choose up to nine photos, or one movie</source>
-        <translation>Chọn tối đa chín ảnh hoặc một phim</translation>
+        <translation>Chọn tối đa chín ảnh hoặc một video</translation>
     </message>
     <message>
         <source>You can not select 10 or more.</source>
@@ -312,7 +312,7 @@ liên tục</translation>
     </message>
     <message>
         <source>Do you want to save the Photo / Movie data?</source>
-        <translation>Bạn có muốn lưu ảnh và phim không?</translation>
+        <translation>Bạn có muốn lưu ảnh và video không?</translation>
     </message>
     <message>
         <source>Yes</source>
@@ -343,7 +343,7 @@ liên tục</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation>Máy ảnh</translation>
+        <translation>Camera</translation>
     </message>
 </context>
 <context>

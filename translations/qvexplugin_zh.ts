@@ -166,7 +166,7 @@ Capture</source>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>摄像头无效。请确认设备是否正确连接。 </translation>
+        <translation>摄像头无法使用。请确认设备是否正确连接。 </translation>
     </message>
     <message>
         <source>Still</source>
@@ -201,15 +201,15 @@ Capture</source>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>摄像头无效。请确认设备是否正确连接。 </translation>
+        <translation>摄像头无法使用。请确认设备是否正确连接。 </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>摄像头和麦克风无效。请确认设备是否正确连接。 </translation>
+        <translation>摄像头和麦克风无法使用。请确认设备是否正确连接。 </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>麦克风无效。请确认设备是否正确连接。</translation>
+        <translation>麦克风无法使用。请确认设备是否正确连接。</translation>
     </message>
 </context>
 <context>

@@ -166,7 +166,7 @@ Capture</source>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>攝影機無效。請確認裝置是否已正確連接。 </translation>
+        <translation>攝影機無法使用。請確認裝置是否已正確連接。 </translation>
     </message>
     <message>
         <source>Still</source>
@@ -201,15 +201,15 @@ Capture</source>
     </message>
     <message>
         <source>The video device is invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>攝影機無效。請確認裝置是否已正確連接。 </translation>
+        <translation>攝影機無法使用。請確認裝置是否已正確連接。 </translation>
     </message>
     <message>
         <source>The video device and the audio device are invalid. Please confirm whether the device is correctly connected. </source>
-        <translation>攝影機和麥克風無效。請確認裝置是否已正確連接。 </translation>
+        <translation>攝影機和麥克風無法使用。請確認裝置是否已正確連接。 </translation>
     </message>
     <message>
         <source>The audio device is invalid. Please confirm whether the device is correctly connected.</source>
-        <translation>麥克風無效。請確認裝置是否已正確連接。</translation>
+        <translation>麥克風無法使用。請確認裝置是否已正確連接。</translation>
     </message>
 </context>
 <context>

@@ -114,7 +114,7 @@ void StartLanguagesTest::addStoredLanguages()
     QTest::addColumn<bool>("isRightToLeft");
     QTest::newRow("German") << "de"
                             << ""
-                            << "Einstellungen" << false;
+                            << "Optionen" << false;
     QTest::newRow("Brazilian with Portuguese only") << "pt_BR"
                                                     << "pt_BR"
                                                     << "Definições" << false;
