@@ -6,20 +6,17 @@
 //
 // Runs in a lab with the one camera "bench"; prints one number.
 
-#include "LabPattern.h"
 #include "LiveVideoData.h"
+#include "ScreenWatch.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFrame>
-#include <QScreen>
-#include <QSet>
 #include <QTimer>
 
 #include <gst/gst.h>
 
 #include <cstdio>
-#include <cstring>
 #include <sys/resource.h>
 
 namespace {
@@ -94,44 +91,19 @@ int measureBareChain(int seconds)
     return 0;
 }
 
-// The number of the frame on the screen, from one row of it.
-int frameOnScreen(const QRect &place)
-{
-    const QImage row = QApplication::primaryScreen()
-                           ->grabWindow(0, place.x(), place.center().y(), place.width(), 1)
-                           .toImage()
-                           .convertToFormat(QImage::Format_RGB32);
-    QImage picture(row.width(), 3, QImage::Format_RGB32);
-    for (int y = 0; y < picture.height(); ++y)
-        std::memcpy(picture.scanLine(y), row.constScanLine(0), size_t(picture.bytesPerLine()));
-    return LabPattern::counterOf(picture);
-}
-
 int countDrops(int seconds)
 {
     QFrame target(nullptr, Qt::FramelessWindowHint);
     LiveVideoData engine;
     if (!startEngine(engine, target))
         return 1;
-    QSet<int> seen;
-    int first = -1;
-    int last = -1;
-    QTimer look;
-    look.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&look, &QTimer::timeout, [&] {
-        const int frame = frameOnScreen(target.geometry());
-        if (frame < 0)
-            return;
-        first = first < 0 ? frame : first;
-        last = frame;
-        seen.insert(frame);
-    });
-    QTimer::singleShot(settleTime, &look, [&look] { look.start(4); });
+    ScreenWatch watch(&target);
+    QTimer::singleShot(settleTime, &watch, [&watch] { watch.restart(); });
     QTimer::singleShot(settleTime + seconds * 1000, qApp, &QApplication::quit);
     QApplication::exec();
-    if (seen.size() < seconds * 10)
+    if (watch.shown() < seconds * 10)
         return 1;
-    std::printf("%d\n", int(last - first + 1 - seen.size()));
+    std::printf("%d\n", watch.dropped());
     return 0;
 }
 
