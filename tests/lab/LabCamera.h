@@ -22,7 +22,7 @@ struct spa_source;
 // buffers to itself therefore sees a gap, and so does one that is too slow; a receiver that keeps
 // up sees every number once. A freeze stops the counter too.
 //
-// With a sink for its sound, a tone (LabBeep) begins with every 60th frame.
+// With a sink for its sound, a tone (LabBeep) begins with every marked frame.
 //
 // Everything runs on the thread that calls run().
 class LabCamera {

@@ -85,6 +85,9 @@ QRgb colourAt(double x, double y, quint32 counter, QRgb ground)
     if (y < bandEdges[2]) {
         return cellIsWhite(int(x * cellCount), counter) ? 0xffffffff : 0xff000000;
     }
+    if (y < bandEdges[3]) {
+        return counter % beatFrames == 0 ? 0xffffffff : ground;
+    }
     const bool blockRow = y >= bandEdges[3] && y < bandEdges[4];
     if (blockRow && std::abs(x - blockCentre(counter)) < blockWidth / 2) {
         return blockColour();
@@ -110,6 +113,16 @@ int counterOf(const QImage &picture)
         }
     }
     return int(counter);
+}
+
+bool isMarked(const QImage &picture)
+{
+    constexpr double strip = (bandEdges[2] + bandEdges[3]) / 2;
+    const auto isWhite = [&picture](double x) {
+        const QRgb colour = pixelAt(picture, x, strip);
+        return std::min({qRed(colour), qGreen(colour), qBlue(colour)}) > 200;
+    };
+    return !picture.isNull() && isWhite(0.25) && isWhite(0.5) && isWhite(0.75);
 }
 
 QImage frame(int width, int height, quint32 counter, QRgb ground)

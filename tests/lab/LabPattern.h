@@ -15,7 +15,8 @@ class QImage;
 //   upper third   eight bars of full colour: white, yellow, cyan, green, magenta, red, blue, black
 //   middle third  24 black or white cells, the frame's number: a white and a black cell as guards,
 //                 20 bits with the highest first, and two check cells that always differ
-//   lower third   the camera's own ground colour, and an orange block that moves with each frame
+//   lower third   a strip that is white in every 60th frame, the marked one; else all of it is the
+//                 camera's own ground colour, with an orange block that moves with each frame
 //
 // Where a camera sends luma and chroma, it uses limited range and the matrix that receivers assume
 // when nothing is said: BT.709 above 576 lines, BT.601 up to there.
@@ -24,7 +25,7 @@ namespace LabPattern {
 constexpr int barCount = 8;
 constexpr int cellCount = 24;
 constexpr int counterBits = 20;
-constexpr quint32 beatFrames = 60; // a camera with sound begins a tone with every 60th frame
+constexpr quint32 beatFrames = 60; // the marked frames; with sound, a tone begins with each
 constexpr int blockSteps = 120; // frames that the moving block takes from left to right
 
 // Every row between two neighbouring edges looks the same.
@@ -45,6 +46,9 @@ bool cellIsWhite(int cell, quint32 counter);
 // The frame's number as read from the cells of a picture that fills the image; -1 when the guards
 // or the check cells are wrong, as in a black, torn or foreign picture.
 int counterOf(const QImage &picture);
+
+// Whether the picture is that of a marked frame, by its white strip.
+bool isMarked(const QImage &picture);
 
 // The whole frame as it should be seen.
 QImage frame(int width, int height, quint32 counter, QRgb ground);

@@ -117,7 +117,9 @@ void MovieFile::decode(const QString &path)
             gst_app_sink_try_pull_sample(GST_APP_SINK(frames.get()), 10 * GST_SECOND));
         if (!sample)
             break;
-        m_frames.append({LabPattern::counterOf(pictureOf(sample.get())), timeOf(sample.get())});
+        const QImage picture = pictureOf(sample.get());
+        m_frames.append(
+            {LabPattern::counterOf(picture), LabPattern::isMarked(picture), timeOf(sample.get())});
     }
     gint64 length = 0;
     if (gst_element_query_duration(chain.get(), GST_FORMAT_TIME, &length))
@@ -190,15 +192,24 @@ int MovieFile::longestRepeat() const
     return longest;
 }
 
+QVector<double> MovieFile::flashes() const
+{
+    QVector<double> times;
+    for (int i = 0; i < m_frames.size(); ++i) {
+        if (m_frames[i].marked && (i == 0 || !m_frames[i - 1].marked))
+            times.append(m_frames[i].time);
+    }
+    return times;
+}
+
 QVector<double> MovieFile::soundDelays() const
 {
     QVector<double> delays;
-    for (const Frame &frame : m_frames) {
-        if (frame.counter < 0 || frame.counter % int(LabPattern::beatFrames) != 0)
-            continue;
+    const QVector<double> seen = flashes();
+    for (const double flash : seen) {
         for (const double tone : m_tones) {
-            if (qAbs(tone - frame.time) < 0.5)
-                delays.append(tone - frame.time);
+            if (qAbs(tone - flash) < 0.5)
+                delays.append(tone - flash);
         }
     }
     return delays;

@@ -14,6 +14,7 @@ class MovieFile {
 public:
     struct Frame {
         int counter; ///< the lab camera's number of it, -1 when it cannot be read
+        bool marked; ///< the white strip of a marked frame is seen
         double time; ///< s, when it is shown
     };
 
@@ -33,7 +34,8 @@ public:
     int missingFrames() const;
     /// The longest time that one camera frame stands still, in frames of the movie.
     int longestRepeat() const;
-    /// How much later each tone is heard than the frame that it belongs to is seen (s).
+    QVector<double> flashes() const; ///< s, when each marked frame is first seen
+    /// How much later each tone is heard than the flash that it belongs to is seen (s).
     QVector<double> soundDelays() const;
 
 private:

@@ -138,6 +138,7 @@ class TestLab : public QObject {
 private slots:
     void initTestCase();
     void theCounterCanBeReadBackFromEveryFrame();
+    void everySixtiethFrameIsMarked();
     void aForeignPictureHasNoCounter();
     void aCameraKeepsItsPaceAndLosesNoFrame_data();
     void aCameraKeepsItsPaceAndLosesNoFrame();
@@ -165,6 +166,20 @@ void TestLab::theCounterCanBeReadBackFromEveryFrame()
         QCOMPARE(LabPattern::worstDifference(picture, LabPattern::groundOf("cam1")), 0);
         QCOMPARE(LabPattern::counterOf(picture.scaled(96, 54)), int(counter));
     }
+}
+
+void TestLab::everySixtiethFrameIsMarked()
+{
+    for (const QString camera : {"cam1", "cam2", "beeper"}) {
+        int marked = 0;
+        for (quint32 counter = 0; counter < 180; ++counter) {
+            const QImage picture = LabPattern::frame(96, 54, counter, LabPattern::groundOf(camera));
+            QCOMPARE(LabPattern::isMarked(picture), counter % LabPattern::beatFrames == 0);
+            marked += LabPattern::isMarked(picture);
+        }
+        QCOMPARE(marked, 3);
+    }
+    QVERIFY(!LabPattern::isMarked(QImage()));
 }
 
 void TestLab::aForeignPictureHasNoCounter()
@@ -288,7 +303,8 @@ void TestLab::theToneIsHeardWhenItsFrameIsSeen()
     while (seen.size() < 2) {
         const QImage picture = receiver.next(5000);
         QVERIFY(!picture.isNull());
-        if (LabPattern::counterOf(picture) % int(LabPattern::beatFrames) == 0) {
+        if (LabPattern::isMarked(picture)) {
+            QCOMPARE(LabPattern::counterOf(picture) % int(LabPattern::beatFrames), 0);
             seen.append(receiver.lastTime());
         }
     }
