@@ -62,15 +62,16 @@ double timeOf(GstSample *sample)
 } // namespace
 
 MovieFile::MovieFile(const QString &path)
+    : m_path(path)
 {
     gst_init(nullptr, nullptr);
-    readBoxes(path);
-    decode(path);
+    readBoxes();
+    decode();
 }
 
-void MovieFile::readBoxes(const QString &path)
+void MovieFile::readBoxes()
 {
-    QFile file(path);
+    QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly))
         return;
     qint64 at = 0;
@@ -87,7 +88,7 @@ void MovieFile::readBoxes(const QString &path)
     }
 }
 
-void MovieFile::decode(const QString &path)
+void MovieFile::decode()
 {
     gst_debug_set_default_threshold(GST_LEVEL_WARNING);
     gst_debug_remove_log_function(gst_debug_log_default);
@@ -109,7 +110,7 @@ void MovieFile::decode(const QString &path)
     const GstObjectHandle<GstElement> file(gst_bin_get_by_name(GST_BIN(chain.get()), "file"));
     const GstObjectHandle<GstElement> frames(gst_bin_get_by_name(GST_BIN(chain.get()), "frames"));
     const GstObjectHandle<GstElement> sound(gst_bin_get_by_name(GST_BIN(chain.get()), "sound"));
-    g_object_set(file.get(), "location", QFile::encodeName(path).constData(), nullptr);
+    g_object_set(file.get(), "location", QFile::encodeName(m_path).constData(), nullptr);
     gst_element_set_state(chain.get(), GST_STATE_PLAYING);
 
     while (true) {

@@ -20,6 +20,7 @@ public:
 
     explicit MovieFile(const QString &path);
 
+    const QString &path() const { return m_path; }
     /// Names of the outermost boxes, in order: "ftyp", "moov", "mdat" and such.
     const QStringList &boxes() const { return m_boxes; }
     double duration() const { return m_duration; } ///< s, as its header says
@@ -39,9 +40,10 @@ public:
     QVector<double> soundDelays() const;
 
 private:
-    void readBoxes(const QString &path);
-    void decode(const QString &path);
+    void readBoxes();
+    void decode();
 
+    const QString m_path;
     QStringList m_boxes;
     double m_duration = 0;
     double m_soundDuration = 0;

@@ -1,6 +1,7 @@
 // A movie as a person makes and watches it, and what becomes of one whose program is closed.
 
 #include "LabPattern.h"
+#include "MovieProbe.h"
 #include "Session.h"
 
 #include <QApplication>
@@ -74,6 +75,7 @@ void MoviesTest::aMovieIsRecordedAndPlayedTwice()
     QCOMPARE(movies(user).size(), 1);
     const QString still = QString(movies(user).first()).replace(".mov", "tmp.png");
     QVERIFY(LabPattern::counterOf(QImage(still)) >= 0);
+    QCOMPARE(MovieProbe(movies(user).first()).complaints(), QString());
     const QImage unplayed = timeLine(user);
 
     for (int showing = 0; showing < 2; ++showing) {
@@ -121,6 +123,7 @@ void MoviesTest::aMovieSurvivesTheEndOfTheProgram()
     QVERIFY(!user.program().hasCrashed());
     QCOMPARE(user.program().exitStatus(), 0);
     QCOMPARE(movies(user).size(), 1);
+    QCOMPARE(MovieProbe(movies(user).first()).complaints(), QString());
 
     Phonon::VideoPlayer player(Phonon::VideoCategory);
     player.play(Phonon::MediaSource(QUrl::fromLocalFile(movies(user).first())));
