@@ -227,6 +227,8 @@ private:
     QStringList m_seriesList; ///< bare names of the series' photos, in order
 
     // --- MovieFlow.cpp ---------------------------------------------------------------------
+    void showMovieLength(qint64 total);
+
     bool m_recording = false;
     QString m_moviePath; ///< full path of the movie last recorded or shown
 

@@ -9,6 +9,8 @@
 #include "MovieWidget.h"
 #include "TimerWidget.h"
 
+#include <phonon/mediaobject.h>
+
 namespace {
 
 // Minutes and seconds of a length in milliseconds, each at least two digits.
@@ -75,6 +77,14 @@ void CVistrelDlg::setMovieTime()
         m_timerWidget->Stop();
 }
 
+// The player learns how long a movie is a moment after it began, and the next tick is a second
+// away.
+void CVistrelDlg::showMovieLength(qint64 total)
+{
+    if (total > 0 && !button(MoviePauseButton)->isHidden())
+        setMovieTime();
+}
+
 void CVistrelDlg::showPlayButton()
 {
     button(MoviePauseButton)->hide();
@@ -89,6 +99,8 @@ void CVistrelDlg::OnMoviePlay()
         m_movieView->Stop();
     }
     m_timerWidget->show();
+    connect(m_movieView->mediaObject(), &Phonon::MediaObject::totalTimeChanged, this,
+            &CVistrelDlg::showMovieLength, Qt::UniqueConnection);
     m_movieView->Play();
     m_timerWidget->run();
     button(MoviePlayButton)->hide();

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void aCameraLostWhileRecordingKeepsTheMovie();
     void closingTheWindowWhileRecordingReleasesTheCamera();
     void theTimeIsRoundedToTheNearestSecond();
+    void theLengthIsShownAsSoonAsItIsKnown();
     void playPauseAndTheEndOfAMovie();
     void playAfterTheEndBeginsAgain();
     void aMovieThatCannotBePlayedLeavesTheScreenUsable();
@@ -229,6 +230,27 @@ void MovieFlowTest::theTimeIsRoundedToTheNearestSecond()
     QTRY_VERIFY_WITH_TIMEOUT(qAbs(movie.currentTime() - 59600) < 100, patience);
     dialog.setMovieTime();
     QCOMPARE(fixture.child<TimerWidget>().text(), QString("01:00/01:01"));
+}
+
+void MovieFlowTest::theLengthIsShownAsSoonAsItIsKnown()
+{
+    DialogFixture fixture;
+    FakeEngine::script().movie = movieOf(120);
+    fixture.build();
+    fixture.click("Movie");
+    fixture.click("MovieStop");
+    auto &time = fixture.child<TimerWidget>();
+    time.setTickInterval(1000000); // the press of "Play" is the only tick
+    QCOMPARE(time.text(), QString());
+    fixture.click("MoviePlay");
+    QTRY_COMPARE_WITH_TIMEOUT(time.text(), QString("00:00/00:12"), patience);
+    // Not where no movie is being played for the user.
+    fixture.click("Live");
+    time.setText(QString());
+    auto &movie = fixture.child<MovieWidget>();
+    movie.Play();
+    QTRY_VERIFY_WITH_TIMEOUT(movie.isPlaying() && movie.totalTime() > 0, patience);
+    QCOMPARE(time.text(), QString());
 }
 
 void MovieFlowTest::playPauseAndTheEndOfAMovie()
