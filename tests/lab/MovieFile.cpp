@@ -208,10 +208,12 @@ QVector<double> MovieFile::soundDelays() const
     QVector<double> delays;
     const QVector<double> seen = flashes();
     for (const double flash : seen) {
-        for (const double tone : m_tones) {
-            if (qAbs(tone - flash) < 0.5)
-                delays.append(tone - flash);
-        }
+        const auto nearest =
+            std::min_element(m_tones.begin(), m_tones.end(), [flash](double a, double b) {
+                return qAbs(a - flash) < qAbs(b - flash);
+            });
+        if (nearest != m_tones.end() && qAbs(*nearest - flash) < 0.5)
+            delays.append(*nearest - flash);
     }
     return delays;
 }

@@ -36,7 +36,7 @@ public:
     /// The longest time that one camera frame stands still, in frames of the movie.
     int longestRepeat() const;
     QVector<double> flashes() const; ///< s, when each marked frame is first seen
-    /// How much later each tone is heard than the flash that it belongs to is seen (s).
+    /// How much later than each flash the tone is heard that belongs to it (s).
     QVector<double> soundDelays() const;
 
 private:
