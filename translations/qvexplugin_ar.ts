@@ -453,11 +453,11 @@ Capture</source>
     </message>
     <message>
         <source> second to capture</source>
-        <translation> ثانية حتى الالتقاط</translation>
+        <translation> ث حتى الالتقاط</translation>
     </message>
     <message>
         <source>0 second to capture  </source>
-        <translation> 00 ثانية حتى الالتقاط  </translation>
+        <translation> 00 ث حتى الالتقاط  </translation>
     </message>
 </context>
 </TS>

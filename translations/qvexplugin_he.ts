@@ -453,11 +453,11 @@ Capture</source>
     </message>
     <message>
         <source> second to capture</source>
-        <translation> שניות עד הצילום</translation>
+        <translation> שנ׳ עד הצילום</translation>
     </message>
     <message>
         <source>0 second to capture  </source>
-        <translation> 00 שניות עד הצילום  </translation>
+        <translation> 00 שנ׳ עד הצילום  </translation>
     </message>
 </context>
 </TS>
