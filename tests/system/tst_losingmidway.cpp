@@ -120,13 +120,13 @@ void TestLosingMidway::expectOnlyListAndExit()
 
 void TestLosingMidway::expectTheWayBack()
 {
+    QVERIFY(labctl({"plug", "cam1", "1280x720"}));
     QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "List"));
     expectLiveAgainFrom(WindowMap::ListScreen);
 }
 
 void TestLosingMidway::expectLiveAgainFrom(WindowMap::Screen screen)
 {
-    QVERIFY(labctl({"plug", "cam1", "1280x720"}));
     QVERIFY(m_user->pressWhenReady(screen, "Live"));
     QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
     QVERIFY(m_user->waitForPressable(
@@ -189,6 +189,7 @@ void TestLosingMidway::whileRecording()
     // To the last half second; the very last frame is not waited for, the player leaves it at once.
     QTRY_VERIFY_WITH_TIMEOUT(m_user->counterAt(map.videoRect()) > filmed - 15, patienceMs);
     QCOMPARE(m_user->program().captured().size(), 2);
+    QVERIFY(labctl({"plug", "cam1", "1280x720"}));
     expectLiveAgainFrom(WindowMap::MovieScreen);
 }
 
