@@ -1,6 +1,7 @@
 #include "CTranslator.h"
 #include "CVistrelDlg.h"
 #include "LayoutScale.h"
+#include "PlainButtons.h"
 #include "QtSingleApplication.h"
 #include "SignalWatcher.h"
 
@@ -26,6 +27,7 @@ int main(int argc, char **argv)
     // can be tried by starting from beside it.
     QCoreApplication::addLibraryPath(QDir(QDir::currentPath()).absolutePath() + "/plugins/");
     translate();
+    QApplication::setStyle(new PlainButtons);
 
     CVistrelDlg dialog;
     if (!dialog.isDeviceSelected()) {

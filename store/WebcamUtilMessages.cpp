@@ -2,9 +2,7 @@
 
 #include "WebcamUtil.h"
 
-#include <QAbstractButton>
 #include <QGuiApplication>
-#include <QIcon>
 #include <QScreen>
 
 namespace {
@@ -60,8 +58,6 @@ void WebcamUtil::showMessage(QMessageBox::Icon icon, const QString &text, QWidge
 {
     CentredMessageBox box(icon, QObject::tr("Orvanta"), text, QMessageBox::Ok, parent,
                           Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-    // Where texts are read from the right, the toolkit pushes a caption beside an icon to the rim.
-    box.button(QMessageBox::Ok)->setIcon(QIcon());
     moveToCenter(&box, parent);
     box.exec();
 }

@@ -1,11 +1,12 @@
 #include "Session.h"
 
 #include "LabPattern.h"
+#include "PlainButtons.h"
 #include "SaveConfirmDlg.h"
 #include "Setting.h"
 #include "WebcamUtil.h"
 
-#include <QLabel>
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -24,6 +25,7 @@ Session::Session(const QString &executable, const QString &cameraName, QSize cam
     , m_map(m_desktop.screen().size(), cameraSize)
     , m_ground(LabPattern::groundOf(cameraName))
 {
+    QApplication::setStyle(new PlainButtons); // of the program, for the twins of its boxes
 }
 
 bool Session::startLive()
@@ -172,7 +174,6 @@ void Session::prepareTwin(QMessageBox *box) const
     box->setText(m_messageText);
     box->setStandardButtons(QMessageBox::Ok);
     box->button(QMessageBox::Ok)->setText(m_confirmText);
-    box->button(QMessageBox::Ok)->setIcon(QIcon());
     box->setAttribute(Qt::WA_DontShowOnScreen);
     // Long texts break into lines by the size the box has before it is shown.
     WebcamUtil::moveToCenter(box, nullptr);
