@@ -87,6 +87,12 @@ static std::vector<Source> &sources()
     return *shared;
 }
 
+// What listens to the microphone asks the same server, so it alone knows whether there is one.
+static const Source &soundServer()
+{
+    return sources().back();
+}
+
 static void beginToStart(Source &source)
 {
     source.answer = std::make_shared<ProviderHandle>();
@@ -126,16 +132,22 @@ void DeviceProviders::start(std::chrono::milliseconds limit)
     }
 }
 
+static QVector<GstDeviceHandle> devicesOf(const Source &source)
+{
+    QVector<GstDeviceHandle> devices;
+    GList *list =
+        source.provider ? gst_device_provider_get_devices(source.provider.get()) : nullptr;
+    for (GList *entry = list; entry; entry = entry->next)
+        devices.append(GstDeviceHandle(GST_DEVICE(entry->data), GstObjectUnref()));
+    g_list_free(list);
+    return devices;
+}
+
 static QVector<GstDeviceHandle> devices()
 {
     QVector<GstDeviceHandle> all;
-    for (const Source &source : sources()) {
-        GList *list =
-            source.provider ? gst_device_provider_get_devices(source.provider.get()) : nullptr;
-        for (GList *entry = list; entry; entry = entry->next)
-            all.append(GstDeviceHandle(GST_DEVICE(entry->data), GstObjectUnref()));
-        g_list_free(list);
-    }
+    for (const Source &source : sources())
+        all += devicesOf(source);
     return all;
 }
 
@@ -203,9 +215,14 @@ bool DeviceProviders::contains(const GstDeviceHandle &device)
     });
 }
 
+bool DeviceProviders::hasSoundServer()
+{
+    return soundServer().provider || soundServer().task;
+}
+
 bool DeviceProviders::hasMicrophone()
 {
-    const QVector<GstDeviceHandle> all = devices();
+    const QVector<GstDeviceHandle> all = devicesOf(soundServer());
     return std::any_of(all.begin(), all.end(), [](const GstDeviceHandle &device) {
         if (!gst_device_has_classes(device.get(), "Audio/Source"))
             return false;

@@ -42,7 +42,10 @@ public:
     /// Whether the very device that was listed before is still there.
     static bool contains(const GstDeviceHandle &device);
 
-    /// Whether there is a sound source other than a loudspeaker's monitor.
+    /// Whether there is a sound server; one that does not answer counts.
+    static bool hasSoundServer();
+
+    /// Whether the sound server has a source other than a loudspeaker's monitor.
     static bool hasMicrophone();
 
 private:

@@ -12,12 +12,14 @@
 #include "ModeChooser.h"
 #include "MovieMaker.h"
 #include "PictureConverter.h"
+#include "SoundCard.h"
 #include "StillWriter.h"
 #include "TargetPainter.h"
 
 #include <QElapsedTimer>
 
 static const std::chrono::milliseconds listLimit(1900); // the promise is 2 s
+static const std::chrono::milliseconds soundCardLimit(1000);
 static const int openLimit = 5000; // ms
 static const std::chrono::milliseconds quickListLimit(300); // when a movie waits for it
 
@@ -54,6 +56,7 @@ public:
     Camera camera;
     bool showing = false;
     MovieMaker movie;
+    SoundCard soundCard{[this] { movie.devicesChanged(); }}; ///< asked without a sound server only
 };
 
 static QVector<ListedDevice> devicesOf(const QVector<Camera> &cameras)
@@ -281,7 +284,7 @@ void LiveVideoData::Record(const QString &path)
     if (!frame)
         return;
     DeviceProviders::start(quickListLimit);
-    if (DeviceProviders::hasMicrophone())
+    if (!DeviceProviders::hasSoundServer() || DeviceProviders::hasMicrophone())
         d->movie.record(path, frame->picture().info);
 }
 
@@ -300,7 +303,10 @@ bool LiveVideoData::IsValidAudioDevice()
     if (!gstreamerIsReady())
         return false;
     DeviceProviders::start(listLimit);
-    return DeviceProviders::hasMicrophone() && d->movie.hasSound();
+    if (DeviceProviders::hasSoundServer())
+        return DeviceProviders::hasMicrophone() && d->movie.hasSound();
+    return d->movie.isListening()
+        || (d->soundCard.canBeOpened(soundCardLimit) && d->movie.hasSound());
 }
 
 QStringList LiveVideoData::GetResoList()

@@ -18,7 +18,8 @@ static const milliseconds closeLimit(1000);
 class Microphone::Chain {
 public:
     ~Chain();
-    bool open(const char *source);
+    bool connect(const char *source); ///< false when there is nothing behind it
+    bool listen(); ///< false when there is no microphone behind it
 
     std::mutex mutex; ///< guards recorder
     std::weak_ptr<MovieRecorder> recorder;
@@ -71,7 +72,7 @@ bool Microphone::Chain::isMonitor() const
     return name && g_str_has_suffix(name, ".monitor");
 }
 
-bool Microphone::Chain::open(const char *source)
+bool Microphone::Chain::connect(const char *source)
 {
     const QByteArray description = QByteArray(source)
         + " name=source provide-clock=false ! audioconvert ! audioresample !"
@@ -89,6 +90,11 @@ bool Microphone::Chain::open(const char *source)
     GstAppSinkCallbacks callbacks = {};
     callbacks.new_sample = onSound;
     gst_app_sink_set_callbacks(GST_APP_SINK(sink.get()), &callbacks, this, nullptr);
+    return gst_element_set_state(m_pipeline.get(), GST_STATE_READY) != GST_STATE_CHANGE_FAILURE;
+}
+
+bool Microphone::Chain::listen()
+{
     return gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE
         && !isMonitor();
 }
@@ -103,10 +109,12 @@ std::unique_ptr<Microphone> Microphone::open(milliseconds limit)
         for (const char *source :
              {"pulsesrc stream-properties=\"props,node.dont-reconnect=(string)true\"", "alsasrc"}) {
             const auto chain = std::make_shared<Chain>();
-            if (chain->open(source)) {
+            if (!chain->connect(source))
+                continue;
+            // A sound server without a microphone has the last word.
+            if (chain->listen())
                 attempt->chain = chain;
-                return;
-            }
+            return;
         }
     });
     if (!opening.waitUntil(steady_clock::now() + limit) || !attempt->chain) {

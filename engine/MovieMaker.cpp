@@ -75,6 +75,11 @@ bool MovieMaker::hasSound() const
     return !m_microphoneFailed;
 }
 
+bool MovieMaker::isListening() const
+{
+    return m_microphone != nullptr;
+}
+
 void MovieMaker::devicesChanged()
 {
     m_microphoneFailed = false;

@@ -41,6 +41,7 @@ public:
 
     bool hasPicture() const; ///< frames can be written; false after a movie that could not begin
     bool hasSound() const; ///< false after a microphone could not be opened
+    bool isListening() const; ///< a microphone is open
     void devicesChanged(); ///< what could not be opened may work now
 
 private:

@@ -98,7 +98,8 @@ public:
 
     /// The camera is open, movies of it can be coded, and the last one asked for could begin.
     bool IsValidVideoDevice();
-    /// A sound source that is no loudspeaker's monitor is there, and opened when last asked to.
+    /// A sound source that is no loudspeaker's monitor is there, and opened when last asked to. On
+    /// a machine without a sound server it is the sound system's own, and must be free.
     bool IsValidAudioDevice();
 
     /// The sizes the open camera can deliver, "1280x720", largest first.

@@ -136,6 +136,8 @@ void MovieFile::decode()
     }
 
     int quiet = silentFor;
+    qint64 heard = 0; // samples
+    qint64 all = 0;
     while (true) {
         const GstMiniHandle<GstSample> sample(
             gst_app_sink_try_pull_sample(GST_APP_SINK(sound.get()), GST_SECOND));
@@ -148,14 +150,14 @@ void MovieFile::decode()
         const int count = int(map.size / sizeof(qint16));
         const double begin = timeOf(sample.get());
         for (int i = 0; i < count; ++i) {
-            if (qAbs(int(values[i])) <= loud) {
-                ++quiet;
-                continue;
-            }
-            if (quiet >= silentFor)
+            const bool isLoud = qAbs(int(values[i])) > loud;
+            if (isLoud && quiet >= silentFor)
                 m_tones.append(begin + double(i) / soundRate);
-            quiet = 0;
+            quiet = isLoud ? 0 : quiet + 1;
+            heard += quiet < silentFor;
         }
+        all += count;
+        m_loudness = double(heard) / double(all);
         m_soundDuration = begin + double(count) / soundRate;
         gst_buffer_unmap(gst_sample_get_buffer(sample.get()), &map);
     }

@@ -27,6 +27,7 @@ public:
     double soundDuration() const { return m_soundDuration; } ///< s of sound that was decoded
     const QVector<Frame> &frames() const { return m_frames; }
     const QVector<double> &tones() const { return m_tones; } ///< s, when each begins
+    double loudness() const { return m_loudness; } ///< share of the sound that is a tone
     const QStringList &complaints() const { return m_complaints; } ///< of the decoders
     QString videoFormat() const { return m_videoFormat; } ///< of the coded picture
 
@@ -49,6 +50,7 @@ private:
     double m_soundDuration = 0;
     QVector<Frame> m_frames;
     QVector<double> m_tones;
+    double m_loudness = 0;
     QStringList m_complaints;
     QString m_videoFormat;
 };
