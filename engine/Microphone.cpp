@@ -7,11 +7,13 @@
 
 #include <gst/app/gstappsink.h>
 
+#include <condition_variable>
 #include <mutex>
 
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
+static const milliseconds connectLimit(500);
 static const milliseconds closeLimit(1000);
 
 /// What may hang: opened and closed on a thread of its own.
@@ -26,9 +28,13 @@ public:
 
 private:
     static GstFlowReturn onSound(GstAppSink *sink, gpointer chain);
-    bool isMonitor() const;
+    static void onConnected(GObject *source, GParamSpec *device, gpointer chain);
+    bool isMonitor();
 
     GstObjectHandle<GstElement> m_pipeline;
+    std::mutex m_connectedMutex; ///< guards m_connected
+    std::condition_variable m_connectedChanged;
+    bool m_connected = false; ///< the server has said which of its sources it is
 };
 
 Microphone::Chain::~Chain()
@@ -59,13 +65,26 @@ GstFlowReturn Microphone::Chain::onSound(GstAppSink *sink, gpointer shared)
     return GST_FLOW_OK;
 }
 
-// The server may have nothing better as its default.
-bool Microphone::Chain::isMonitor() const
+void Microphone::Chain::onConnected(GObject *, GParamSpec *, gpointer shared)
+{
+    auto &chain = *static_cast<Chain *>(shared);
+    const std::lock_guard<std::mutex> lock(chain.m_connectedMutex);
+    chain.m_connected = true;
+    chain.m_connectedChanged.notify_all();
+}
+
+// The server may have nothing better as its default. It tells so shortly after it was asked; one
+// that does not is taken by its word.
+bool Microphone::Chain::isMonitor()
 {
     const GstObjectHandle<GstElement> source(
         gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "source"));
     if (!g_object_class_find_property(G_OBJECT_GET_CLASS(source.get()), "current-device"))
         return false;
+    {
+        std::unique_lock<std::mutex> lock(m_connectedMutex);
+        m_connectedChanged.wait_for(lock, connectLimit, [this] { return m_connected; });
+    }
     gchar *name = nullptr;
     g_object_get(source.get(), "current-device", &name, nullptr);
     const GlibString owned(name);
@@ -90,6 +109,9 @@ bool Microphone::Chain::connect(const char *source)
     GstAppSinkCallbacks callbacks = {};
     callbacks.new_sample = onSound;
     gst_app_sink_set_callbacks(GST_APP_SINK(sink.get()), &callbacks, this, nullptr);
+    const GstObjectHandle<GstElement> microphone(
+        gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "source"));
+    g_signal_connect(microphone.get(), "notify::current-device", G_CALLBACK(onConnected), this);
     return gst_element_set_state(m_pipeline.get(), GST_STATE_READY) != GST_STATE_CHANGE_FAILURE;
 }
 
