@@ -28,9 +28,8 @@ void translateToolkit(const QString &locale)
 {
     static auto *const translator = new QTranslator; // as long-lived as our own
     if (translator->load(QLocale(locale), "qtbase", "_",
-                         QLibraryInfo::location(QLibraryInfo::TranslationsPath))) {
+                         QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(translator);
-    }
 }
 
 } // namespace
@@ -39,20 +38,16 @@ QString CTranslator::getLocale(const QString &dir, const QString &prefix)
 {
     QString english = QStringLiteral("en");
     const QSettings whiteboard(QSettings::UserScope, "MerovexSolutions", "Tavelin Software");
-    if (!whiteboard.contains("locale")) {
+    if (!whiteboard.contains("locale"))
         return english;
-    }
     QString chosen = whiteboard.value("locale").toString();
-    if (chosen.isNull()) {
+    if (chosen.isNull())
         return english;
-    }
-    if (hasTranslation(dir, prefix, chosen)) {
+    if (hasTranslation(dir, prefix, chosen))
         return chosen;
-    }
     QString language = chosen.left(2);
-    if (hasTranslation(dir, prefix, language)) {
+    if (hasTranslation(dir, prefix, language))
         return language;
-    }
     // Norwegian Bokmål is served by the file for "no". Whether there is one is not looked up:
     // without it the texts stay English all the same.
     return language == "nb" ? QStringLiteral("no") : english;
@@ -65,9 +60,8 @@ void translate()
 
     // Never deleted: it is in use until the last widget is gone.
     static auto *const translator = new QTranslator;
-    if (translator->load(dir + "/" + filePrefix + locale)) {
+    if (translator->load(dir + "/" + filePrefix + locale))
         translateToolkit(locale); // first: what we translate ourselves goes before
-    }
     // Installed even when there was nothing to load; the texts are then the English ones.
     QCoreApplication::installTranslator(translator);
 
@@ -76,7 +70,6 @@ void translate()
         // letters, and those of its typewriter would stand in for them.
         QFont::insertSubstitutions("Arial", {"Liberation Sans", "DejaVu Sans Condensed"});
     }
-    if (locale == "ar" || locale == "he") {
+    if (locale == "ar" || locale == "he")
         QApplication::setLayoutDirection(Qt::RightToLeft);
-    }
 }

@@ -36,12 +36,10 @@ InstanceChannel::InstanceChannel(const QString &id, const QString &folder)
 
 bool InstanceChannel::becomeFirst()
 {
-    if (m_folder.isEmpty() || (!m_lock.isLocked() && !m_lock.tryLock(0))) {
+    if (m_folder.isEmpty() || (!m_lock.isLocked() && !m_lock.tryLock(0)))
         return false;
-    }
-    if (!m_server.isListening()) {
+    if (!m_server.isListening())
         listen();
-    }
     return true;
 }
 
@@ -53,19 +51,16 @@ bool InstanceChannel::isTaken()
 bool InstanceChannel::send(const QString &message, int timeoutMs)
 {
     const QByteArray text = message.toUtf8();
-    if (text.size() > maxMessageBytes) {
+    if (text.size() > maxMessageBytes)
         return false;
-    }
     const QDeadlineTimer deadline(timeoutMs);
     while (isTaken()) {
         QLocalSocket first;
         first.connectToServer(m_socketPath);
-        if (first.waitForConnected(left(deadline)) && deliver(first, text, deadline)) {
+        if (first.waitForConnected(left(deadline)) && deliver(first, text, deadline))
             return true;
-        }
-        if (deadline.hasExpired()) {
+        if (deadline.hasExpired())
             return false;
-        }
         // Another copy holds the lock and does not answer: it is about to listen or about to end.
         // Neither can be waited for from here, so both are asked for again, within the limit.
         QThread::msleep(static_cast<unsigned long>(std::min(retryMs, deadline.remainingTime())));
@@ -79,16 +74,12 @@ bool InstanceChannel::deliver(QLocalSocket &first, const QByteArray &message,
     QByteArray header(headerBytes, '\0');
     qToBigEndian(static_cast<quint32>(message.size()), header.data());
     first.write(header + message);
-    while (first.bytesToWrite() > 0) {
-        if (!first.waitForBytesWritten(left(deadline))) {
+    while (first.bytesToWrite() > 0)
+        if (!first.waitForBytesWritten(left(deadline)))
             return false;
-        }
-    }
-    while (first.bytesAvailable() < answerBytes) {
-        if (!first.waitForReadyRead(left(deadline))) {
+    while (first.bytesAvailable() < answerBytes)
+        if (!first.waitForReadyRead(left(deadline)))
             return false;
-        }
-    }
     return first.readAll() == answer;
 }
 
@@ -97,9 +88,8 @@ void InstanceChannel::listen()
     // Whatever lies there is from a copy that crashed: a living one would have the lock.
     QLocalServer::removeServer(m_socketPath);
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    if (!m_server.listen(m_socketPath)) {
+    if (!m_server.listen(m_socketPath))
         qCWarning(logApp) << "no other copy can be answered:" << m_server.errorString();
-    }
 }
 
 void InstanceChannel::welcomeClients()
@@ -107,9 +97,8 @@ void InstanceChannel::welcomeClients()
     while (QLocalSocket *client = m_server.nextPendingConnection()) {
         // Clients that sit there without a word make room for those that come after them.
         const auto clients = m_server.findChildren<QLocalSocket *>();
-        if (clients.size() > maxClients) {
+        if (clients.size() > maxClients)
             delete clients.first();
-        }
         client->setReadBufferSize(headerBytes + maxMessageBytes);
         connect(client, &QLocalSocket::readyRead, this, [this, client] { readFrom(client); });
         connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
@@ -121,18 +110,16 @@ void InstanceChannel::welcomeClients()
 
 void InstanceChannel::readFrom(QLocalSocket *client)
 {
-    if (client->bytesAvailable() < headerBytes) {
+    if (client->bytesAvailable() < headerBytes)
         return;
-    }
     const quint32 length = qFromBigEndian<quint32>(client->peek(headerBytes).constData());
     if (length > maxMessageBytes) {
         qCWarning(logApp) << "a client announced a message of" << length << "bytes";
         client->deleteLater();
         return;
     }
-    if (client->bytesAvailable() < headerBytes + qint64(length)) {
+    if (client->bytesAvailable() < headerBytes + qint64(length))
         return;
-    }
     client->read(headerBytes);
     const QString message = QString::fromUtf8(client->read(length));
     // One message per client: what follows it is not even looked at.

@@ -18,9 +18,8 @@ bool isFit(const QByteArray &path)
 
 QString PrivateFolder::find(const QString &runtimeDir, const QString &tempDir)
 {
-    if (isFit(QFile::encodeName(runtimeDir))) {
+    if (isFit(QFile::encodeName(runtimeDir)))
         return runtimeDir;
-    }
     const QString own = tempDir + "/orvanta-" + QString::number(geteuid());
     const QByteArray path = QFile::encodeName(own);
     // It may be there from an earlier run; what counts is what is there now.

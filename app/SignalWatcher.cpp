@@ -43,9 +43,8 @@ SignalWatcher::SignalWatcher(QWidget *window)
     m_closing.setInterval(closingStepMs);
     connect(&m_closing, &QTimer::timeout, this, &SignalWatcher::closeTopmost);
     int ends[2];
-    if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) {
+    if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
-    }
     m_readEnd = ends[0];
     writeEnd = ends[1];
     m_notifier = std::make_unique<QSocketNotifier>(m_readEnd, QSocketNotifier::Read);
@@ -55,9 +54,8 @@ SignalWatcher::SignalWatcher(QWidget *window)
 
 SignalWatcher::~SignalWatcher()
 {
-    if (m_readEnd < 0) {
+    if (m_readEnd < 0)
         return;
-    }
     handleWith(SIG_DFL);
     m_notifier.reset();
     close(m_readEnd);
@@ -68,9 +66,8 @@ SignalWatcher::~SignalWatcher()
 void SignalWatcher::drain()
 {
     char byte = 0;
-    if (read(m_readEnd, &byte, 1) == 1) {
+    if (read(m_readEnd, &byte, 1) == 1)
         m_closing.start();
-    }
 }
 
 void SignalWatcher::closeTopmost()

@@ -16,9 +16,8 @@ int main(int argc, char **argv)
 
     LayoutScale::apply();
     QtSingleApplication application("Orvanta", argc, argv);
-    if (application.sendMessage("Wake up!", 5000)) {
+    if (application.sendMessage("Wake up!", 5000))
         return 0;
-    }
     // The answer is not needed: a copy that is there but did not respond in time must not keep the
     // camera from being used.
     application.isRunning();
@@ -30,9 +29,8 @@ int main(int argc, char **argv)
     QApplication::setStyle(new PlainButtons);
 
     CVistrelDlg dialog;
-    if (!dialog.isDeviceSelected()) {
+    if (!dialog.isDeviceSelected())
         return -1;
-    }
     const SignalWatcher watcher(&dialog);
 
     dialog.SetPluginPath(QCoreApplication::applicationDirPath());

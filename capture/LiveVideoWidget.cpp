@@ -96,9 +96,8 @@ void LiveVideoWidget::setVideoDevice(int index)
 
 void LiveVideoWidget::Create()
 {
-    if (m_engine.created) {
+    if (m_engine.created)
         return;
-    }
     m_engine.Create();
     if (!m_engine.supported) {
         WebcamUtil::CriticalMessage(tr("Not Suport"), this); // this spelling is translated
@@ -124,9 +123,8 @@ QSize LiveVideoWidget::getNativeSize() const
 
 void LiveVideoWidget::Start()
 {
-    if (!m_engine.created) {
+    if (!m_engine.created)
         return;
-    }
     m_liveLabel->hide();
     m_engine.Start();
     m_liveLabel->show();
@@ -145,9 +143,8 @@ void LiveVideoWidget::Reset()
 
 void LiveVideoWidget::Release()
 {
-    if (m_engine.created) {
+    if (m_engine.created)
         m_engine.Release();
-    }
     endBurst();
     m_videoValid = false;
 }
@@ -166,16 +163,14 @@ QStringList LiveVideoWidget::GetResoList()
 void LiveVideoWidget::setResolution(const QString &text)
 {
     const QStringList sides = text.split(QLatin1Char('x'));
-    if (sides.size() >= 2 && m_engine.created) {
+    if (sides.size() >= 2 && m_engine.created)
         m_engine.SetResolution(sides.at(0).toInt(), sides.at(1).toInt());
-    }
 }
 
 QString LiveVideoWidget::SaveBmp()
 {
-    if (!m_engine.created) {
+    if (!m_engine.created)
         return QString();
-    }
     const QString name = WebcamUtil::CreatePhotofilename();
     const QString path = WebcamUtil::getTemporaryPath() + QLatin1Char('/') + name;
     return m_engine.SaveBitmap(path) ? name : QString();
@@ -185,12 +180,10 @@ bool LiveVideoWidget::Record()
 {
     m_movieFileName = WebcamUtil::CreateMoviefilename();
     m_engine.Record(m_movieFileName);
-    if (!m_engine.IsValidVideoDevice()) {
+    if (!m_engine.IsValidVideoDevice())
         return recordWithoutVideo();
-    }
-    if (!m_engine.IsValidAudioDevice()) {
+    if (!m_engine.IsValidAudioDevice())
         return recordWithoutAudio();
-    }
     QString stillPath = m_movieFileName;
     stillPath.replace(QLatin1String(".mov"), QLatin1String("tmp.png"));
     m_engine.SaveBitmap(stillPath); // a movie without its still picture is still a movie

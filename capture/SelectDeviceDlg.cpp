@@ -76,16 +76,12 @@ void SelectDeviceDlg::setVideoDeviceList(const QStringList &names)
     };
 
     m_indexMap.clear();
-    for (int i = 0; i < names.size(); ++i) {
-        if (names.at(i).contains(ownCameraModel())) {
+    for (int i = 0; i < names.size(); ++i)
+        if (names.at(i).contains(ownCameraModel()))
             take(i);
-        }
-    }
-    for (int i = 0; i < names.size(); ++i) {
-        if (!m_indexMap.contains(i)) {
+    for (int i = 0; i < names.size(); ++i)
+        if (!m_indexMap.contains(i))
             take(i);
-        }
-    }
     m_deviceBox->addItems(shown);
     m_deviceBox->setCurrentIndex(0);
 

@@ -50,9 +50,8 @@ void TimerWidget::run()
 {
     m_elapsed = 0;
     m_remaining = m_count;
-    if (!m_tickTimer->isActive()) {
+    if (!m_tickTimer->isActive())
         m_tickTimer->start();
-    }
     showtime();
 }
 
@@ -77,9 +76,8 @@ void TimerWidget::reset()
 void TimerWidget::SetMode(TimerMode m)
 {
     hide();
-    if (m == m_mode) {
+    if (m == m_mode)
         return;
-    }
     m_elapsed = 0;
     setText(sizingText(m));
     adjustSize();
@@ -108,9 +106,8 @@ void TimerWidget::showtime()
 void TimerWidget::OnShot()
 {
     if (m_remaining != 0) {
-        if (!isVisible()) {
+        if (!isVisible())
             show();
-        }
         setText(QLatin1Char(' ') + QString::number(m_remaining) + tr(" second to capture"));
         --m_remaining;
         return;
@@ -123,12 +120,10 @@ void TimerWidget::OnShot()
 void TimerWidget::RecordTime()
 {
     // A recording that has been stopped keeps its last time on show.
-    if (m_tickTimer->isActive()) {
+    if (m_tickTimer->isActive())
         setText(twoDigits(m_elapsed / 60) + QLatin1Char(':') + twoDigits(m_elapsed % 60));
-    }
-    if (m_elapsed >= m_timeLimit) {
+    if (m_elapsed >= m_timeLimit)
         Q_EMIT movieTimeOver();
-    }
     ++m_elapsed;
 }
 

@@ -15,12 +15,11 @@ struct Rate {
 static QVector<QByteArray> stringsOf(const GValue *value)
 {
     QVector<QByteArray> strings;
-    if (value && G_VALUE_HOLDS_STRING(value)) {
+    if (value && G_VALUE_HOLDS_STRING(value))
         strings.append(g_value_get_string(value));
-    } else if (value && GST_VALUE_HOLDS_LIST(value)) {
+    else if (value && GST_VALUE_HOLDS_LIST(value))
         for (guint i = 0; i < gst_value_list_get_size(value); ++i)
             strings += stringsOf(gst_value_list_get_value(value, i));
-    }
     return strings;
 }
 
@@ -33,10 +32,9 @@ static bool allows(const GValue *field, int wanted)
         return wanted >= low && wanted <= gst_value_get_int_range_max(field)
             && (wanted - low) % gst_value_get_int_range_step(field) == 0;
     }
-    for (guint i = 0; GST_VALUE_HOLDS_LIST(field) && i < gst_value_list_get_size(field); ++i) {
+    for (guint i = 0; GST_VALUE_HOLDS_LIST(field) && i < gst_value_list_get_size(field); ++i)
         if (allows(gst_value_list_get_value(field, i), wanted))
             return true;
-    }
     return false;
 }
 
@@ -61,10 +59,9 @@ static QVector<QSize> sizesOf(const GstStructure *structure)
     if (G_VALUE_HOLDS_INT(width) && G_VALUE_HOLDS_INT(height))
         return {QSize(g_value_get_int(width), g_value_get_int(height))};
     QVector<QSize> sizes;
-    for (const QSize &size : usualSizes) {
+    for (const QSize &size : usualSizes)
         if (allows(width, size.width()) && allows(height, size.height()))
             sizes.append(size);
-    }
     if (sizes.isEmpty())
         sizes.append(QSize(largest(width), largest(height)));
     return sizes;
@@ -102,10 +99,9 @@ static QVector<QByteArray> rawFormatsOf(const GstStructure *structure)
 {
     QVector<QByteArray> formats;
     const QVector<QByteArray> offered = stringsOf(gst_structure_get_value(structure, "format"));
-    for (const QByteArray &format : offered) {
+    for (const QByteArray &format : offered)
         if (isKnownFormat(format))
             formats.append(format);
-    }
     return formats;
 }
 

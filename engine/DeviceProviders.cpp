@@ -116,10 +116,9 @@ DeviceProviders::~DeviceProviders()
 void DeviceProviders::start(std::chrono::milliseconds limit)
 {
     const auto deadline = steady_clock::now() + limit;
-    for (Source &source : sources()) {
+    for (Source &source : sources())
         if (!source.provider && !source.task)
             beginToStart(source);
-    }
     for (Source &source : sources()) {
         if (!source.task)
             continue;
@@ -200,10 +199,9 @@ QVector<DeviceProviders::Camera> DeviceProviders::cameras()
 {
     QVector<Camera> cameras;
     const QVector<GstDeviceHandle> all = devices();
-    for (const GstDeviceHandle &device : all) {
+    for (const GstDeviceHandle &device : all)
         if (gst_device_has_classes(device.get(), "Video/Source"))
             cameras.append({recordOf(device.get()), device});
-    }
     return cameras;
 }
 

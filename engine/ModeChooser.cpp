@@ -44,10 +44,9 @@ int bestMode(const QVector<CameraMode> &modes, const QSize &wanted)
 QStringList resolutionNames(const QVector<CameraMode> &modes)
 {
     QVector<QSize> sizes;
-    for (const CameraMode &mode : modes) {
+    for (const CameraMode &mode : modes)
         if (!sizes.contains(mode.size()))
             sizes.append(mode.size());
-    }
     std::sort(sizes.begin(), sizes.end(), [](const QSize &left, const QSize &right) {
         return std::make_tuple(area(left), left.width())
             > std::make_tuple(area(right), right.width());

@@ -37,9 +37,11 @@ bool isNewer(const Entry &left, const Entry &right)
 bool matchesAny(const char *name, const std::vector<QByteArray> &patterns)
 {
     return patterns.empty()
-        || std::any_of(patterns.begin(), patterns.end(), [name](const QByteArray &pattern) {
-               return fnmatch(pattern.constData(), name, FNM_CASEFOLD | FNM_NOESCAPE) == 0;
-           });
+        || std::any_of(
+               patterns.begin(), patterns.end(),
+               [name](const QByteArray &pattern) {
+                   return fnmatch(pattern.constData(), name, FNM_CASEFOLD | FNM_NOESCAPE) == 0;
+               });
 }
 
 /** The regular files of the folder that are neither hidden nor links, in no order. */
@@ -119,12 +121,11 @@ QStringList WebcamUtil::getMovieFileList()
     const QString movieSuffix = QStringLiteral(".mov");
     QStringList movies;
     QSet<QString> pictures;
-    for (const QString &name : getFileList({QStringLiteral("movie*")})) {
+    for (const QString &name : getFileList({QStringLiteral("movie*")}))
         if (name.contains(movieSuffix))
             movies.append(name);
         else
             pictures.insert(name);
-    }
 
     QStringList complete;
     for (QString picture : qAsConst(movies)) {

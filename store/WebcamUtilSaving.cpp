@@ -42,10 +42,9 @@ bool copyContents(QFile &from, QFile &to)
 {
     QByteArray block(1024 * 1024, Qt::Uninitialized);
     qint64 count = 0;
-    while ((count = from.read(block.data(), block.size())) > 0) {
+    while ((count = from.read(block.data(), block.size())) > 0)
         if (to.write(block.constData(), count) != count)
             return false;
-    }
     // The original is about to be deleted, and a full network folder may tell only now.
     return count == 0 && fsync(to.handle()) == 0;
 }
@@ -123,10 +122,9 @@ bool WebcamUtil::saveData(const QString &target, const QDateTime &moment)
 void WebcamUtil::deleteData()
 {
     const QString area = getTemporaryPath();
-    for (const QString &name : listTemporaryArea()) {
+    for (const QString &name : listTemporaryArea())
         if (isCaptured(name))
             QFile::remove(area + QLatin1Char('/') + name);
-    }
 }
 
 void WebcamUtil::deletetmpfile(const QString &path)

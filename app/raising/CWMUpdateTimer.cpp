@@ -26,7 +26,6 @@ void CWMUpdateTimer::stop()
 
 void CWMUpdateTimer::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() == m_timerId && m_callback) {
+    if (event->timerId() == m_timerId && m_callback)
         m_callback->update_window();
-    }
 }

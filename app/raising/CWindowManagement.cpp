@@ -33,9 +33,8 @@ CWindowManagement::CWindowManagement(QWidget *widget, int periodMs, bool raisePa
     , m_processName(std::move(processName))
     , m_raiseParents(raiseParents)
 {
-    if (!m_widget) {
+    if (!m_widget)
         return;
-    }
     m_timer = std::make_unique<CWMUpdateTimer>(periodMs, this);
     start_window(periodMs);
 }
@@ -55,28 +54,23 @@ void CWindowManagement::start_window(int periodMs)
 
 void CWindowManagement::stop_window()
 {
-    if (m_widget && m_timer) {
+    if (m_widget && m_timer)
         m_timer->stop();
-    }
 }
 
 void CWindowManagement::update_window()
 {
-    if (!m_widget) {
+    if (!m_widget)
         return;
-    }
     if (!m_processName.isEmpty()) {
         std::string name = m_processName.toLocal8Bit().toStdString();
-        if (isRunning(name)) {
+        if (isRunning(name))
             return;
-        }
     }
-    if (m_widget->isActiveWindow() || !hasBeenOnScreen()) {
+    if (m_widget->isActiveWindow() || !hasBeenOnScreen())
         return;
-    }
-    if (m_raiseParents) {
+    if (m_raiseParents)
         raiseParentWidgetTop(m_widget->parentWidget());
-    }
     raiseQtWindowTop(m_widget->winId());
 }
 
@@ -91,9 +85,8 @@ bool CWindowManagement::hasBeenOnScreen()
 
 void CWindowManagement::raiseParentWidgetTop(QWidget *widget)
 {
-    if (!widget) {
+    if (!widget)
         return;
-    }
     raiseParentWidgetTop(widget->parentWidget());
     raiseQtWindowTop(widget->winId());
 }
@@ -101,32 +94,27 @@ void CWindowManagement::raiseParentWidgetTop(QWidget *widget)
 void CWindowManagement::raiseQtWindowTop(unsigned long windowId)
 {
     Display *display = xDisplay();
-    if (!display) {
+    if (!display)
         return;
-    }
     Window root = 0;
     Window frame = 0;
     Window *children = nullptr;
     unsigned int childCount = 0;
-    if (!XQueryTree(display, windowId, &root, &frame, &children, &childCount)) {
+    if (!XQueryTree(display, windowId, &root, &frame, &children, &childCount))
         return;
-    }
-    if (children) {
+    if (children)
         XFree(children);
-    }
     // Without a window manager this is the root window, which raising does not change.
-    if (frame) {
+    if (frame)
         raiseWindowTop(frame);
-    }
     raiseWindowTop(windowId);
 }
 
 void CWindowManagement::raiseWindowTop(unsigned long windowId)
 {
     Display *display = xDisplay();
-    if (!display) {
+    if (!display)
         return;
-    }
     // An override-redirect window is mapped and raised by the X server itself; without the flag the
     // window manager would be asked and may decline.
     XSetWindowAttributes attributes = {};
@@ -147,9 +135,8 @@ bool CWindowManagement::isRunning(std::string &name)
     // The first grep finds itself in the list; the second one takes it out again.
     const std::string command = "ps -ef | grep " + name + " | grep -v grep | wc -l";
     FILE *pipe = popen(command.c_str(), "r");
-    if (!pipe) {
+    if (!pipe)
         return false;
-    }
     char line[32] = {};
     const bool read = fgets(line, sizeof line, pipe) != nullptr;
     pclose(pipe);

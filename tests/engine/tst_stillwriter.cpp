@@ -14,10 +14,9 @@
 static QImage picture(const QSize &size)
 {
     QImage image(size, QImage::Format_RGB888);
-    for (int y = 0; y < size.height(); ++y) {
+    for (int y = 0; y < size.height(); ++y)
         for (int x = 0; x < size.width(); ++x)
             image.setPixel(x, y, qRgb(x * 7 % 256, y * 5 % 256, (x + y) * 3 % 256));
-    }
     return image;
 }
 

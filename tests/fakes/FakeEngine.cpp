@@ -19,9 +19,8 @@ void note(const QString &call)
 QImage pictureToSave()
 {
     const FakeEngine &script = FakeEngine::script();
-    if (!script.picture.isNull()) {
+    if (!script.picture.isNull())
         return script.picture;
-    }
     QImage plain(script.nativeSize, QImage::Format_RGB32);
     plain.fill(Qt::darkCyan);
     return plain;
@@ -64,9 +63,8 @@ LiveVideoData::LiveVideoData()
 LiveVideoData::~LiveVideoData()
 {
     note(QStringLiteral("~LiveVideoData()"));
-    if (s_engine == this) {
+    if (s_engine == this)
         s_engine = nullptr;
-    }
 }
 
 void LiveVideoData::SetTarget(QWidget *target)
@@ -133,14 +131,12 @@ void LiveVideoData::Record(const QString &path)
 {
     note(QStringLiteral("Record(%1)").arg(path));
     FakeEngine &script = FakeEngine::script();
-    if (!script.videoDeviceValid || !script.audioDeviceValid) {
+    if (!script.videoDeviceValid || !script.audioDeviceValid)
         return;
-    }
     script.recording = path;
     QFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
+    if (file.open(QIODevice::WriteOnly))
         file.write(script.movie);
-    }
 }
 
 void LiveVideoData::RecordStop()

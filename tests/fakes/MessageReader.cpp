@@ -16,26 +16,22 @@ MessageReader::MessageReader(QObject *parent)
 QStringList MessageReader::texts() const
 {
     QStringList texts;
-    for (const Message &message : m_messages) {
+    for (const Message &message : m_messages)
         texts.append(message.text);
-    }
     return texts;
 }
 
 void MessageReader::readOpenBox()
 {
     auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-    if (!box || !box->isVisible()) {
+    if (!box || !box->isVisible())
         return;
-    }
     m_messages.append({box->icon(), box->windowTitle(), box->text()});
     QAbstractButton *wayOut = box->defaultButton();
-    if (!wayOut && !box->buttons().isEmpty()) {
+    if (!wayOut && !box->buttons().isEmpty())
         wayOut = box->buttons().constFirst();
-    }
-    if (wayOut) {
+    if (wayOut)
         wayOut->click();
-    } else {
+    else
         box->reject();
-    }
 }

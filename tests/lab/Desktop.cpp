@@ -33,18 +33,16 @@ QString textProperty(Display *display, ::Window window, const char *name)
                        XInternAtom(display, "UTF8_STRING", False), &type, &format, &count, &left,
                        &data);
     QString text = data ? QString::fromUtf8(reinterpret_cast<char *>(data), int(count)) : QString();
-    if (data) {
+    if (data)
         XFree(data);
-    }
     return text;
 }
 
 QRect geometryOnScreen(Display *display, ::Window window)
 {
     XWindowAttributes attributes = {};
-    if (!XGetWindowAttributes(display, window, &attributes)) {
+    if (!XGetWindowAttributes(display, window, &attributes))
         return {};
-    }
     int x = 0;
     int y = 0;
     ::Window child = 0;
@@ -62,31 +60,27 @@ Desktop::Desktop()
 
 Desktop::~Desktop()
 {
-    if (m_display) {
+    if (m_display)
         XCloseDisplay(m_display);
-    }
 }
 
 QRect Desktop::screen() const
 {
-    if (!m_display) {
+    if (!m_display)
         return {};
-    }
     const int number = DefaultScreen(m_display);
     return {0, 0, DisplayWidth(m_display, number), DisplayHeight(m_display, number)};
 }
 
 QImage Desktop::screenshot() const
 {
-    if (!m_display) {
+    if (!m_display)
         return {};
-    }
     XImage *shot =
         XGetImage(m_display, DefaultRootWindow(m_display), 0, 0, unsigned(screen().width()),
                   unsigned(screen().height()), AllPlanes, ZPixmap);
-    if (!shot) {
+    if (!shot)
         return {};
-    }
     QImage picture;
     if (shot->bits_per_pixel == 32) {
         picture = QImage(reinterpret_cast<uchar *>(shot->data), shot->width, shot->height,
@@ -106,16 +100,14 @@ QColor Desktop::pixel(QPoint at) const
 QVector<Desktop::Window> Desktop::windows() const
 {
     QVector<Window> found;
-    if (!m_display) {
+    if (!m_display)
         return found;
-    }
     const quint32 root = quint32(DefaultRootWindow(m_display));
     const QVector<quint32> active = cardinals(root, "_NET_ACTIVE_WINDOW");
     for (const quint32 id : cardinals(root, "_NET_CLIENT_LIST_STACKING")) {
         const Window window = describe(id, active.value(0));
-        if (!window.geometry.isEmpty()) {
+        if (!window.geometry.isEmpty())
             found.append(window);
-        }
     }
     return found;
 }
@@ -123,11 +115,9 @@ QVector<Desktop::Window> Desktop::windows() const
 QVector<Desktop::Window> Desktop::windowsOf(qint64 pid) const
 {
     QVector<Window> found;
-    for (const Window &window : windows()) {
-        if (window.pid == pid) {
+    for (const Window &window : windows())
+        if (window.pid == pid)
             found.append(window);
-        }
-    }
     return found;
 }
 
@@ -140,9 +130,8 @@ Desktop::Window Desktop::topWindowOf(qint64 pid) const
 QVector<QRect> Desktop::popups() const
 {
     QVector<QRect> found;
-    if (!m_display) {
+    if (!m_display)
         return found;
-    }
     ::Window root = 0;
     ::Window parent = 0;
     ::Window *children = nullptr;
@@ -152,21 +141,18 @@ QVector<QRect> Desktop::popups() const
         XWindowAttributes attributes = {};
         if (XGetWindowAttributes(m_display, children[i], &attributes)
             && attributes.override_redirect && attributes.map_state == IsViewable
-            && attributes.c_class == InputOutput) {
+            && attributes.c_class == InputOutput)
             found.append(geometryOnScreen(m_display, children[i]));
-        }
     }
-    if (children) {
+    if (children)
         XFree(children);
-    }
     return found;
 }
 
 void Desktop::closeWindow(quint32 id) const
 {
-    if (!m_display) {
+    if (!m_display)
         return;
-    }
     XEvent event = {};
     event.xclient.type = ClientMessage;
     event.xclient.window = id;
@@ -214,18 +200,15 @@ void Desktop::click(QPoint at) const
 
 void Desktop::pressKey(const char *name) const
 {
-    if (m_display) {
+    if (m_display)
         pressSymbol(XStringToKeysym(name));
-    }
 }
 
 void Desktop::type(const QString &text) const
 {
-    for (const QChar c : text) {
-        if (m_display && c.unicode() < 128) { // the keyboard's symbols are numbered like ASCII
+    for (const QChar c : text)
+        if (m_display && c.unicode() < 128) // the keyboard's symbols are numbered like ASCII
             pressSymbol(c.unicode());
-        }
-    }
 }
 
 void Desktop::pressSymbol(unsigned long symbol) const
@@ -233,14 +216,12 @@ void Desktop::pressSymbol(unsigned long symbol) const
     const KeyCode code = XKeysymToKeycode(m_display, symbol);
     const KeyCode shift = XKeysymToKeycode(m_display, XK_Shift_L);
     const bool shifted = XkbKeycodeToKeysym(m_display, code, 0, 0) != symbol;
-    if (shifted) {
+    if (shifted)
         XTestFakeKeyEvent(m_display, shift, True, CurrentTime);
-    }
     XTestFakeKeyEvent(m_display, code, True, CurrentTime);
     XTestFakeKeyEvent(m_display, code, False, CurrentTime);
-    if (shifted) {
+    if (shifted)
         XTestFakeKeyEvent(m_display, shift, False, CurrentTime);
-    }
     XSync(m_display, False);
 }
 
@@ -267,12 +248,10 @@ QVector<quint32> Desktop::cardinals(quint32 window, const char *property) const
     QVector<quint32> values;
     if (data && format == 32) { // Xlib hands 32-bit items out as longs
         const auto *items = reinterpret_cast<const unsigned long *>(data);
-        for (unsigned long i = 0; i < count; ++i) {
+        for (unsigned long i = 0; i < count; ++i)
             values.append(quint32(items[i]));
-        }
     }
-    if (data) {
+    if (data)
         XFree(data);
-    }
     return values;
 }

@@ -58,40 +58,35 @@ int FramePainter::stride() const
 
 int FramePainter::frameBytes() const
 {
-    if (m_format == MJPG) {
+    if (m_format == MJPG)
         return m_size.width() * m_size.height();
-    }
     const int rows = m_format == NV12 ? m_size.height() * 3 / 2 : m_size.height();
     return stride() * rows;
 }
 
 int FramePainter::paint(uchar *target, quint32 counter) const
 {
-    if (m_format == MJPG) {
+    if (m_format == MJPG)
         return paintJpeg(target, counter);
-    }
     QByteArray rows[bandCount];
     QByteArray chromaRows[bandCount];
     for (int band = 0; band < bandCount; ++band) {
         const Row row = colours(band, counter);
         rows[band] = m_format == NV12 ? lumaRow(row) : packed(row);
-        if (m_format == NV12) {
+        if (m_format == NV12)
             chromaRows[band] = chromaRow(row);
-        }
     }
     int used = paintPlane(target, m_size.height(), stride(), rows);
-    if (m_format == NV12) {
+    if (m_format == NV12)
         used += paintPlane(target + used, m_size.height() / 2, stride(), chromaRows);
-    }
     return used;
 }
 
 int FramePainter::bandOfRow(double y)
 {
     int band = 0;
-    while (band < bandCount - 1 && y >= LabPattern::bandEdges[band + 1]) {
+    while (band < bandCount - 1 && y >= LabPattern::bandEdges[band + 1])
         ++band;
-    }
     return band;
 }
 
@@ -99,9 +94,8 @@ FramePainter::Row FramePainter::colours(int band, quint32 counter) const
 {
     const double y = (LabPattern::bandEdges[band] + LabPattern::bandEdges[band + 1]) / 2;
     Row row(m_size.width());
-    for (int x = 0; x < row.size(); ++x) {
+    for (int x = 0; x < row.size(); ++x)
         row[x] = LabPattern::colourAt((x + 0.5) / row.size(), y, counter, m_ground);
-    }
     return row;
 }
 
@@ -164,9 +158,8 @@ int FramePainter::paintJpeg(uchar *target, quint32 counter) const
 {
     QImage picture(m_size, QImage::Format_RGB32);
     Row bands[bandCount];
-    for (int band = 0; band < bandCount; ++band) {
+    for (int band = 0; band < bandCount; ++band)
         bands[band] = colours(band, counter);
-    }
     for (int y = 0; y < picture.height(); ++y) {
         const Row &row = bands[bandOfRow((y + 0.5) / picture.height())];
         std::memcpy(picture.scanLine(y), row.constData(), size_t(row.size()) * sizeof(QRgb));

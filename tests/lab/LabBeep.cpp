@@ -14,9 +14,8 @@ constexpr qint64 toneLength = second / 10;
 
 float sampleAt(qint64 sinceBeat)
 {
-    if (sinceBeat < 0 || sinceBeat >= toneLength) {
+    if (sinceBeat < 0 || sinceBeat >= toneLength)
         return 0;
-    }
     return float(0.5 * std::sin(2 * M_PI * 1000 * double(sinceBeat) / double(second)));
 }
 
@@ -40,9 +39,8 @@ LabBeep::LabBeep(pw_loop *loop, const std::string &sink)
                                                "Playback", PW_KEY_TARGET_OBJECT, sink.c_str(),
                                                PW_KEY_NODE_LATENCY, "256/48000", nullptr),
                              m_events.get(), this);
-    if (!m_stream) {
+    if (!m_stream)
         return;
-    }
     uint8_t memory[512];
     spa_pod_builder builder = {};
     spa_pod_builder_init(&builder, memory, sizeof(memory));
@@ -58,17 +56,15 @@ LabBeep::LabBeep(pw_loop *loop, const std::string &sink)
 
 LabBeep::~LabBeep()
 {
-    if (m_stream) {
+    if (m_stream)
         pw_stream_destroy(m_stream);
-    }
 }
 
 void LabBeep::play()
 {
     pw_buffer *buffer = pw_stream_dequeue_buffer(m_stream);
-    if (!buffer) {
+    if (!buffer)
         return;
-    }
     pw_time clock = {};
     pw_stream_get_time_n(m_stream, &clock, sizeof(clock));
     spa_data &data = buffer->buffer->datas[0];
@@ -76,9 +72,8 @@ void LabBeep::play()
     const uint32_t wanted = buffer->requested > 0 ? uint32_t(buffer->requested) : room;
     const uint32_t count = std::min(room, wanted);
     auto *samples = static_cast<float *>(data.data);
-    for (uint32_t i = 0; samples && i < count; ++i) {
+    for (uint32_t i = 0; samples && i < count; ++i)
         samples[i] = sampleAt(clock.now + qint64(i) * second / rate - m_beat);
-    }
     data.chunk->offset = 0;
     data.chunk->stride = sizeof(float);
     data.chunk->size = count * sizeof(float);

@@ -50,9 +50,8 @@ spa_pod *offer(spa_pod_builder *builder, FramePainter::Format format, QSize size
     spa_pod_builder_add(builder, SPA_FORMAT_mediaType, SPA_POD_Id(SPA_MEDIA_TYPE_video),
                         SPA_FORMAT_mediaSubtype,
                         SPA_POD_Id(encoded ? SPA_MEDIA_SUBTYPE_mjpg : SPA_MEDIA_SUBTYPE_raw), 0);
-    if (!encoded) {
+    if (!encoded)
         spa_pod_builder_add(builder, SPA_FORMAT_VIDEO_format, SPA_POD_Id(serverFormat(format)), 0);
-    }
     spa_pod_builder_add(builder, SPA_FORMAT_VIDEO_size, SPA_POD_Rectangle(&pixels),
                         SPA_FORMAT_VIDEO_framerate, SPA_POD_Fraction(&perSecond), 0);
     return static_cast<spa_pod *>(spa_pod_builder_pop(builder, &frame));
@@ -102,18 +101,16 @@ LabCamera::LabCamera(Options options)
 LabCamera::~LabCamera()
 {
     m_beep.reset();
-    if (m_stream) {
+    if (m_stream)
         pw_stream_destroy(m_stream);
-    }
     pw_main_loop_destroy(m_loop);
 }
 
 int LabCamera::run()
 {
     connectStream();
-    if (!m_options.beepSink.empty()) {
+    if (!m_options.beepSink.empty())
         m_beep = std::make_unique<LabBeep>(pw_main_loop_get_loop(m_loop), m_options.beepSink);
-    }
     pw_main_loop_run(m_loop);
     return m_announced ? 0 : 1;
 }
@@ -123,9 +120,8 @@ void LabCamera::connectStream()
     pw_properties *properties = pw_properties_new(
         PW_KEY_MEDIA_CLASS, "Video/Source", PW_KEY_MEDIA_ROLE, "Camera", PW_KEY_NODE_NAME,
         m_options.name.c_str(), PW_KEY_NODE_DESCRIPTION, m_options.description.c_str(), nullptr);
-    if (!m_options.serial.empty()) {
+    if (!m_options.serial.empty())
         pw_properties_set(properties, PW_KEY_DEVICE_SERIAL, m_options.serial.c_str());
-    }
     m_stream = pw_stream_new_simple(pw_main_loop_get_loop(m_loop), m_options.name.c_str(),
                                     properties, m_events.get(), this);
     if (!m_stream) {
@@ -136,9 +132,8 @@ void LabCamera::connectStream()
     spa_pod_builder builder = {};
     spa_pod_builder_init(&builder, memory.data(), uint32_t(memory.size()));
     std::vector<const spa_pod *> offers;
-    for (const QSize size : m_options.sizes) {
+    for (const QSize size : m_options.sizes)
         offers.push_back(offer(&builder, m_options.format, size, m_options.rate));
-    }
     pw_stream_connect(m_stream, PW_DIRECTION_OUTPUT, PW_ID_ANY,
                       pw_stream_flags(PW_STREAM_FLAG_DRIVER | PW_STREAM_FLAG_MAP_BUFFERS),
                       offers.data(), uint32_t(offers.size()));
@@ -153,9 +148,8 @@ void LabCamera::stateChanged(int state)
         std::printf("ready %u\n", pw_stream_get_node_id(m_stream));
         std::fflush(stdout);
     }
-    if (state == PW_STREAM_STATE_ERROR || state == PW_STREAM_STATE_UNCONNECTED) {
+    if (state == PW_STREAM_STATE_ERROR || state == PW_STREAM_STATE_UNCONNECTED)
         pw_main_loop_quit(m_loop);
-    }
 }
 
 void LabCamera::formatChosen(const spa_pod *format)
@@ -165,9 +159,8 @@ void LabCamera::formatChosen(const spa_pod *format)
         return;
     }
     spa_video_info info = {};
-    if (spa_format_video_parse(format, &info) < 0) {
+    if (spa_format_video_parse(format, &info) < 0)
         return;
-    }
     const spa_rectangle size =
         m_options.format == FramePainter::MJPG ? info.info.mjpg.size : info.info.raw.size;
     m_painter = std::make_unique<FramePainter>(
@@ -214,9 +207,8 @@ void LabCamera::tick()
 
 void LabCamera::sendFrame()
 {
-    if (!m_frameDue || !m_painter) {
+    if (!m_frameDue || !m_painter)
         return;
-    }
     m_frameDue = false;
     if (pw_buffer *buffer = pw_stream_dequeue_buffer(m_stream)) {
         fill(buffer);
@@ -241,9 +233,8 @@ void LabCamera::announceBeat()
 void LabCamera::fill(pw_buffer *buffer)
 {
     spa_data &data = buffer->buffer->datas[0];
-    if (!data.data) {
+    if (!data.data)
         return;
-    }
     data.chunk->offset = 0;
     data.chunk->stride = m_painter->stride();
     data.chunk->size = uint32_t(m_painter->paint(static_cast<uchar *>(data.data), m_counter));

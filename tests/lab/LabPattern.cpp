@@ -36,9 +36,8 @@ int difference(QRgb a, QRgb b)
 QRgb groundOf(const QString &cameraName)
 {
     uint sum = 0;
-    for (const QChar c : cameraName) {
+    for (const QChar c : cameraName)
         sum = sum * 31 + c.unicode();
-    }
     return QColor::fromHsv(int(sum * 67 % 360), 130, 140).rgb();
 }
 
@@ -64,54 +63,43 @@ bool cellIsWhite(int cell, quint32 counter)
 {
     constexpr int firstBit = 2;
     constexpr int check = firstBit + counterBits;
-    if (cell < firstBit) {
+    if (cell < firstBit)
         return cell == 0;
-    }
-    if (cell < check) {
+    if (cell < check)
         return ((counter >> (check - 1 - cell)) & 1U) != 0;
-    }
     bool odd = false;
-    for (int bit = 0; bit < counterBits; ++bit) {
+    for (int bit = 0; bit < counterBits; ++bit)
         odd ^= ((counter >> bit) & 1U) != 0;
-    }
     return cell == check ? odd : !odd;
 }
 
 QRgb colourAt(double x, double y, quint32 counter, QRgb ground)
 {
-    if (y < bandEdges[1]) {
+    if (y < bandEdges[1])
         return barColour(int(x * barCount));
-    }
-    if (y < bandEdges[2]) {
+    if (y < bandEdges[2])
         return cellIsWhite(int(x * cellCount), counter) ? 0xffffffff : 0xff000000;
-    }
-    if (y < bandEdges[3]) {
+    if (y < bandEdges[3])
         return counter % beatFrames == 0 ? 0xffffffff : ground;
-    }
     const bool blockRow = y >= bandEdges[3] && y < bandEdges[4];
-    if (blockRow && std::abs(x - blockCentre(counter)) < blockWidth / 2) {
+    if (blockRow && std::abs(x - blockCentre(counter)) < blockWidth / 2)
         return blockColour();
-    }
     return ground;
 }
 
 int counterOf(const QImage &picture)
 {
-    if (picture.isNull()) {
+    if (picture.isNull())
         return -1;
-    }
     const auto readCell = [&picture](int cell) {
         return looksWhite(pixelAt(picture, (cell + 0.5) / cellCount, 0.5));
     };
     quint32 counter = 0;
-    for (int cell = 2; cell < 2 + counterBits; ++cell) {
+    for (int cell = 2; cell < 2 + counterBits; ++cell)
         counter = counter << 1 | quint32(readCell(cell));
-    }
-    for (const int cell : {0, 1, cellCount - 2, cellCount - 1}) {
-        if (readCell(cell) != cellIsWhite(cell, counter)) {
+    for (const int cell : {0, 1, cellCount - 2, cellCount - 1})
+        if (readCell(cell) != cellIsWhite(cell, counter))
             return -1;
-        }
-    }
     return int(counter);
 }
 
@@ -130,18 +118,16 @@ QImage frame(int width, int height, quint32 counter, QRgb ground)
     QImage picture(width, height, QImage::Format_RGB32);
     for (int y = 0; y < height; ++y) {
         auto *row = reinterpret_cast<QRgb *>(picture.scanLine(y));
-        for (int x = 0; x < width; ++x) {
+        for (int x = 0; x < width; ++x)
             row[x] = colourAt((x + 0.5) / width, (y + 0.5) / height, counter, ground);
-        }
     }
     return picture;
 }
 
 int worstDifference(const QImage &picture, QRgb ground)
 {
-    if (picture.isNull()) {
+    if (picture.isNull())
         return 255;
-    }
     int worst = 0;
     for (int bar = 0; bar < barCount; ++bar) {
         const QRgb seen = pixelAt(picture, (bar + 0.5) / barCount, 1.0 / 6);

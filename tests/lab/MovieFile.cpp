@@ -198,10 +198,9 @@ int MovieFile::longestRepeat() const
 QVector<double> MovieFile::flashes() const
 {
     QVector<double> times;
-    for (int i = 0; i < m_frames.size(); ++i) {
+    for (int i = 0; i < m_frames.size(); ++i)
         if (m_frames[i].marked && (i == 0 || !m_frames[i - 1].marked))
             times.append(m_frames[i].time);
-    }
     return times;
 }
 

@@ -20,9 +20,8 @@ Program::Program(const QString &executable)
 
 Program::~Program()
 {
-    if (isRunning()) {
+    if (isRunning())
         kill();
-    }
 }
 
 void Program::setEnvironment(const QString &name, const QString &value)

@@ -42,11 +42,9 @@ bool Session::waitForMainWindow()
 
 Desktop::Window Session::mainWindow() const
 {
-    for (const Desktop::Window &window : m_desktop.windowsOf(m_program.pid())) {
-        if (window.geometry == m_desktop.screen()) {
+    for (const Desktop::Window &window : m_desktop.windowsOf(m_program.pid()))
+        if (window.geometry == m_desktop.screen())
             return window;
-        }
-    }
     return {};
 }
 
@@ -103,9 +101,8 @@ bool Session::pressWhenReady(WindowMap::Screen screen, const QString &button)
     const auto ready = [&] {
         return m_map.look(m_desktop.screenshot(), screen, button) == WindowMap::Up;
     };
-    if (!QTest::qWaitFor(ready, reactionLimit)) {
+    if (!QTest::qWaitFor(ready, reactionLimit))
         return false;
-    }
     press(screen, button);
     return true;
 }
@@ -131,23 +128,20 @@ bool Session::waitForPressable(WindowMap::Screen screen, const QStringList &butt
 
 bool Session::clickInSettings(const QString &objectName)
 {
-    if (!waitForDialog("Settings")) {
+    if (!waitForDialog("Settings"))
         return false;
-    }
     Setting twin(nullptr);
     const auto *control = twin.findChild<QWidget *>(objectName);
-    if (!control) {
+    if (!control)
         return false;
-    }
     m_desktop.click(WindowMap::inDialog(&twin, control, dialog().geometry.topLeft()));
     return true;
 }
 
 bool Session::answerExitQuestion(const QString &caption)
 {
-    if (!waitForDialog("Orvanta")) {
+    if (!waitForDialog("Orvanta"))
         return false;
-    }
     SaveConfirmDlg twin;
     for (const auto *button : twin.findChildren<QPushButton *>()) {
         if (button->text() == caption) {
@@ -160,9 +154,8 @@ bool Session::answerExitQuestion(const QString &caption)
 
 void Session::chooseCamera(int position)
 {
-    for (int i = 0; i < position; ++i) {
+    for (int i = 0; i < position; ++i)
         m_desktop.pressKey("Down");
-    }
     m_desktop.pressKey("Tab");
     m_desktop.pressKey("space");
 }

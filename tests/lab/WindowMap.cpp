@@ -56,12 +56,10 @@ QStringList WindowMap::rowOf(Screen screen) const
 
 QRect WindowMap::button(Screen screen, const QString &name) const
 {
-    if (name == "Close") {
+    if (name == "Close")
         return m_close;
-    }
-    if (name == "Settings") {
+    if (name == "Settings")
         return screen == LiveScreen || screen == PreviewScreen ? m_settings : QRect();
-    }
     if (screen == PreviewScreen) {
         return name == "Apply" ? m_geometry.acceptCell()
             : name == "Retry"  ? m_geometry.retryCell()
@@ -69,23 +67,20 @@ QRect WindowMap::button(Screen screen, const QString &name) const
     }
     const QStringList row = rowOf(screen);
     const int cell = row.indexOf(name);
-    if (cell < 0) {
+    if (cell < 0)
         return {};
-    }
     const bool isMovie = screen == MovieScreen || screen == PlayingScreen;
     double left = isMovie ? m_geometry.movieRowStart() : m_geometry.rowStart(row.size());
-    for (int i = 0; i < cell; ++i) {
+    for (int i = 0; i < cell; ++i)
         left += m_geometry.cellAt(left).width();
-    }
     return m_geometry.cellAt(left);
 }
 
 WindowMap::Look WindowMap::look(const QImage &screenshot, Screen screen, const QString &name)
 {
     const QRect place = button(screen, name);
-    if (place.isEmpty()) {
+    if (place.isEmpty())
         return Absent;
-    }
     const QImage seen = screenshot.copy(iconPart(place)).convertToFormat(QImage::Format_RGB32);
     const int state = bitmaps(name, place.size()).indexOf(seen);
     return state < 0 ? Absent : Look(state);
@@ -101,11 +96,9 @@ QStringList WindowMap::pressable(const QImage &screenshot, Screen screen)
     names << "Settings"
           << "Close";
     QStringList found;
-    for (const QString &name : qAsConst(names)) {
-        if (look(screenshot, screen, name) == Up) {
+    for (const QString &name : qAsConst(names))
+        if (look(screenshot, screen, name) == Up)
             found.append(name);
-        }
-    }
     return found;
 }
 
@@ -150,9 +143,8 @@ QPoint WindowMap::inDialog(QDialog *twin, const QWidget *control, QPoint topLeft
     twin->show();
     QPoint spot = control->rect().center();
     const auto *button = qobject_cast<const QAbstractButton *>(control);
-    if (button && button->isCheckable()) {
+    if (button && button->isCheckable())
         spot.setX(boxWidth / 2); // only the box and the text react, not the room beside them
-    }
     const QPoint place = topLeft + control->mapTo(twin, spot);
     twin->hide();
     return place;

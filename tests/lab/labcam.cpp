@@ -18,9 +18,8 @@ namespace {
 bool addSize(const std::string &text, LabCamera::Options *options)
 {
     const QStringList parts = QString::fromStdString(text).split('x');
-    if (parts.size() != 2) {
+    if (parts.size() != 2)
         return false;
-    }
     const QSize size(parts[0].toInt(), parts[1].toInt());
     options->sizes.push_back(size);
     return size.width() > 0 && size.height() > 0 && size.width() % 2 == 0 && size.height() % 2 == 0;
@@ -34,23 +33,22 @@ bool setRate(const std::string &text, LabCamera::Options *options)
 
 bool setOption(const std::string &option, const std::string &value, LabCamera::Options *options)
 {
-    if (option == "--name") {
+    if (option == "--name")
         options->name = value;
-    } else if (option == "--description") {
+    else if (option == "--description")
         options->description = value;
-    } else if (option == "--serial") {
+    else if (option == "--serial")
         options->serial = value;
-    } else if (option == "--beep") {
+    else if (option == "--beep")
         options->beepSink = value;
-    } else if (option == "--size") {
+    else if (option == "--size")
         return addSize(value, options);
-    } else if (option == "--rate") {
+    else if (option == "--rate")
         return setRate(value, options);
-    } else if (option == "--format") {
+    else if (option == "--format")
         return FramePainter::formatFromName(value, &options->format);
-    } else {
+    else
         return false;
-    }
     return true;
 }
 
@@ -70,9 +68,8 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "labcam: a camera needs a name and a size\n");
         return 2;
     }
-    if (options.description.empty()) {
+    if (options.description.empty())
         options.description = options.name;
-    }
     pw_init(&argc, &argv);
     int status = 0;
     {

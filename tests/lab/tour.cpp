@@ -27,9 +27,8 @@ public:
     // One stop: says what it is, and keeps a picture of the screen when the step worked.
     void stop(const char *name, const char *what, bool worked)
     {
-        if (!m_good) {
+        if (!m_good)
             return;
-        }
         m_good = worked;
         if (!worked) {
             std::fprintf(stderr, "tour: \"%s\" did not come up\n%s\n", what,
@@ -103,9 +102,8 @@ void photographASeries(Tour *tour, Session *user)
         for (int i = 0; i < count; ++i) {
             const int before = user->program().captured().size();
             if (!user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti")
-                || !QTest::qWaitFor([&] { return user->program().captured().size() > before; })) {
+                || !QTest::qWaitFor([&] { return user->program().captured().size() > before; }))
                 return false;
-            }
         }
         return true;
     };
@@ -131,9 +129,8 @@ void lookAround(Tour *tour, Session *user)
         "list", "The list of photos",
         user->pressWhenReady(WindowMap::PhotoScreen, "List")
             && user->waitForPressable(WindowMap::ListScreen, {"Live", "SwitchMovie", "Close"}));
-    for (int i = 0; i < 2; ++i) {
+    for (int i = 0; i < 2; ++i)
         user->desktop().click(user->map().thumbnail(i).center());
-    }
     tour->stop("selection", "Two of them selected, the last one shown",
                QTest::qWaitFor([user] { return user->isStillAt(user->map().selectionRect()); }));
     tour->stop("settings", "The settings",

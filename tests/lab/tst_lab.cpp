@@ -47,9 +47,8 @@ public:
     {
         GstSample *sample = gst_app_sink_try_pull_sample(GST_APP_SINK(m_sink),
                                                          GstClockTime(milliseconds) * GST_MSECOND);
-        if (!sample) {
+        if (!sample)
             return {};
-        }
         m_lastTime = double(GST_BUFFER_PTS(gst_sample_get_buffer(sample))) / GST_SECOND;
         GstVideoInfo info;
         gst_video_info_from_caps(&info, gst_sample_get_caps(sample));
@@ -70,9 +69,8 @@ public:
     bool nextToneBegin(bool *silent, QVector<double> *begins)
     {
         GstSample *sample = gst_app_sink_try_pull_sample(GST_APP_SINK(m_sound), 2 * GST_SECOND);
-        if (!sample) {
+        if (!sample)
             return false;
-        }
         GstBuffer *buffer = gst_sample_get_buffer(sample);
         GstMapInfo map;
         gst_buffer_map(buffer, &map, GST_MAP_READ);
@@ -80,9 +78,8 @@ public:
         int quiet = 0;
         for (gsize i = 0; i < map.size / sizeof(qint16); ++i) {
             const bool loud = qAbs(int(samples[i])) > 2000;
-            if (loud && *silent) {
+            if (loud && *silent)
                 begins->append(double(GST_BUFFER_PTS(buffer)) / GST_SECOND + double(i) / 48000);
-            }
             quiet = loud ? 0 : quiet + 1;
             *silent = !loud && (*silent || quiet > 100);
         }
@@ -94,9 +91,8 @@ public:
     QVector<int> counters(int frames)
     {
         QVector<int> seen;
-        for (int i = 0; i < frames; ++i) {
+        for (int i = 0; i < frames; ++i)
             seen.append(LabPattern::counterOf(next()));
-        }
         return seen;
     }
 
@@ -123,9 +119,8 @@ QString outputOf(const QString &program, const QStringList &arguments)
 int gapsIn(const QVector<int> &counters)
 {
     int gaps = 0;
-    for (int i = 1; i < counters.size(); ++i) {
+    for (int i = 1; i < counters.size(); ++i)
         gaps += counters[i] == counters[i - 1] + 1 ? 0 : 1;
-    }
     return gaps;
 }
 
@@ -308,9 +303,8 @@ void TestLab::theToneIsHeardWhenItsFrameIsSeen()
             seen.append(receiver.lastTime());
         }
     }
-    while (heard.isEmpty() || heard.last() < seen.last() - 0.5) {
+    while (heard.isEmpty() || heard.last() < seen.last() - 0.5)
         QVERIFY(receiver.nextToneBegin(&silent, &heard));
-    }
     QCOMPARE(labctl({"unplug", "beeper"}), 0);
     const double offset = heard.last() - seen.last();
     QVERIFY2(qAbs(offset) < 0.05, qPrintable(QString::number(offset)));

@@ -22,11 +22,9 @@ QString photoName(int number)
 QString black(const QImage &picture)
 {
     for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixelColor(x, y) != QColor(Qt::black)) {
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixelColor(x, y) != QColor(Qt::black))
                 return QString("not black at %1, %2").arg(x).arg(y);
-            }
-        }
     }
     return "black";
 }
@@ -65,9 +63,8 @@ void TestBrowsing::init()
         return LabPattern::frame(cameraSize.width(), cameraSize.height(), quint32(counter),
                                  LabPattern::groundOf("cam1"));
     };
-    for (int i = 1; i <= photos; ++i) {
+    for (int i = 1; i <= photos; ++i)
         QVERIFY(frame(i).save(area + "/" + photoName(i)));
-    }
     QVERIFY(frame(movieCounter).save(area + "/movie20090304090507tmp.png"));
     QVERIFY(write("movie20090304090507.mov", "no movie that could be played"));
 }
@@ -129,9 +126,8 @@ void TestBrowsing::photosAndMoviesAreListedApart()
 void TestBrowsing::viewShowsUpToNinePhotosSideBySide_data()
 {
     QTest::addColumn<int>("count");
-    for (const int count : {1, 2, 4, 5, 9}) {
+    for (const int count : {1, 2, 4, 5, 9})
         QTest::addRow("%d", count) << count;
-    }
 }
 
 void TestBrowsing::viewShowsUpToNinePhotosSideBySide()
@@ -142,9 +138,8 @@ void TestBrowsing::viewShowsUpToNinePhotosSideBySide()
     QVERIFY(m_user->waitForPressable(WindowMap::ListScreen, {"Live", "SwitchMovie", "Close"}));
     select(count);
     QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Show"));
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < count; ++i)
         QTRY_COMPARE(counterAt(m_user->map().tile(count, i)), i + 1);
-    }
     QVERIFY(
         m_user->waitForPressable(WindowMap::PhotoScreen, {"Live", "PutPhoto", "List", "Close"}));
 }
@@ -161,9 +156,8 @@ void TestBrowsing::zoomFillsThePictureAreaAndBackReturns()
     m_user->desktop().click(map.cornerButton(map.tile(4, 2)));
     QTRY_COMPARE(counterAt(map.videoRect()), 3);
     m_user->desktop().click(map.cornerButton(map.videoRect()));
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 4; ++i)
         QTRY_COMPARE(counterAt(map.tile(4, i)), i + 1);
-    }
 }
 
 void TestBrowsing::whatIsShownIsPasted()

@@ -21,11 +21,9 @@ bool TestKeyboard::isMarked(Session *user, const QString &button)
 {
     const QRgb mark = qRgb(255, 214, 0);
     const QImage seen = user->seenAt(user->map().button(WindowMap::LiveScreen, button));
-    for (int x = 0; x < 10; ++x) {
-        if (seen.pixel(x, seen.height() / 2) == mark) {
+    for (int x = 0; x < 10; ++x)
+        if (seen.pixel(x, seen.height() / 2) == mark)
             return true;
-        }
-    }
     return false;
 }
 

@@ -71,9 +71,8 @@ void TestLosingMidway::init()
 
 void TestLosingMidway::cleanup()
 {
-    if (m_user->program().pid() != 0) {
+    if (m_user->program().pid() != 0)
         QVERIFY2(m_user->program().isRunning(), qPrintable(m_user->program().output()));
-    }
     m_user.reset();
     labctl({"unplug", "cam1"});
     QVERIFY(labctl({"plug", "cam1", "1280x720"}));
@@ -98,9 +97,8 @@ void TestLosingMidway::showTwoPhotos()
         QTRY_COMPARE(m_user->counterAt(map.selectionRect()), i + 1);
     }
     QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Show"));
-    for (const int i : {0, 1}) {
+    for (const int i : {0, 1})
         QTRY_COMPARE(m_user->counterAt(map.tile(2, i)), i + 1);
-    }
 }
 
 // Up to the message, which stays open.
@@ -223,9 +221,8 @@ void TestLosingMidway::withPhotosSideBySide()
     pullTheCable();
     QVERIFY(m_user->confirmMessage());
     expectOnlyListAndExit();
-    for (const int i : {0, 1}) {
+    for (const int i : {0, 1})
         QCOMPARE(m_user->counterAt(m_user->map().tile(2, i)), -1);
-    }
     expectTheWayBack();
     QCOMPARE(m_user->program().captured(), captured);
 }

@@ -46,9 +46,8 @@ void TestMissingMicrophone::whatIsMissingIsToldOnce()
         QVERIFY(labctl(camera ? QStringList{"plug", "cam1", "1280x720"}
                               : QStringList{"unplug", "cam1"}));
     }
-    if (microphone != m_microphone) {
+    if (microphone != m_microphone)
         QVERIFY(labctl({"microphone", microphone ? "on" : "off"}));
-    }
     m_camera = camera;
     m_microphone = microphone;
 

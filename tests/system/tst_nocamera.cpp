@@ -43,9 +43,8 @@ void TestNoCamera::theUserIsToldAndOnlyListAndExitAreLeft()
 
 void TestNoCamera::deadButtonsDoNothing()
 {
-    for (const char *name : {"Live", "Photo", "PhotoMulti", "Movie", "Settings"}) {
+    for (const char *name : {"Live", "Photo", "PhotoMulti", "Movie", "Settings"})
         m_user->press(WindowMap::LiveScreen, name);
-    }
     QVERIFY(m_user->waitForPressable(WindowMap::LiveScreen, {"List", "Close"}));
     QCOMPARE(m_user->dialog().id, 0U);
     QCOMPARE(m_user->program().captured(), QStringList());

@@ -26,9 +26,8 @@ bool linkProgram(const QString &folder)
     for (const QString &name : names) {
         const QByteArray file = QFile::encodeName(QFileInfo(from, name).canonicalFilePath());
         if (link(file.constData(), QFile::encodeName(folder + QLatin1Char('/') + name).constData())
-            != 0) {
+            != 0)
             return false;
-        }
     }
     return !names.isEmpty();
 }
@@ -70,12 +69,10 @@ void StartLanguagesTest::cleanup()
 {
     // Ended, not killed: a camera does not get back what a killed program had of it.
     const auto windows = m_desktop.windowsOf(m_program->pid());
-    for (auto window = windows.crbegin(); window != windows.crend(); ++window) {
+    for (auto window = windows.crbegin(); window != windows.crend(); ++window)
         m_desktop.closeWindow(window->id);
-    }
-    if (!m_program->hasEndedWithin(kPatienceMs)) {
+    if (!m_program->hasEndedWithin(kPatienceMs))
         QWARN("the program did not end when its windows were closed");
-    }
     m_program.reset();
     m_folder.reset();
 }
@@ -84,9 +81,8 @@ void StartLanguagesTest::cleanup()
 /// a language was taken away, and waits for the window.
 void StartLanguagesTest::startWith(const QString &stored, const QString &missing)
 {
-    if (!missing.isEmpty()) {
+    if (!missing.isEmpty())
         QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("qvexplugin_%1.qm").arg(missing))));
-    }
     m_program->setLanguage(stored);
     m_program->start();
     QTRY_VERIFY2_WITH_TIMEOUT(isOnTop(QStringLiteral("Orvanta")), qPrintable(m_program->output()),
@@ -140,9 +136,8 @@ void StartLanguagesTest::speaksTheWhiteboardsLanguage()
     QFETCH(QString, missing);
     QFETCH(QString, settings);
     startWith(stored, missing);
-    if (QTest::currentTestFailed()) {
+    if (QTest::currentTestFailed())
         return;
-    }
     QVERIFY(m_program->isRunning());
     m_desktop.click(middleOfSmallButton(1));
     QTRY_COMPARE_WITH_TIMEOUT(m_desktop.topWindowOf(m_program->pid()).title, settings, kPatienceMs);
@@ -167,9 +162,8 @@ void StartLanguagesTest::theSaveQuestionReadsInTheDirectionOfTheLanguage()
     QVERIFY(QDir().mkpath(m_program->temporaryArea()));
     QVERIFY(QImage(4, 3, QImage::Format_RGB32).save(photo));
     startWith(stored, missing);
-    if (QTest::currentTestFailed()) {
+    if (QTest::currentTestFailed())
         return;
-    }
     const quint32 window = m_desktop.topWindowOf(m_program->pid()).id;
     m_desktop.click(middleOfSmallButton(0));
     QTRY_VERIFY_WITH_TIMEOUT(m_desktop.topWindowOf(m_program->pid()).id != window, kPatienceMs);

@@ -66,11 +66,9 @@ bool TestTakingASeries::showsSideBySide(const QStringList &photos) const
     const auto isShown = [&](int i) {
         return m_user->counterAt(m_user->map().tile(photos.size(), i)) == counterInFile(photos[i]);
     };
-    for (int i = 0; i < photos.size(); ++i) {
-        if (counterInFile(photos[i]) < 0 || !QTest::qWaitFor([&] { return isShown(i); }, 4000)) {
+    for (int i = 0; i < photos.size(); ++i)
+        if (counterInFile(photos[i]) < 0 || !QTest::qWaitFor([&] { return isShown(i); }, 4000))
             return false;
-        }
-    }
     return true;
 }
 

@@ -46,9 +46,8 @@ Status XQueryTree(Display *, Window window, Window *root, Window *parent, Window
                   unsigned int *childCount)
 {
     note("XQueryTree", window);
-    if (FakeXlib::queryFails) {
+    if (FakeXlib::queryFails)
         return 0;
-    }
     *root = 1;
     *parent = FakeXlib::frame;
     *childCount = FakeXlib::returnsChildren ? 1 : 0;

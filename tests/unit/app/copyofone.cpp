@@ -24,9 +24,8 @@ int main(int argc, char **argv)
     QtSingleApplication application("OrvantaTest", argc, argv);
     QObject::connect(&application, &QtSingleApplication::messageReceived,
                      [](const QString &message) { say("got " + message); });
-    if (application.sendMessage("Wake up!", QString(argv[1]).toInt())) {
+    if (application.sendMessage("Wake up!", QString(argv[1]).toInt()))
         return 0;
-    }
     say(application.isRunning() ? "runs beside another" : "runs");
 
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);

@@ -13,9 +13,8 @@ void setWhiteboardLanguage(const QVariant &locale)
 {
     QSettings settings(QSettings::UserScope, "MerovexSolutions", "Tavelin Software");
     settings.clear();
-    if (locale.isValid()) {
+    if (locale.isValid())
         settings.setValue("locale", locale);
-    }
     settings.sync();
 }
 
@@ -83,9 +82,8 @@ void tst_CTranslator::theLanguageIsTheWhiteboardsAsFarAsThereIsAFile()
     QFETCH(QVariant, stored);
     QFETCH(QStringList, files);
     setWhiteboardLanguage(stored);
-    for (const QString &file : qAsConst(files)) {
+    for (const QString &file : qAsConst(files))
         QVERIFY(touch(m_dir->filePath("prefix_" + file + ".qm")));
-    }
     QTEST(CTranslator::getLocale(m_dir->path(), "prefix_"), "locale");
 }
 

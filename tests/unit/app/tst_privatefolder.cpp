@@ -75,9 +75,8 @@ void tst_PrivateFolder::anUnfitSessionFolderIsPassedOver()
 {
     QFETCH(QString, name);
     QFETCH(int, mode);
-    if (mode != 0) {
+    if (mode != 0)
         QVERIFY(setMode(m_session, mode_t(mode)));
-    }
     const QString session = name.isEmpty() ? QString() : m_dir->filePath(name);
     QCOMPARE(PrivateFolder::find(session, m_dir->path()), own());
 }

@@ -125,9 +125,8 @@ void tst_QtSingleApplication::ofCopiesStartedAtOnceExactlyOneRuns()
 {
     for (int round = 0; round < 4; ++round) {
         std::vector<std::unique_ptr<Copy>> copies(3);
-        for (auto &copy : copies) {
+        for (auto &copy : copies)
             copy = std::make_unique<Copy>(m_runtime->path(), 20000);
-        }
         const auto count = [&](bool (Copy::*is)() const) {
             return std::count_if(copies.begin(), copies.end(),
                                  [is](const auto &copy) { return ((*copy).*is)(); });

@@ -20,10 +20,9 @@ private:
 void TestCapturedPicture::aPhotoIsLoadedPixelForPixel()
 {
     QImage picture(333, 222, QImage::Format_RGB32);
-    for (int y = 0; y < picture.height(); ++y) {
+    for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)
             picture.setPixel(x, y, qRgb(x % 256, y, (x * y) % 256));
-    }
     QVERIFY(CaptureFolder::save("photo1.png", picture));
     const QImage loaded = CapturedPicture::load("photo1.png").toImage();
     QCOMPARE(loaded.convertToFormat(QImage::Format_RGB32), picture);

@@ -293,10 +293,9 @@ void TestCStretchBitmapButton::captionsAreWhiteAndDimmerWhenDisabled()
 
     const QImage shown = stage.window.grab(QRect(0, 0, 200, 60)).toImage();
     int lightest = 0;
-    for (int y = 0; y < shown.height(); ++y) {
+    for (int y = 0; y < shown.height(); ++y)
         for (int x = 0; x < shown.width(); ++x)
             lightest = qMax(lightest, qGray(shown.pixel(x, y)));
-    }
     QVERIFY2(lightest <= brightest && lightest >= dimmest,
              QByteArray::number(lightest).constData());
 }

@@ -13,10 +13,9 @@ namespace {
 QImage speckled(QSize size, QImage::Format format)
 {
     QImage picture(size, QImage::Format_ARGB32);
-    for (int y = 0; y < size.height(); ++y) {
+    for (int y = 0; y < size.height(); ++y)
         for (int x = 0; x < size.width(); ++x)
             picture.setPixel(x, y, qRgba(x * 7 % 256, y * 5 % 256, (x + y) % 256, 80 + x % 100));
-    }
     return picture.convertToFormat(format);
 }
 
@@ -178,7 +177,8 @@ void TestPictureLoader::aReceiverThatForgetsGetsNothingMore()
     int toLeft = 0;
     int toThis = 0;
     for (int i = 0; i < 20; ++i) {
-        loader.later(photo(i), QSize(30, 30), &left, [&](const QImage &) { ++toLeft; });
+        loader.later(
+            photo(i), QSize(30, 30), &left, [&](const QImage &) { ++toLeft; });
         loader.later(photo(i), QSize(40, 40), this, [&](const QImage &) { ++toThis; });
     }
     loader.forget(&left);

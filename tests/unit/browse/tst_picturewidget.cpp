@@ -26,10 +26,9 @@ QRect litArea(PictureWidget &widget)
     const QImage shown = widget.grab().toImage();
     QRect lit;
     for (int y = 0; y < shown.height(); ++y) {
-        for (int x = 0; x < shown.width(); ++x) {
+        for (int x = 0; x < shown.width(); ++x)
             if (shown.pixelColor(x, y) != black)
                 lit |= QRect(x, y, 1, 1);
-        }
     }
     return lit;
 }
@@ -38,10 +37,9 @@ QRect litArea(PictureWidget &widget)
 QImage stripes(QSize size)
 {
     QImage picture(size, QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y) {
+    for (int y = 0; y < size.height(); ++y)
         for (int x = 0; x < size.width(); ++x)
             picture.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
-    }
     return picture;
 }
 
@@ -325,9 +323,8 @@ void TestPictureWidget::assistiveToolsAreToldWhatTheButtonsDo()
     widget.ListMode();
     const auto buttons = widget.findChildren<CStretchBitmapButton *>();
     QCOMPARE(buttons.size(), 2);
-    for (const CStretchBitmapButton *one : buttons) {
+    for (const CStretchBitmapButton *one : buttons)
         QVERIFY(!one->accessibleDescription().isEmpty());
-    }
     // Not the names of the bitmaps, which are the same in every language.
     QCOMPARE(button(widget, "Zoom")->accessibleName(), QString("Enlarge this photo"));
     QCOMPARE(button(widget, "Back")->accessibleName(), QString("Back to all photos"));

@@ -21,9 +21,8 @@ QStringList s_warnings; // what Qt complains about while complaints are collecte
 
 void collectWarning(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
-    if (type != QtDebugMsg && type != QtInfoMsg) {
+    if (type != QtDebugMsg && type != QtInfoMsg)
         s_warnings.append(text);
-    }
 }
 
 /// The frame that the engine was given, null when it is not the widget's own.
@@ -135,9 +134,8 @@ void LiveVideoWidgetTest::isBlackBeforeTheFirstPictureAndPaintsNothingItself()
     widget.setGeometry(50, 0, 100, 100);
     QCOMPARE(widget.paintEngine(), nullptr);
     for (const Qt::WidgetAttribute attribute :
-         {Qt::WA_OpaquePaintEvent, Qt::WA_NoSystemBackground, Qt::WA_PaintOnScreen}) {
+         {Qt::WA_OpaquePaintEvent, Qt::WA_NoSystemBackground, Qt::WA_PaintOnScreen})
         QVERIFY(!widget.testAttribute(attribute));
-    }
 
     s_warnings.clear();
     const QtMessageHandler usual = qInstallMessageHandler(collectWarning);

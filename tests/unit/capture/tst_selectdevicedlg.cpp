@@ -21,9 +21,8 @@ QComboBox *boxOf(const SelectDeviceDlg &dialog)
 QStringList shownNames(const SelectDeviceDlg &dialog)
 {
     QStringList names;
-    for (int i = 0; i < boxOf(dialog)->count(); ++i) {
+    for (int i = 0; i < boxOf(dialog)->count(); ++i)
         names.append(boxOf(dialog)->itemText(i));
-    }
     return names;
 }
 

@@ -19,9 +19,8 @@ QTimer *clockOf(const TimerWidget &widget)
 /// What happens when a second is over, without waiting for it.
 void tick(const TimerWidget &widget, int times = 1)
 {
-    for (int i = 0; i < times; ++i) {
+    for (int i = 0; i < times; ++i)
         QVERIFY(QMetaObject::invokeMethod(clockOf(widget), "timeout"));
-    }
 }
 
 void beBusyFor(int milliseconds)

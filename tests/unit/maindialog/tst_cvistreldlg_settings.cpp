@@ -14,11 +14,13 @@ namespace {
 // Presses "Settings"; once the box stands, unchecks the preview and leaves by @p button.
 void changePreview(DialogFixture &fixture, const QString &button)
 {
-    QTimer::singleShot(0, qApp, [] {
-        QWidget *box = QApplication::activeModalWidget();
-        if (box)
-            box->findChild<QCheckBox *>(QStringLiteral("chbPhotoPreview"))->setChecked(false);
-    });
+    QTimer::singleShot(
+        0, qApp,
+        [] {
+            QWidget *box = QApplication::activeModalWidget();
+            if (box)
+                box->findChild<QCheckBox *>(QStringLiteral("chbPhotoPreview"))->setChecked(false);
+        });
     DialogFixture::boxDuring([&] { fixture.click("Settings"); }, button);
 }
 

@@ -115,9 +115,8 @@ void TestResources::buttonRows()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QSize>("size");
-    for (const Button &button : buttons) {
+    for (const Button &button : buttons)
         QTest::newRow(button.name) << QString(button.name) << decidedSize(button.kind);
-    }
 }
 
 void TestResources::everyBitmapLoadsInItsDecidedSize_data()
@@ -153,11 +152,9 @@ void TestResources::theThreeStatesOfAButtonDifferVisibly()
 void TestResources::theIconLeavesTheRightThreeFifthsToTheCaption_data()
 {
     QTest::addColumn<QString>("name");
-    for (const Button &button : buttons) {
-        if (button.kind != Kind::Tile) {
+    for (const Button &button : buttons)
+        if (button.kind != Kind::Tile)
             QTest::newRow(button.name) << QString(button.name);
-        }
-    }
 }
 
 void TestResources::theIconLeavesTheRightThreeFifthsToTheCaption()
@@ -170,11 +167,9 @@ void TestResources::theIconLeavesTheRightThreeFifthsToTheCaption()
         const QImage image = bitmap(name, state);
         const QRgb face = faceColour(image);
         for (int y = rim; y < image.height() - rim; ++y) {
-            for (int x = image.width() * 2 / 5; x < image.width() - corner; ++x) {
-                if (image.pixel(x, y) != face) {
+            for (int x = image.width() * 2 / 5; x < image.width() - corner; ++x)
+                if (image.pixel(x, y) != face)
                     QFAIL(qPrintable(QString("%1 at %2,%3").arg(state).arg(x).arg(y)));
-                }
-            }
         }
     }
 }
@@ -191,11 +186,9 @@ void TestResources::everyIconCanBeMadeOutInEveryState()
         const QRgb face = faceColour(image);
         const double wanted = state == "ds" ? 1.7 : 2.5;
         int drawn = 0;
-        for (int y = iconArea.top(); y <= iconArea.bottom(); ++y) {
-            for (int x = iconArea.left(); x <= iconArea.right(); ++x) {
+        for (int y = iconArea.top(); y <= iconArea.bottom(); ++y)
+            for (int x = iconArea.left(); x <= iconArea.right(); ++x)
                 drawn += contrast(image.pixel(x, y), face) >= wanted ? 1 : 0;
-            }
-        }
         const double share = double(drawn) / (iconArea.width() * iconArea.height());
         QVERIFY2(share > 0.10 && share < 0.60, qPrintable(state + ": " + QString::number(share)));
     }

@@ -770,10 +770,9 @@ void SettingTest::theKeyboardWalksThroughTheControlsInOrder()
                                "btnCancel"};
     QStringList walked;
     for (const QWidget *widget = selfTimer(dialog)->nextInFocusChain(); widget != selfTimer(dialog);
-         widget = widget->nextInFocusChain()) {
+         widget = widget->nextInFocusChain())
         if (order.contains(widget->objectName()))
             walked.append(widget->objectName());
-    }
     QCOMPARE(walked, order);
 }
 

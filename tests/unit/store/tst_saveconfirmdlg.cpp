@@ -26,10 +26,9 @@ QStringList captionsFromLeftToRight(const SaveConfirmDlg &dialog)
 
 void press(SaveConfirmDlg &dialog, const QString &caption)
 {
-    for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
+    for (QPushButton *button : dialog.findChildren<QPushButton *>())
         if (button->text() == caption)
             QTest::mouseClick(button, Qt::LeftButton);
-    }
 }
 
 } // namespace

@@ -16,9 +16,8 @@ inline QStringList languages()
 inline void addLanguageRows()
 {
     QTest::addColumn<QString>("language");
-    for (const QString &language : languages()) {
+    for (const QString &language : languages())
         QTest::newRow(qPrintable(language)) << language;
-    }
 }
 
 #endif

@@ -94,16 +94,13 @@ QByteArray clippedTextsOf(const QWidget &box)
     const auto look = [&](const QWidget &widget, const QString &text, QSize needed) {
         const QSize visible =
             widget.geometry().intersected(widget.parentWidget()->contentsRect()).size();
-        if (!text.isEmpty() && !fits(needed, visible)) {
+        if (!text.isEmpty() && !fits(needed, visible))
             clipped += complaint(text, needed, visible) + '\n';
-        }
     };
-    for (const QLabel *label : box.findChildren<QLabel *>()) {
+    for (const QLabel *label : box.findChildren<QLabel *>())
         look(*label, label->text(), label->wordWrap() ? neededBy(*label) : label->sizeHint());
-    }
-    for (const QAbstractButton *button : box.findChildren<QAbstractButton *>()) {
+    for (const QAbstractButton *button : box.findChildren<QAbstractButton *>())
         look(*button, button->text(), button->sizeHint());
-    }
     return clipped;
 }
 
@@ -133,9 +130,8 @@ QByteArray clippedCaptionsOf(const QWidget &window)
         const QLabel *caption = captionOf(*button);
         const QSize needed = neededBy(*caption);
         const QSize available = caption->size() - QSize(kRimPx, 0);
-        if (!fits(needed, available)) {
+        if (!fits(needed, available))
             clipped += complaint(caption->text(), needed, available) + '\n';
-        }
     }
     return clipped;
 }
@@ -147,13 +143,11 @@ QByteArray troubleWithBoxOf(const std::function<void()> &action)
     QTimer glance;
     QObject::connect(&glance, &QTimer::timeout, [&trouble] {
         QWidget *box = QApplication::activeModalWidget();
-        if (!box || !box->isVisible()) {
+        if (!box || !box->isVisible())
             return;
-        }
         trouble = clippedTextsOf(*box);
-        if (!QRect(QPoint(), kScreen).contains(box->geometry())) {
+        if (!QRect(QPoint(), kScreen).contains(box->geometry()))
             trouble += "a box larger than the screen";
-        }
         box->close();
     });
     glance.start(0);
@@ -229,9 +223,8 @@ void TranslatedLayoutTest::speak(const QString &language)
     QVERIFY(m_translator->load(QStringLiteral("qvexplugin_") + language,
                                QStringLiteral(PROGRAM_FOLDER)));
     QVERIFY(QCoreApplication::installTranslator(m_translator.get()));
-    if (language == QLatin1String("ar") || language == QLatin1String("he")) {
+    if (language == QLatin1String("ar") || language == QLatin1String("he"))
         QApplication::setLayoutDirection(Qt::RightToLeft);
-    }
 }
 
 void TranslatedLayoutTest::everyCaptionFitsItsButton()
@@ -270,17 +263,15 @@ void TranslatedLayoutTest::tilesShowTheirNumbersAndButtonsWhole()
     DialogFixture fixture;
     CVistrelDlg &window = fixture.build();
     QStringList names;
-    for (int i = 0; i < kMostTiles; ++i) {
+    for (int i = 0; i < kMostTiles; ++i)
         names.append(QStringLiteral("photo%1.png").arg(i)); // none is there: the tiles stay black
-    }
     window.SetPictureListMode(names);
     int tiles = 0;
     for (PictureWidget *tile :
          window.findChildren<PictureWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
         const auto *zoom = tile->findChild<CStretchBitmapButton *>(QStringLiteral("Zoom"));
-        if (!zoom) {
+        if (!zoom)
             continue; // the view of single photos
-        }
         ++tiles;
         QVERIFY(zoom->isVisible() && !zoom->size().isEmpty());
         QVERIFY(tile->rect().contains(zoom->geometry()));
@@ -301,19 +292,15 @@ void TranslatedLayoutTest::theFontsHaveEveryLetter()
                              Text{"PictureWidget", "Shows this photo as large as possible"},
                              Text{"TimerWidget", "Self-timer, recording time or playing time"},
                              Text{"SaveConfirmDlg", "Do you want to save the Photo / Movie data?"},
-                             Text{"QPlatformTheme", "Cancel"}}) {
+                             Text{"QPlatformTheme", "Cancel"}})
         texts.append(inLanguage(text));
-    }
-    for (const Text &message : kMessages) {
+    for (const Text &message : kMessages)
         texts.append(inLanguage(message));
-    }
     DialogFixture fixture;
-    for (const CStretchBitmapButton *button : buttonsOf(fixture.build())) {
+    for (const CStretchBitmapButton *button : buttonsOf(fixture.build()))
         texts.append(captionOf(*button)->text().remove(QLatin1Char('\n')));
-    }
-    for (const QString &text : qAsConst(texts)) {
+    for (const QString &text : qAsConst(texts))
         QVERIFY2(!hasALetterWithoutAShape(text, font), qPrintable(text));
-    }
 }
 
 void TranslatedLayoutTest::aLetterThatNoFontHasIsNoticed()

@@ -26,16 +26,14 @@ struct Message {
 QVector<Message> readMessages(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly))
         return {};
-    }
     QVector<Message> messages;
     QString context;
     QXmlStreamReader xml(&file);
     while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
-        }
         if (xml.name() == QLatin1String("name")) {
             context = xml.readElementText();
         } else if (xml.name() == QLatin1String("source")) {
@@ -57,9 +55,8 @@ QVector<Message> messagesOf(const QString &language)
 QStringList sortedKeys(const QVector<Message> &messages)
 {
     QStringList keys;
-    for (const Message &message : messages) {
+    for (const Message &message : messages)
         keys.append(message.key());
-    }
     keys.sort();
     return keys;
 }
@@ -213,9 +210,8 @@ void TranslationSourcesTest::theCompiledFileBesideTheProgramHoldsEveryText()
 void TranslationSourcesTest::noSourceIsLeftOutOfTheList()
 {
     QStringList expected;
-    for (const QString &language : languages()) {
+    for (const QString &language : languages())
         expected.append(QStringLiteral("qvexplugin_%1.ts").arg(language));
-    }
     expected.sort();
     const QDir folder(QStringLiteral(SOURCE_FOLDER "/translations"));
     QCOMPARE(folder.entryList({"*.ts"}, QDir::Files, QDir::Name), expected);
