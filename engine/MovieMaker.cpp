@@ -39,15 +39,16 @@ void MovieMaker::record(const QString &path, const GstVideoInfo &format)
     if (m_recorder)
         return;
     const MovieCoding found = coding();
-    if (!found.isComplete())
+    m_pictureFailed = !found.isComplete();
+    if (m_pictureFailed)
         return;
     m_microphone = Microphone::open(microphoneLimit);
     m_microphoneFailed = !m_microphone;
     if (m_microphoneFailed)
         return;
     m_recorder = MovieRecorder::start(path, format, found);
-    m_fileFailed = !m_recorder;
-    if (m_fileFailed) {
+    m_pictureFailed = !m_recorder;
+    if (m_pictureFailed) {
         m_microphone.reset();
         return;
     }
@@ -67,7 +68,7 @@ void MovieMaker::stop()
 
 bool MovieMaker::hasPicture() const
 {
-    return !m_fileFailed && coding().isComplete();
+    return !m_pictureFailed && coding().isComplete();
 }
 
 bool MovieMaker::hasSound() const

@@ -53,7 +53,7 @@ private:
     double m_searchedRate = 0;
     std::shared_ptr<MovieRecorder> m_recorder; ///< null while no movie is recorded
     std::unique_ptr<Microphone> m_microphone; ///< likewise
-    bool m_fileFailed = false;
+    bool m_pictureFailed = false; ///< no coder was known in time, or no file could be made
     bool m_microphoneFailed = false;
 };
 

@@ -20,6 +20,8 @@ int main(int argc, char *argv[])
     LiveVideoData engine;
     engine.SetVideoDevice(engine.GetVideoDeviceList().indexOf(arguments.value(1)));
     engine.Create();
+    // Each question waits a moment for the coder, which slow machines need some time to find.
+    for (int i = 0; i < 20 && !engine.IsValidVideoDevice(); ++i) { }
     engine.Record(arguments.value(2));
     if (!engine.created || !engine.IsValidVideoDevice() || !engine.IsValidAudioDevice()) {
         std::fprintf(stderr, "moviemaker: cannot record\n");

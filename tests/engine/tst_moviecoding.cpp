@@ -1,8 +1,12 @@
 #include "GstHandles.h"
 #include "GstStart.h"
 #include "MovieCoding.h"
+#include "MovieMaker.h"
+#include "MovieRecorder.h"
 
 #include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gst/gst.h>
@@ -107,6 +111,7 @@ private Q_SLOTS:
     void theBitRateFitsSizeAndRate();
     void aDriversCoderThatDoesNotWorkIsPassedOver_data();
     void aDriversCoderThatDoesNotWorkIsPassedOver();
+    void aMovieAskedForBeforeACoderIsKnownHasNotBegun();
     void anotherCoderTakesThePlaceOfOneThatIsMissing_data();
     void anotherCoderTakesThePlaceOfOneThatIsMissing();
     void whoCannotWaitGetsNoCoding();
@@ -157,6 +162,25 @@ void TestMovieCoding::aDriversCoderThatDoesNotWorkIsPassedOver()
     QVERIFY(tried > 0);
     QVERIFY2(coding.video.startsWith("x264enc "), coding.video.constData());
     QVERIFY(coding.isComplete());
+}
+
+// Known later it must not make the movie count as one that was begun.
+void TestMovieCoding::aMovieAskedForBeforeACoderIsKnownHasNotBegun()
+{
+    defect = Defect::Hangs;
+    QVERIFY(gst_element_register(nullptr, "vah264enc", GST_RANK_PRIMARY, useless_coder_get_type()));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("movie.mov");
+    GstVideoInfo format;
+    gst_video_info_set_format(&format, GST_VIDEO_FORMAT_I420, 640, 480);
+    MovieMaker maker;
+    maker.prepare({640, 480}, 30);
+    maker.record(path, format);
+    withoutElements({"vah264enc"});
+    QVERIFY(!maker.hasPicture());
+    QVERIFY(find().isComplete()); // takes as long as the maker's own search
+    QVERIFY(!maker.hasPicture());
+    QVERIFY(!QFile::exists(path));
 }
 
 void TestMovieCoding::anotherCoderTakesThePlaceOfOneThatIsMissing_data()
