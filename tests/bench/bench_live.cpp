@@ -7,44 +7,20 @@
 // Runs in a lab with the one camera "bench"; prints one number.
 
 #include "LiveVideoData.h"
+#include "ProcessorShare.h"
 #include "ScreenWatch.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFrame>
 #include <QTimer>
 
 #include <gst/gst.h>
 
 #include <cstdio>
-#include <sys/resource.h>
 
 namespace {
 
 const QSize shown(896, 504);
-const int settleTime = 1500; // ms
-
-double processorSeconds()
-{
-    rusage usage = {};
-    getrusage(RUSAGE_SELF, &usage);
-    return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec)
-        + double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
-}
-
-// Lets the program run and says which share of one processor it took.
-double shareOver(int seconds)
-{
-    double before = 0;
-    QElapsedTimer timer;
-    QTimer::singleShot(settleTime, qApp, [&] {
-        before = processorSeconds();
-        timer.start();
-    });
-    QTimer::singleShot(settleTime + seconds * 1000, qApp, &QApplication::quit);
-    QApplication::exec();
-    return (processorSeconds() - before) / (double(timer.nsecsElapsed()) / 1e9);
-}
 
 bool startEngine(LiveVideoData &engine, QFrame &target)
 {

@@ -16,6 +16,7 @@
 #include "LiveVideoData.h"
 #include "MovieFile.h"
 #include "MovieWidget.h"
+#include "ProcessorShare.h"
 #include "ScreenWatch.h"
 
 #include <QApplication>
@@ -27,36 +28,13 @@
 #include <gst/gst.h>
 
 #include <cstdio>
-#include <sys/resource.h>
 
 namespace {
 
 const QSize shown(896, 504);
-const int settleTime = 1500; // ms
 const int longestBaseline = 20; // s
 const double framePeriod = 1000.0 / 30; // ms
 const int patience = 10000; // ms
-
-double processorSeconds()
-{
-    rusage usage = {};
-    getrusage(RUSAGE_SELF, &usage);
-    return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec)
-        + double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
-}
-
-double shareOver(int seconds)
-{
-    double before = 0;
-    QElapsedTimer timer;
-    QTimer::singleShot(settleTime, qApp, [&] {
-        before = processorSeconds();
-        timer.start();
-    });
-    QTimer::singleShot(settleTime + seconds * 1000, qApp, &QApplication::quit);
-    QApplication::exec();
-    return (processorSeconds() - before) / (double(timer.nsecsElapsed()) / 1e9);
-}
 
 int measureEngine(const QString &path, int seconds)
 {
