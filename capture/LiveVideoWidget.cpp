@@ -44,6 +44,7 @@ LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags f)
     connect(m_shotTimer, &QTimer::timeout, this, &LiveVideoWidget::execShot);
     connect(&m_engine, &LiveVideoData::disconnectDevice, this,
             &LiveVideoWidget::slotdisconnectDevice);
+    connect(&m_engine, &LiveVideoData::recordend, this, &LiveVideoWidget::recordingEnded);
     createVideoFrame();
     createLiveLabel();
 }

@@ -78,6 +78,8 @@ public:
 Q_SIGNALS:
     void ShotMax(); ///< a burst has taken its last photo
     void disconnectDevice(); ///< the open camera is gone
+    /// The movie that is being recorded cannot go on; RecordStop() completes what there is.
+    void recordingEnded();
 
 public Q_SLOTS:
     /// Takes @p max photos, one every 5 s and the first after 5 s; then ShotMax().

@@ -1,5 +1,7 @@
 #include "BoundedTask.h"
 
+#include "PatientWait.h"
+
 #include <condition_variable>
 #include <mutex>
 #include <thread>
@@ -24,6 +26,11 @@ BoundedTask::BoundedTask(std::function<void()> work)
 
 bool BoundedTask::waitUntil(std::chrono::steady_clock::time_point deadline) const
 {
-    std::unique_lock<std::mutex> lock(m_progress->mutex);
-    return m_progress->ended.wait_until(lock, deadline, [this] { return m_progress->done; });
+    return waitPatiently(
+        deadline,
+        [this](std::chrono::steady_clock::time_point until) {
+            std::unique_lock<std::mutex> lock(m_progress->mutex);
+            return m_progress->ended.wait_until(
+                lock, until, [this] { return m_progress->done; });
+        });
 }

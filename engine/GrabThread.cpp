@@ -3,6 +3,7 @@
 #include "CameraFrame.h"
 #include "CameraPipeline.h"
 #include "EngineLog.h"
+#include "PatientWait.h"
 #include "PictureConverter.h"
 
 #include <QElapsedTimer>
@@ -55,9 +56,14 @@ void GrabThread::capture(std::unique_ptr<CameraPipeline> camera)
 
 bool GrabThread::waitForFrame(int milliseconds)
 {
-    std::unique_lock<std::mutex> lock(d->mutex);
-    d->changed.wait_for(lock, std::chrono::milliseconds(milliseconds),
-                        [this] { return d->state != Private::State::Opening; });
+    using std::chrono::steady_clock;
+    waitPatiently(steady_clock::now() + std::chrono::milliseconds(milliseconds),
+                  [this](steady_clock::time_point until) {
+                      std::unique_lock<std::mutex> lock(d->mutex);
+                      return d->changed.wait_until(
+                          lock, until, [this] { return d->state != Private::State::Opening; });
+                  });
+    const std::lock_guard<std::mutex> lock(d->mutex);
     return d->state == Private::State::Running;
 }
 

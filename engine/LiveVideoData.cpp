@@ -11,6 +11,7 @@
 #include "GstStart.h"
 #include "ModeChooser.h"
 #include "MovieMaker.h"
+#include "PatientWait.h"
 #include "PictureConverter.h"
 #include "SoundCard.h"
 #include "StillWriter.h"
@@ -188,6 +189,7 @@ LiveVideoData::LiveVideoData()
 
 LiveVideoData::~LiveVideoData()
 {
+    const PatientCall call;
     d->painter.disconnect(this);
     d->movie.stop();
     GrabThread::retire(d->thread);
@@ -201,6 +203,7 @@ void LiveVideoData::SetTarget(QWidget *target)
 
 QStringList LiveVideoData::GetVideoDeviceList()
 {
+    const PatientCall call;
     d->lastList = devicesOf(Private::listCameras());
     QStringList names;
     for (const ListedDevice &device : qAsConst(d->lastList))
@@ -215,6 +218,7 @@ void LiveVideoData::SetVideoDevice(int index)
 
 void LiveVideoData::Create()
 {
+    const PatientCall call;
     if (d->thread)
         return;
     created = false;
@@ -258,6 +262,7 @@ void LiveVideoData::Reset()
 
 void LiveVideoData::Release()
 {
+    const PatientCall call;
     if (!created)
         return;
     const bool wasOpen = d->thread != nullptr;
@@ -271,6 +276,7 @@ void LiveVideoData::Release()
 // NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the agreed interface
 bool LiveVideoData::SaveBitmap(QString path)
 {
+    const PatientCall call;
     const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
     if (!frame)
         return false;
@@ -280,6 +286,7 @@ bool LiveVideoData::SaveBitmap(QString path)
 
 void LiveVideoData::Record(const QString &path)
 {
+    const PatientCall call;
     const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
     if (!frame)
         return;
@@ -290,16 +297,19 @@ void LiveVideoData::Record(const QString &path)
 
 void LiveVideoData::RecordStop()
 {
+    const PatientCall call;
     RecordMovie();
 }
 
 bool LiveVideoData::IsValidVideoDevice()
 {
+    const PatientCall call;
     return d->thread && !d->thread->hasFailed() && d->movie.hasPicture();
 }
 
 bool LiveVideoData::IsValidAudioDevice()
 {
+    const PatientCall call;
     if (!gstreamerIsReady())
         return false;
     DeviceProviders::start(listLimit);
@@ -309,13 +319,20 @@ bool LiveVideoData::IsValidAudioDevice()
         || (d->soundCard.canBeOpened(soundCardLimit) && d->movie.hasSound());
 }
 
+bool LiveVideoData::IsRecording()
+{
+    return d->movie.isListening();
+}
+
 QStringList LiveVideoData::GetResoList()
 {
+    const PatientCall call;
     return resolutionNames(d->modes());
 }
 
 void LiveVideoData::SetResolution(int width, int height)
 {
+    const PatientCall call;
     const QSize size(width, height);
     if (bestMode(d->modes(), size) < 0 || size.isEmpty()
         || size == QSize(nativeWidth, nativeHeight))
@@ -335,11 +352,13 @@ void LiveVideoData::grab()
 
 void LiveVideoData::RecordMovie()
 {
+    const PatientCall call;
     d->movie.stop();
 }
 
 void LiveVideoData::device()
 {
+    const PatientCall call;
     d->movie.devicesChanged();
     if (!d->thread)
         return;

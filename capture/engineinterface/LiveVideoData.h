@@ -35,6 +35,7 @@ class QWidget;
  *   SaveBitmap            false              newest frame      newest frame       false
  *   Record                -                  begins a movie     begins a movie     -
  *   RecordStop            -                  ends the movie     ends the movie     -
+ *   IsRecording           false              a movie began?     a movie began?     false
  *   IsValidVideoDevice    false              movies possible?   movies possible?   false
  *   IsValidAudioDevice    microphone?        microphone?        microphone?        microphone?
  *   GetResoList           empty              the camera's      the camera's       empty
@@ -102,6 +103,9 @@ public:
     /// a machine without a sound server it is the sound system's own, and must be free.
     bool IsValidAudioDevice();
 
+    /// A movie is being recorded. Right after Record(): whether it began.
+    bool IsRecording();
+
     /// The sizes the open camera can deliver, "1280x720", largest first.
     QStringList GetResoList();
 
@@ -122,6 +126,9 @@ Q_SIGNALS:
     void devicestop(); ///< the camera was closed, by Release() or by its loss
     void deviceerr(); ///< the camera could not be opened, or was lost
     void disconnectDevice(); ///< the open camera was lost; once per loss
+    /// The movie that is being recorded cannot go on: the disk is full, or its encoder failed. Once
+    /// per movie; RecordStop() completes what there is.
+    void recordend();
 
 public Q_SLOTS:
     // For the engine's own connections.

@@ -45,6 +45,12 @@ void FakeEngine::loseCamera()
     Q_EMIT s_engine->disconnectDevice();
 }
 
+void FakeEngine::endRecording()
+{
+    Q_ASSERT(s_engine);
+    Q_EMIT s_engine->recordend();
+}
+
 int FakeEngine::callCount(const QString &operation)
 {
     const QString opening = operation + QLatin1Char('(');
@@ -131,7 +137,7 @@ void LiveVideoData::Record(const QString &path)
 {
     note(QStringLiteral("Record(%1)").arg(path));
     FakeEngine &script = FakeEngine::script();
-    if (!script.videoDeviceValid || !script.audioDeviceValid)
+    if (!script.videoDeviceValid || !script.audioDeviceValid || !script.movieBegins)
         return;
     script.recording = path;
     QFile file(path);
@@ -155,6 +161,12 @@ bool LiveVideoData::IsValidAudioDevice()
 {
     note(QStringLiteral("IsValidAudioDevice()"));
     return FakeEngine::script().audioDeviceValid;
+}
+
+bool LiveVideoData::IsRecording()
+{
+    note(QStringLiteral("IsRecording()"));
+    return !FakeEngine::script().recording.isEmpty();
 }
 
 QStringList LiveVideoData::GetResoList()

@@ -21,6 +21,8 @@ struct FakeEngine {
     static void reset();
     /// Emits disconnectDevice() on the calling thread, as the engine may do on its own.
     static void loseCamera();
+    /// Emits recordend(), as the engine does when the disk fills during a recording.
+    static void endRecording();
     /// How often an operation was called, whatever its arguments: callCount("SaveBitmap").
     static int callCount(const QString &operation);
 
@@ -35,6 +37,7 @@ struct FakeEngine {
     // What the engine answers.
     bool videoDeviceValid = true;
     bool audioDeviceValid = true;
+    bool movieBegins = true; ///< when false, Record() does nothing although both devices are valid
     bool saveBitmapSucceeds = true; ///< when false, nothing is written
     QImage picture; ///< what SaveBitmap() writes; null: a plain picture of nativeSize
     QByteArray movie = QByteArrayLiteral("a movie"); ///< what a movie holds after Record()
