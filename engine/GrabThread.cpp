@@ -6,13 +6,17 @@
 #include "PatientWait.h"
 #include "PictureConverter.h"
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
 
-static const int closeLimit = 2000; // ms
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+static const milliseconds closeLimit(2000);
 static const int pullLimit = 50; // ms; how long a stop may go unnoticed
 static const int picturesUnseen = 3; // in a row, before no more are made
 
@@ -54,15 +58,14 @@ void GrabThread::capture(std::unique_ptr<CameraPipeline> camera)
     start();
 }
 
-bool GrabThread::waitForFrame(int milliseconds)
+bool GrabThread::waitForFrame(int limit)
 {
-    using std::chrono::steady_clock;
-    waitPatiently(steady_clock::now() + std::chrono::milliseconds(milliseconds),
-                  [this](steady_clock::time_point until) {
-                      std::unique_lock<std::mutex> lock(d->mutex);
-                      return d->changed.wait_until(
-                          lock, until, [this] { return d->state != Private::State::Opening; });
-                  });
+    waitPatiently(steady_clock::now() + milliseconds(limit), [this](auto until) {
+        std::unique_lock<std::mutex> lock(d->mutex);
+        return d->changed.wait_until(lock, until, [this] {
+            return d->state != Private::State::Opening;
+        }) || PatientCall::isInterrupted();
+    });
     const std::lock_guard<std::mutex> lock(d->mutex);
     return d->state == Private::State::Running;
 }
@@ -110,7 +113,11 @@ void GrabThread::retire(GrabThread *thread)
     thread->d->stop = true;
     // Deletes itself when it ends late; until then nothing refers to it any more.
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-    if (thread->wait(closeLimit)) {
+    const bool ended =
+        waitPatiently(steady_clock::now() + closeLimit, [thread](steady_clock::time_point until) {
+            return thread->wait(QDeadlineTimer(until));
+        });
+    if (ended) {
         thread->disconnect();
         delete thread;
     } else {

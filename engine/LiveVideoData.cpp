@@ -1,5 +1,6 @@
 #include "LiveVideoData.h"
 
+#include "BoundedTask.h"
 #include "CameraFrame.h"
 #include "CameraPipeline.h"
 #include "CapsModes.h"
@@ -21,7 +22,9 @@
 
 static const std::chrono::milliseconds listLimit(1900); // the promise is 2 s
 static const std::chrono::milliseconds soundCardLimit(1000);
-static const int openLimit = 5000; // ms
+static const int openLimit = 4400; // ms, which leaves a moment for closing what sends nothing
+// The camera's frame is there; only the disk can make it late, and it is not given up for that.
+static const std::chrono::milliseconds stillLimit(30000);
 static const std::chrono::milliseconds quickListLimit(300); // when a movie waits for it
 
 /// A listed camera and what opens it.
@@ -42,6 +45,7 @@ public:
     bool open(const Camera &camera, const QSize &size);
     void close();
     void loseCamera();
+    std::chrono::milliseconds closingLimit() const;
     void setShowing(bool on);
     void followTarget();
     QVector<CameraMode> modes() const;
@@ -155,6 +159,12 @@ void LiveVideoData::Private::loseCamera()
     Q_EMIT q->disconnectDevice();
 }
 
+// A movie is completed before its camera is let go.
+std::chrono::milliseconds LiveVideoData::Private::closingLimit() const
+{
+    return movie.isListening() ? PatientCall::longLimit : PatientCall::usualLimit;
+}
+
 void LiveVideoData::Private::setShowing(bool on)
 {
     showing = on;
@@ -189,11 +199,16 @@ LiveVideoData::LiveVideoData()
 
 LiveVideoData::~LiveVideoData()
 {
-    const PatientCall call;
+    const PatientCall call(d->closingLimit());
     d->painter.disconnect(this);
     d->movie.stop();
     GrabThread::retire(d->thread);
     d->thread = nullptr;
+}
+
+void LiveVideoData::SetInterruption(const std::function<bool()> &wanted)
+{
+    PatientCall::setInterruption(wanted);
 }
 
 void LiveVideoData::SetTarget(QWidget *target)
@@ -218,7 +233,7 @@ void LiveVideoData::SetVideoDevice(int index)
 
 void LiveVideoData::Create()
 {
-    const PatientCall call;
+    const PatientCall call(PatientCall::longLimit);
     if (d->thread)
         return;
     created = false;
@@ -262,7 +277,7 @@ void LiveVideoData::Reset()
 
 void LiveVideoData::Release()
 {
-    const PatientCall call;
+    const PatientCall call(d->closingLimit());
     if (!created)
         return;
     const bool wasOpen = d->thread != nullptr;
@@ -276,12 +291,16 @@ void LiveVideoData::Release()
 // NOLINTNEXTLINE(performance-unnecessary-value-param): by value in the agreed interface
 bool LiveVideoData::SaveBitmap(QString path)
 {
-    const PatientCall call;
+    const PatientCall call(stillLimit);
     const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
     if (!frame)
         return false;
-    PictureConverter converter(QImage::Format_RGB888);
-    return writeStill(converter.convert(*frame, frame->size()), path);
+    const auto written = std::make_shared<bool>(false);
+    const BoundedTask writing([frame, path, written] {
+        PictureConverter converter(QImage::Format_RGB888);
+        *written = writeStill(converter.convert(*frame, frame->size()), path);
+    });
+    return writing.waitUntil(std::chrono::steady_clock::now() + stillLimit) && *written;
 }
 
 void LiveVideoData::Record(const QString &path)
@@ -297,7 +316,7 @@ void LiveVideoData::Record(const QString &path)
 
 void LiveVideoData::RecordStop()
 {
-    const PatientCall call;
+    const PatientCall call(PatientCall::longLimit);
     RecordMovie();
 }
 
@@ -332,7 +351,7 @@ QStringList LiveVideoData::GetResoList()
 
 void LiveVideoData::SetResolution(int width, int height)
 {
-    const PatientCall call;
+    const PatientCall call(PatientCall::longLimit);
     const QSize size(width, height);
     if (bestMode(d->modes(), size) < 0 || size.isEmpty()
         || size == QSize(nativeWidth, nativeHeight))
@@ -352,13 +371,13 @@ void LiveVideoData::grab()
 
 void LiveVideoData::RecordMovie()
 {
-    const PatientCall call;
+    const PatientCall call(PatientCall::longLimit);
     d->movie.stop();
 }
 
 void LiveVideoData::device()
 {
-    const PatientCall call;
+    const PatientCall call(d->closingLimit());
     d->movie.devicesChanged();
     if (!d->thread)
         return;

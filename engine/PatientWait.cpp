@@ -14,10 +14,22 @@ static const milliseconds unnoticed(250);
 // What was uncovered is painted before anybody wonders, and painting costs next to nothing.
 static const milliseconds repaintPeriod(200);
 
-// Of the outermost operation; GUI thread only.
-static bool callIsActive = false;
-static bool cursorIsShown = false;
-static steady_clock::time_point callBegan;
+// GUI thread only.
+namespace {
+struct CallState {
+    bool isActive = false;
+    bool cursorIsShown = false;
+    steady_clock::time_point began;
+    steady_clock::time_point end;
+    std::function<bool()> interruption;
+};
+} // namespace
+
+static CallState &callState()
+{
+    static CallState outermost;
+    return outermost;
+}
 
 static bool isGuiThread()
 {
@@ -25,30 +37,41 @@ static bool isGuiThread()
         && QThread::currentThread() == QCoreApplication::instance()->thread();
 }
 
-PatientCall::PatientCall()
-    : m_isOutermost(isGuiThread() && !callIsActive)
+PatientCall::PatientCall(std::chrono::nanoseconds limit)
+    : m_isOutermost(isGuiThread() && !callState().isActive)
 {
     if (!m_isOutermost)
         return;
-    callIsActive = true;
-    callBegan = steady_clock::now();
+    callState().isActive = true;
+    callState().began = steady_clock::now();
+    callState().end = callState().began + limit;
 }
 
 PatientCall::~PatientCall()
 {
     if (!m_isOutermost)
         return;
-    callIsActive = false;
-    if (cursorIsShown)
+    callState().isActive = false;
+    if (callState().cursorIsShown)
         QGuiApplication::restoreOverrideCursor();
-    cursorIsShown = false;
+    callState().cursorIsShown = false;
+}
+
+void PatientCall::setInterruption(std::function<bool()> wanted)
+{
+    callState().interruption = std::move(wanted);
+}
+
+bool PatientCall::isInterrupted()
+{
+    return isGuiThread() && callState().interruption && callState().interruption();
 }
 
 static void showPatience()
 {
-    if (!cursorIsShown)
+    if (!callState().cursorIsShown)
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    cursorIsShown = true;
+    callState().cursorIsShown = true;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows)
         if (window->isVisible())
@@ -58,14 +81,15 @@ static void showPatience()
 bool waitPatiently(steady_clock::time_point deadline,
                    const std::function<bool(steady_clock::time_point until)> &arrived)
 {
-    const PatientCall call; // for a wait outside any operation
     if (!isGuiThread())
         return arrived(deadline);
-    if (arrived(std::min(deadline, callBegan + unnoticed)))
+    const PatientCall call(deadline - steady_clock::now()); // for a wait outside any operation
+    const auto end = std::min(deadline, callState().end);
+    if (arrived(std::min(end, callState().began + unnoticed)))
         return true;
-    while (steady_clock::now() < deadline) {
+    while (steady_clock::now() < end) {
         showPatience();
-        if (arrived(std::min(deadline, steady_clock::now() + repaintPeriod)))
+        if (arrived(std::min(end, steady_clock::now() + repaintPeriod)))
             return true;
     }
     return false;

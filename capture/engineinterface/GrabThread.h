@@ -35,9 +35,9 @@ public:
     /// Takes the camera over and starts to open it.
     void capture(std::unique_ptr<CameraPipeline> camera);
 
-    /// True as soon as the first frame is there; false when the camera failed or @p milliseconds
+    /// True as soon as the first frame is there; false when the camera failed, or @p limit ms
     /// passed without one.
-    bool waitForFrame(int milliseconds);
+    bool waitForFrame(int limit);
 
     /// True once the camera failed by itself: an error, the end of its stream, or silence.
     bool hasFailed() const;

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class QWidget;
@@ -15,10 +16,11 @@ class QWidget;
 /**
  * The capture engine: one camera, its live picture in a widget of the caller's, stills and movies.
  *
- * Every operation is called on the GUI thread, in any state and in any order; none throws and none
- * blocks without a limit (listing 2 s, opening 5 s on top of that, closing 2 s, beginning a movie
- * 2 s, ending it 5 s). The very first call in a session may take longer while GStreamer indexes its
- * plug-ins.
+ * Every operation is called on the GUI thread, in any state and in any order; none throws. One that
+ * waits for a camera or a server shows the wait cursor after 0.3 s, keeps the windows painted and
+ * handles no event meanwhile. It returns within 3 s, whatever the camera or the server does;
+ * opening a camera and ending a movie may take 5 s. The very first call in a session may take
+ * longer while GStreamer indexes its plug-ins.
  *
  * What an operation does in which state ("-" is nothing at all):
  *
@@ -62,6 +64,10 @@ public:
     LiveVideoData();
     ~LiveVideoData() override; ///< closes everything still open
 
+    /// Opening a camera is given up as soon as @p wanted, asked about five times a second, says
+    /// that the program is to end. For all engines of the process; null for never, as at first.
+    static void SetInterruption(const std::function<bool()> &wanted);
+
     /// The widget the picture is painted into; null for none.
     void SetTarget(QWidget *target);
 
@@ -86,7 +92,7 @@ public:
 
     /// Writes the newest frame at the camera's full size, in the format that the extension of
     /// @p path names. The file appears complete or not at all. False when there is no frame, the
-    /// format is unknown or the file cannot be written.
+    /// format is unknown or the file cannot be written. A slow disk is waited for, for up to 30 s.
     bool SaveBitmap(QString path);
 
     /// Begins a movie with sound in @p path. Leaves no file when the camera, the microphone or a

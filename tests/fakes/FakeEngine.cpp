@@ -73,6 +73,8 @@ LiveVideoData::~LiveVideoData()
         s_engine = nullptr;
 }
 
+void LiveVideoData::SetInterruption(const std::function<bool()> &) { }
+
 void LiveVideoData::SetTarget(QWidget *target)
 {
     note(QStringLiteral("SetTarget()"));
