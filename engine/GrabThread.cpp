@@ -5,6 +5,7 @@
 #include "EngineLog.h"
 #include "PatientWait.h"
 #include "PictureConverter.h"
+#include "SilenceWatch.h"
 
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
@@ -147,11 +148,10 @@ void GrabThread::run()
 // A camera that hangs reports nothing: its frames just stop.
 void GrabThread::grabUntilEnd()
 {
-    const double rate = d->camera->mode().rate();
-    const int silenceLimit = qMax(1000, rate > 0 ? int(5000 / rate) : 0); // ms
-    QElapsedTimer silence;
-    silence.start();
+    SilenceWatch watch(d->camera->mode().rate());
     while (!d->stop) {
+        QElapsedTimer look;
+        look.start();
         const std::shared_ptr<CameraFrame> frame =
             CameraFrame::fromSample(d->camera->nextSample(pullLimit));
         const QString failure = d->camera->failure();
@@ -160,13 +160,17 @@ void GrabThread::grabUntilEnd()
             return;
         }
         if (frame) {
-            silence.start();
+            watch.frameCame();
             keepFrame(frame);
             makePicture(*frame);
-        } else if (d->frames > 0 && silence.elapsed() > silenceLimit) {
-            qCInfo(engineLog) << "no frame for" << silence.elapsed() << "ms";
+            continue;
+        }
+        // One look more than the limit asks for, in case the frame comes just now.
+        if (d->frames > 0 && watch.isOver()) {
+            qCInfo(engineLog) << "no frame for" << watch.silence().count() << "ms";
             return;
         }
+        watch.lookedInVain(milliseconds(look.elapsed()), milliseconds(pullLimit));
     }
 }
 
