@@ -15,9 +15,11 @@ constexpr int closingStepMs = 20; // time for the flow behind a closed box to go
 
 // A signal handler may do next to nothing; writing a byte into a pipe is allowed.
 int writeEnd = -1;
+volatile std::sig_atomic_t come = 0;
 
 void passOn(int)
 {
+    come = 1;
     const int interrupted = errno;
     const char byte = 0;
     // The pipe is never full: each of the two signals is passed on once.
@@ -40,6 +42,7 @@ void handleWith(void (*handler)(int))
 SignalWatcher::SignalWatcher(QWidget *window)
     : m_window(window)
 {
+    come = 0;
     m_closing.setInterval(closingStepMs);
     connect(&m_closing, &QTimer::timeout, this, &SignalWatcher::closeTopmost);
     int ends[2];
@@ -61,6 +64,11 @@ SignalWatcher::~SignalWatcher()
     close(m_readEnd);
     close(writeEnd);
     writeEnd = -1;
+}
+
+bool SignalWatcher::hasCome()
+{
+    return come != 0;
 }
 
 void SignalWatcher::drain()

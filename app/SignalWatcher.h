@@ -27,6 +27,9 @@ public:
     explicit SignalWatcher(QWidget *window);
     ~SignalWatcher() override;
 
+    /// True from the signal on, also before the window could be closed. Any thread.
+    static bool hasCome();
+
 private:
     void drain();
     void closeTopmost();

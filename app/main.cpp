@@ -1,11 +1,23 @@
 #include "CTranslator.h"
 #include "CVistrelDlg.h"
 #include "LayoutScale.h"
+#include "LiveVideoWidget.h"
 #include "PlainButtons.h"
+#include "PromptEnd.h"
 #include "QtSingleApplication.h"
 #include "SignalWatcher.h"
 
 #include <QDir>
+
+namespace {
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr std::chrono::milliseconds endLimit(20000); // the leak checker looks through all memory
+#else
+constexpr std::chrono::milliseconds endLimit(700);
+#endif
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -32,10 +44,14 @@ int main(int argc, char **argv)
     if (!dialog.isDeviceSelected())
         return -1;
     const SignalWatcher watcher(&dialog);
+    LiveVideoWidget::setInterruption(SignalWatcher::hasCome);
 
     dialog.SetPluginPath(QCoreApplication::applicationDirPath());
     dialog.setVisible(true);
     dialog.raise();
     dialog.chkdevice();
-    return QtSingleApplication::exec();
+    const int status = QtSingleApplication::exec();
+    // The window has closed: the camera is let go and all that was captured is on the disk.
+    PromptEnd::within(endLimit, status);
+    return status;
 }

@@ -85,6 +85,11 @@ void LiveVideoWidget::showEvent(QShowEvent *event)
     update();
 }
 
+void LiveVideoWidget::setInterruption(const std::function<bool()> &wanted)
+{
+    LiveVideoData::SetInterruption(wanted);
+}
+
 QStringList LiveVideoWidget::getVideoDeviceList()
 {
     return m_engine.GetVideoDeviceList();

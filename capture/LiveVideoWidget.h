@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
+
 class QFrame;
 class QLabel;
 class QTimer;
@@ -32,6 +34,9 @@ public:
     ~LiveVideoWidget() override;
 
     QPaintEngine *paintEngine() const override;
+
+    /// Opening a camera is given up as soon as @p wanted says that the program is to end.
+    static void setInterruption(const std::function<bool()> &wanted);
 
     /// Names in device order; a position in the list is what setVideoDevice() takes.
     QStringList getVideoDeviceList();

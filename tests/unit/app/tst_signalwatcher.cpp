@@ -44,8 +44,10 @@ void tst_SignalWatcher::aSignalClosesTheWindowFromTheEventLoop()
     window.show();
     SignalWatcher watcher(&window);
     QVERIFY(!endsTheProgram(signal));
+    QVERIFY(!SignalWatcher::hasCome());
     QCOMPARE(kill(getpid(), signal), 0);
     QVERIFY(window.isVisible());
+    QVERIFY2(SignalWatcher::hasCome(), "it is known before the event loop runs");
     QTRY_VERIFY(!window.isVisible());
 }
 
