@@ -37,6 +37,7 @@ private slots:
     void memoryIsUsedAgainOnlyWhenNobodyElseHasIt();
     void noSizeGivesNoPicture();
     void aSampleWithoutAPictureIsNoFrame();
+    void rowsPackedCloserThanUsualAreReadAsTheyStand();
     void theViewShowsTheFrameItselfAndNoCopy();
 };
 
@@ -120,6 +121,33 @@ void TestPictureConverter::aSampleWithoutAPictureIsNoFrame()
     QVERIFY2(!CameraFrame::fromSample(GstMiniHandle<GstSample>(
                  gst_sample_new(buffer.get(), caps.get(), nullptr, nullptr))),
              "shorter than its format says");
+}
+
+// Some drivers leave out the padding at the end of rows, and say so beside the buffer.
+void TestPictureConverter::rowsPackedCloserThanUsualAreReadAsTheyStand()
+{
+    GstVideoInfo info;
+    gst_video_info_set_format(&info, GST_VIDEO_FORMAT_GRAY8, 6, 4);
+    const GstMiniHandle<GstCaps> caps(gst_video_info_to_caps(&info));
+    const GstMiniHandle<GstBuffer> buffer(gst_buffer_new_allocate(nullptr, 24, nullptr));
+    QVERIFY(GST_VIDEO_INFO_SIZE(&info) > 24);
+    gst_buffer_memset(buffer.get(), 0, 0xff, 24);
+    const auto frame = [&] {
+        return CameraFrame::fromSample(
+            GstMiniHandle<GstSample>(gst_sample_new(buffer.get(), caps.get(), nullptr, nullptr)));
+    };
+    QVERIFY2(!frame(), "the buffer alone is too short");
+    gsize offset[GST_VIDEO_MAX_PLANES] = {0};
+    gint stride[GST_VIDEO_MAX_PLANES] = {6};
+    gst_buffer_add_video_meta_full(buffer.get(), GST_VIDEO_FRAME_FLAG_NONE, GST_VIDEO_FORMAT_GRAY8,
+                                   6, 4, 1, offset, stride);
+    const std::shared_ptr<CameraFrame> whole = frame();
+    QVERIFY(whole);
+    PictureConverter converter(QImage::Format_RGB32);
+    const QImage picture = converter.convert(*whole, QSize(6, 4));
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 6; ++x)
+            QCOMPARE(picture.pixel(x, y), qRgb(255, 255, 255));
 }
 
 void TestPictureConverter::theViewShowsTheFrameItselfAndNoCopy()

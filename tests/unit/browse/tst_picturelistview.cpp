@@ -70,6 +70,7 @@ private slots:
     void aSecondClickDeselects();
     void selectedPhotoComesWhenTheNamesAreReady();
     void aChosenPhotoLooksChosenWithoutFocusToo();
+    void thePictureOfAChosenPhotoStaysClear();
     void aPhotoChosenAlreadyIsNotTakenTwice();
     void unselectingTakesOutTheFirstOfThatName();
 
@@ -246,6 +247,15 @@ void TestPictureListView::aChosenPhotoLooksChosenWithoutFocusToo()
         shown.pixelColor(strip.list->visualItemRect(strip.list->item(1)).topLeft() + QPoint(3, 3));
     QVERIFY(chosen.value() > 150);
     QCOMPARE(other, QColor(Qt::black));
+}
+
+void TestPictureListView::thePictureOfAChosenPhotoStaysClear()
+{
+    const Strip strip(1);
+    const QIcon icon = strip.list->item(0)->icon();
+    const QSize size = strip.list->iconSize();
+    QCOMPARE(icon.pixmap(size, QIcon::Selected).toImage(),
+             icon.pixmap(size, QIcon::Normal).toImage());
 }
 
 void TestPictureListView::aPhotoChosenAlreadyIsNotTakenTwice()

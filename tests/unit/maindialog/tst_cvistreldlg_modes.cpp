@@ -39,6 +39,7 @@ private Q_SLOTS:
     void theSeriesScreenResetsTheEngineAndPlacesTheViews();
     void anUnknownModeShowsTheLiveScreenAndIsRemembered();
     void theErrorFlagLeavesListAndExit();
+    void inErrorAllThatBrowsesCanBePressed();
     void aFullDiskIsReportedOnceAndSetsTheError();
     void disablingSparesExitAndBack();
     void hidingSparesExit();
@@ -186,6 +187,20 @@ void DisplayModesTest::theErrorFlagLeavesListAndExit()
     dialog.TransitionMode(ListMode);
     dialog.TransitionMode(LiveMode);
     QCOMPARE(fixture.usableButtons(), (QStringList{"List", "Close"}));
+}
+
+void DisplayModesTest::inErrorAllThatBrowsesCanBePressed()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    DialogFixture::boxDuring([&] { dialog.changeNodevicemode(); });
+    dialog.disableAllButton(true);
+    dialog.setErrModeButtonEnable();
+    const QStringList browsing{"List", "SwitchMovie", "SwitchPhoto", "Show", "Close", "Back"};
+    const auto buttons = dialog.findChildren<CStretchBitmapButton *>();
+    for (const CStretchBitmapButton *each : buttons)
+        QVERIFY2(each->isEnabled() == browsing.contains(each->objectName()),
+                 qPrintable(each->objectName()));
 }
 
 void DisplayModesTest::aFullDiskIsReportedOnceAndSetsTheError()

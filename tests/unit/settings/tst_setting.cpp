@@ -110,6 +110,7 @@ private Q_SLOTS:
     void withoutAFileTheDefaultsAreShownAndAllSixAreSaved();
     void whatTheFileSaysIsShownAndSavedAgain_data();
     void whatTheFileSaysIsShownAndSavedAgain();
+    void whatIsSetInTheControlsIsSaved();
     void aSelfTimerOf2IsRejectedAndDisablesTheSeconds();
     void whatIsRejectedLeavesThePreferenceAsItWas();
     void aFileThatCannotBeReadGivesTheDefaults();
@@ -234,6 +235,22 @@ void SettingTest::whatTheFileSaysIsShownAndSavedAgain()
     QVERIFY2(linesOf(folders).contains(key + "=" + written),
              qPrintable(linesOf(folders).join(' ')));
     QCOMPARE(linesOf(folders).size(), 7);
+}
+
+void SettingTest::whatIsSetInTheControlsIsSaved()
+{
+    const StoreFolders folders;
+    Setting dialog;
+    for (const char *box : {"chbAutoShooting", "chbPhotoPreview"})
+        find<QCheckBox>(dialog, box)->click();
+    for (const char *box : {"cmbAutoShooting", "cmbContinuousShooting"}) {
+        auto *choice = find<QComboBox>(dialog, box);
+        choice->setCurrentIndex(choice->count() - 1);
+    }
+    dialog.SaveFile();
+    QCOMPARE(linesOf(folders),
+             QStringList({"AutoShoot=0", "AutoShootTime=30", "ContinuShootCount=9",
+                          "PhotoPreview=0", "Resolution=640x480", "SaveDirectory=", "[General]"}));
 }
 
 void SettingTest::aSelfTimerOf2IsRejectedAndDisablesTheSeconds()
