@@ -28,15 +28,6 @@ static GstElement *makeFilter(GstCaps *format)
     return filter;
 }
 
-// A damaged picture is dropped; whether too many are is for the watch over silence to say.
-static GstElement *makeDecoder()
-{
-    GstElement *decoder = gst_element_factory_make("jpegdec", nullptr);
-    if (decoder)
-        g_object_set(decoder, "max-errors", -1, nullptr);
-    return decoder;
-}
-
 // Keeps the newest frame only and never makes the camera wait.
 static GstElement *makeSink()
 {
@@ -70,7 +61,8 @@ bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<
     tuneSource(source.get());
     QVector<GstElement *> chain{source.get(), makeFilter(format.get())};
     if (m_mode.coding == CameraMode::Coding::Jpeg)
-        chain.append(makeDecoder());
+        // Drops a damaged picture; whether too many are is for the watch over silence to say.
+        chain.append(gst_element_factory_make("jpegdec", nullptr));
     GstElement *tee = gst_element_factory_make("tee", "split");
     GstElement *sink = makeSink();
     chain += {tee, sink};
