@@ -1,12 +1,16 @@
 #include "InstanceChannel.h"
 
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QLocalSocket>
 #include <QLoggingCategory>
 #include <QThread>
 #include <QTimer>
 #include <QtEndian>
 #include <algorithm>
+
+#include <sys/socket.h>
+#include <sys/un.h>
 
 Q_LOGGING_CATEGORY(logApp, "orvanta.app", QtCriticalMsg)
 
@@ -22,11 +26,24 @@ int left(const QDeadlineTimer &deadline)
     return static_cast<int>(deadline.remainingTime());
 }
 
+// The path of a socket has room for 107 bytes. A longer one leads through the open folder.
+QString socketPathIn(const QString &folder, const OpenFolder &open, const QString &id)
+{
+    constexpr int longest = sizeof(sockaddr_un::sun_path) - 1;
+    // The server makes its socket in a folder of a passing name beside the place where it goes.
+    constexpr int passingName = sizeof "XXXXXX/s" - 1;
+    const QString name = id + ".socket";
+    const int inFolder = std::max(QFile::encodeName(name).size(), passingName);
+    const bool isShort = QFile::encodeName(folder).size() + 1 + inFolder <= longest;
+    return (isShort ? folder : open.shortPath()) + '/' + name;
+}
+
 } // namespace
 
 InstanceChannel::InstanceChannel(const QString &id, const QString &folder)
     : m_folder(folder)
-    , m_socketPath(folder + "/" + id + ".socket")
+    , m_open(folder)
+    , m_socketPath(socketPathIn(folder, m_open, id))
     , m_lock(folder + "/" + id + ".lock")
 {
     // Held by a process that is gone it is free at once; held by one that lives, for good.

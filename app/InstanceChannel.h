@@ -1,6 +1,8 @@
 #ifndef INSTANCECHANNEL_H
 #define INSTANCECHANNEL_H
 
+#include "OpenFolder.h"
+
 #include <QLocalServer>
 #include <QLockFile>
 #include <QObject>
@@ -55,6 +57,7 @@ private:
                         const QDeadlineTimer &deadline);
 
     QString m_folder;
+    OpenFolder m_open; // outlives the server, whose socket may have its path through it
     QString m_socketPath;
     QLockFile m_lock; // outlives the server: the next first finds no socket that is still in use
     QLocalServer m_server;

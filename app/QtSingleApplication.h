@@ -9,8 +9,8 @@
  * An application of which a user runs one copy at a time. It does not enforce this: a second copy
  * learns from sendMessage() that there is a first one, and ends itself.
  *
- * Copies of one id meet per user, whatever display they are on. A crashed first copy never stands
- * in the way of the next one.
+ * Copies of one id meet per user and temporary folder, whatever display or session they are in. A
+ * crashed first copy never stands in the way of the next one.
  */
 class QtSingleApplication : public QApplication {
     Q_OBJECT

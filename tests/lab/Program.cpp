@@ -14,7 +14,7 @@ Program::Program(const QString &executable)
     QDir(m_folder.path()).mkdir("home");
     QDir(m_folder.path()).mkdir("tmp");
     m_environment.insert("HOME", home());
-    m_environment.insert("TMPDIR", m_folder.filePath("tmp"));
+    m_environment.insert("TMPDIR", temporaryFolder());
     m_process.setProcessChannelMode(QProcess::MergedChannels);
 }
 
@@ -64,7 +64,7 @@ bool Program::hasEndedWithin(int milliseconds)
 
 QString Program::temporaryArea() const
 {
-    return m_folder.filePath("tmp") + "/TavelinCamera_" + QString::number(geteuid());
+    return temporaryFolder() + "/TavelinCamera_" + QString::number(geteuid());
 }
 
 QStringList Program::captured() const

@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <csignal>
+
 // One run, or several runs after each other, of the camera program for one user of the lab: home
 // and temporary folder are this object's own, so what a test finds on disk comes from its own
 // clicks. The program is ended, with kill if need be, when the object goes.
@@ -26,6 +28,9 @@ public:
     void start();
     // As the session does it when the user logs out.
     void terminate() { m_process.terminate(); }
+    // As a machine that has no time for it, and then has again.
+    void stop() const { ::kill(pid_t(pid()), SIGSTOP); }
+    void goOn() const { ::kill(pid_t(pid()), SIGCONT); }
     // As the machine does it when memory runs out.
     void kill();
     bool isRunning() const;
@@ -36,6 +41,8 @@ public:
     qint64 pid() const { return m_process.processId(); }
     QString output() { return QString::fromUtf8(m_process.readAll()); }
 
+    // Shared with another object's program, it is the same user's.
+    QString temporaryFolder() const { return m_folder.filePath("tmp"); }
     QString home() const { return m_folder.filePath("home"); }
     QString settingsFile() const { return home() + "/.halcyra_orvantacc.ini"; }
     // Where everything captured lies until it is saved.

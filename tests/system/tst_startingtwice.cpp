@@ -12,7 +12,16 @@ class TestStartingTwice : public QObject {
 private slots:
     void theSecondStartEndsSoonAndShowsNothing();
     void theSecondStartEndsWhileTheFirstAsksSomething();
+    void theSecondStartEndsInAnotherSession();
+    void aStuckFirstHoldsTheSecondUpForFiveSeconds();
     void afterAKillTheNextStartIsAFirstOne();
+
+private:
+    // Lets the other program be one of the same user's.
+    static void share(Session &user, Program &other)
+    {
+        other.setEnvironment("TMPDIR", user.program().temporaryFolder());
+    }
 };
 
 void TestStartingTwice::theSecondStartEndsSoonAndShowsNothing()
@@ -21,6 +30,7 @@ void TestStartingTwice::theSecondStartEndsSoonAndShowsNothing()
     QVERIFY(user.startLive());
     const Desktop::Window before = user.mainWindow();
     Program second(ORVANTA_PROGRAM);
+    share(user, second);
     QElapsedTimer timer;
     timer.start();
     second.start();
@@ -41,10 +51,43 @@ void TestStartingTwice::theSecondStartEndsWhileTheFirstAsksSomething()
     user.press(WindowMap::LiveScreen, "Settings");
     QVERIFY(user.waitForDialog("Settings"));
     Program second(ORVANTA_PROGRAM);
+    share(user, second);
     second.start();
     QVERIFY(second.hasEndedWithin(5000));
     QCOMPARE(second.exitStatus(), 0);
     QCOMPARE(user.dialog().title, QString("Settings"));
+}
+
+void TestStartingTwice::theSecondStartEndsInAnotherSession()
+{
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    QVERIFY(user.startLive());
+    // As "su" leaves it.
+    Program second(ORVANTA_PROGRAM);
+    share(user, second);
+    second.setEnvironment("XDG_RUNTIME_DIR", QString());
+    second.start();
+    QVERIFY(second.hasEndedWithin(5000));
+    QVERIFY(!second.hasCrashed());
+    QCOMPARE(second.exitStatus(), 0);
+}
+
+void TestStartingTwice::aStuckFirstHoldsTheSecondUpForFiveSeconds()
+{
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    QVERIFY(user.startLive());
+    user.program().stop();
+    Program second(ORVANTA_PROGRAM);
+    share(user, second);
+    QElapsedTimer timer;
+    timer.start();
+    second.start();
+    const bool came =
+        QTest::qWaitFor([&] { return !user.desktop().windowsOf(second.pid()).isEmpty(); }, 20000);
+    const qint64 waited = timer.elapsed();
+    user.program().goOn();
+    QVERIFY(came);
+    QVERIFY2(waited >= 5000, qPrintable(QString::number(waited)));
 }
 
 void TestStartingTwice::afterAKillTheNextStartIsAFirstOne()

@@ -1,5 +1,6 @@
 #include "InstanceChannel.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLocalSocket>
@@ -56,6 +57,8 @@ private slots:
     void theNextOneTakesOverWhenTheFirstIsGone();
     void withoutAFolderNobodyIsMet();
     void theSocketIsForThisUserOnly();
+    void aFolderWithALongPathIsNoHindrance_data();
+    void aFolderWithALongPathIsNoHindrance();
 
     void theFirstHasNobodyToSendTo();
     void aMessageArrivesAsItWasSent_data();
@@ -81,7 +84,7 @@ private:
 
 void tst_InstanceChannel::init()
 {
-    // Not in the test's own temporary folder: the path of a socket may have 107 bytes at most.
+    // Not in the test's own temporary folder, whose path is long: the tests' own sockets have it.
     m_dir.reset(new QTemporaryDir("/tmp/orvanta-XXXXXX"));
     QVERIFY(m_dir->isValid());
 }
@@ -127,6 +130,33 @@ void tst_InstanceChannel::theSocketIsForThisUserOnly()
     QCOMPARE(stat(QFile::encodeName(socketPath()).constData(), &entry), 0);
     QVERIFY(S_ISSOCK(entry.st_mode));
     QCOMPARE(entry.st_mode & 077U, 0U);
+}
+
+void tst_InstanceChannel::aFolderWithALongPathIsNoHindrance_data()
+{
+    QTest::addColumn<int>("length"); // of the path, in bytes
+    // "/Orvanta.socket" makes it 15 longer; with 108 it no longer fits.
+    for (int length = 90; length <= 95; ++length)
+        QTest::addRow("%d bytes", length) << length;
+    QTest::newRow("240 bytes") << 240;
+}
+
+void tst_InstanceChannel::aFolderWithALongPathIsNoHindrance()
+{
+    QFETCH(int, length);
+    const QString path = folder() + '/' + QString(length - folder().size() - 1, 'x');
+    QCOMPARE(path.size(), length);
+    QVERIFY(QDir().mkpath(path));
+    QScopedPointer<InstanceChannel> first(new InstanceChannel("Orvanta", path));
+    QVERIFY(first->becomeFirst());
+    QVERIFY(QFile::exists(path + "/Orvanta.socket"));
+    QSignalSpy received(first.data(), &InstanceChannel::messageReceived);
+    Sender second(path, "Wake up!", 5000);
+    QTRY_VERIFY(second.isFinished());
+    QVERIFY(second.delivered());
+    QTRY_COMPARE(received.size(), 1);
+    first.reset();
+    QVERIFY(!QFile::exists(path + "/Orvanta.socket"));
 }
 
 void tst_InstanceChannel::theFirstHasNobodyToSendTo()

@@ -12,19 +12,21 @@
 #include <vector>
 
 #include <csignal>
+#include <unistd.h>
 
 namespace {
 
 constexpr int delivered = 0; // exit status of a copy that found another one
 constexpr int ranAlone = 1; // and of one that ran until its input ended
 
-/// One process of the program under test, in a session folder that it shares with its like.
+/// One process of the program under test, with the temporary folder that it shares with its like.
 class Copy {
 public:
-    Copy(const QString &runtimeDir, int timeoutMs)
+    Copy(const QString &temporary, int timeoutMs, const QString &session = QString())
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_RUNTIME_DIR", runtimeDir);
+        environment.insert("TMPDIR", temporary);
+        environment.insert("XDG_RUNTIME_DIR", session);
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         QObject::connect(&m_process, &QProcess::readyReadStandardOutput,
@@ -68,27 +70,32 @@ private slots:
     void ofCopiesStartedAtOnceExactlyOneRuns();
     void aStuckFirstIsGivenUpAfterTheTime();
     void aFirstInAModalDialogStillAnswers();
-    void usersWithoutASessionFolderMeetInTheTemporaryFolder();
+    void copiesOfSeveralSessionsMeet();
+    void copiesWithOtherTemporaryFoldersRunBesideEachOther();
 
 private:
-    QScopedPointer<QTemporaryDir> m_runtime;
+    QString folder() const
+    {
+        return m_temporary->path() + "/orvanta-" + QString::number(geteuid());
+    }
+
+    QScopedPointer<QTemporaryDir> m_temporary;
 };
 
 void tst_QtSingleApplication::init()
 {
-    // Not in the test's own temporary folder: the path of a socket may have 107 bytes at most.
-    m_runtime.reset(new QTemporaryDir("/tmp/orvanta-XXXXXX"));
-    QVERIFY(m_runtime->isValid());
+    m_temporary.reset(new QTemporaryDir);
+    QVERIFY(m_temporary->isValid());
 }
 
 void tst_QtSingleApplication::aSecondCopyEndsWithZeroAndTheFirstStaysAsItWas()
 {
-    Copy first(m_runtime->path(), 5000);
+    Copy first(m_temporary->path(), 5000);
     QTRY_VERIFY(first.runs());
     for (int i = 1; i <= 3; ++i) {
         QElapsedTimer time;
         time.start();
-        Copy second(m_runtime->path(), 5000);
+        Copy second(m_temporary->path(), 5000);
         QTRY_VERIFY_WITH_TIMEOUT(second.hasEnded(), 10000);
         QVERIFY2(time.elapsed() < 5000, qPrintable(QString::number(time.elapsed())));
         QVERIFY(second.foundAnother());
@@ -100,12 +107,12 @@ void tst_QtSingleApplication::aSecondCopyEndsWithZeroAndTheFirstStaysAsItWas()
 
 void tst_QtSingleApplication::theNextCopyRunsAfterTheFirstHasEnded()
 {
-    Copy first(m_runtime->path(), 5000);
+    Copy first(m_temporary->path(), 5000);
     QTRY_VERIFY(first.runs());
     first.endInput();
     QTRY_VERIFY(first.hasEnded());
     QCOMPARE(first.exitCode(), ranAlone);
-    Copy next(m_runtime->path(), 5000);
+    Copy next(m_temporary->path(), 5000);
     QTRY_VERIFY(next.runs());
 }
 
@@ -113,11 +120,11 @@ void tst_QtSingleApplication::aCrashedFirstDoesNotHoldUpTheNextOne()
 {
     for (int i = 0; i < 3; ++i) {
         // A copy that waited for the dead one would not run within the time that is given here.
-        Copy copy(m_runtime->path(), 60000);
+        Copy copy(m_temporary->path(), 60000);
         QTRY_VERIFY(copy.runs());
         copy.send(SIGKILL);
         QTRY_VERIFY(copy.hasEnded());
-        QVERIFY(QFile::exists(m_runtime->filePath("OrvantaTest.socket")));
+        QVERIFY(QFile::exists(folder() + "/OrvantaTest.socket"));
     }
 }
 
@@ -126,7 +133,7 @@ void tst_QtSingleApplication::ofCopiesStartedAtOnceExactlyOneRuns()
     for (int round = 0; round < 4; ++round) {
         std::vector<std::unique_ptr<Copy>> copies(3);
         for (auto &copy : copies)
-            copy = std::make_unique<Copy>(m_runtime->path(), 20000);
+            copy = std::make_unique<Copy>(m_temporary->path(), 20000);
         const auto count = [&](bool (Copy::*is)() const) {
             return std::count_if(copies.begin(), copies.end(),
                                  [is](const auto &copy) { return ((*copy).*is)(); });
@@ -138,18 +145,18 @@ void tst_QtSingleApplication::ofCopiesStartedAtOnceExactlyOneRuns()
 
 void tst_QtSingleApplication::aStuckFirstIsGivenUpAfterTheTime()
 {
-    Copy first(m_runtime->path(), 5000);
+    Copy first(m_temporary->path(), 5000);
     QTRY_VERIFY(first.runs());
     first.send(SIGSTOP);
     QElapsedTimer time;
     time.start();
-    Copy second(m_runtime->path(), 700);
+    Copy second(m_temporary->path(), 700);
     QTRY_COMPARE_WITH_TIMEOUT(second.output(), QByteArray("runs beside another\n"), 10000);
     QVERIFY2(time.elapsed() >= 690, qPrintable(QString::number(time.elapsed())));
 
     // Once it has come to itself it is the one that answers.
     first.send(SIGCONT);
-    Copy third(m_runtime->path(), 5000);
+    Copy third(m_temporary->path(), 5000);
     QTRY_VERIFY(third.foundAnother());
 }
 
@@ -175,22 +182,35 @@ void tst_QtSingleApplication::aFirstInAModalDialogStillAnswers()
     QCOMPARE(received.first().first().toString(), QString("Wake up!"));
 }
 
-void tst_QtSingleApplication::usersWithoutASessionFolderMeetInTheTemporaryFolder()
+void tst_QtSingleApplication::copiesOfSeveralSessionsMeet()
 {
-    const QByteArray before = qgetenv("TMPDIR");
-    qputenv("TMPDIR", QFile::encodeName(m_runtime->path()));
-    Copy first(QString(), 5000);
-    Copy second(QString(), 5000);
-    qputenv("TMPDIR", before);
-    QTRY_VERIFY(first.foundAnother() != second.foundAnother());
-    QTRY_VERIFY(first.runs() != second.runs());
+    // On the desktop, from another desktop, and by "su", where there is no session.
+    const QTemporaryDir desktop;
+    const QTemporaryDir another;
+    Copy first(m_temporary->path(), 20000, desktop.path());
+    QTRY_VERIFY(first.runs());
+    for (const QString &session : {another.path(), QString()}) {
+        Copy second(m_temporary->path(), 20000, session);
+        QTRY_VERIFY_WITH_TIMEOUT(second.foundAnother(), 20000);
+    }
+    QVERIFY(!first.hasEnded());
 }
 
-// The test is itself a first copy, in a session folder of its own that its processes get from it.
+void tst_QtSingleApplication::copiesWithOtherTemporaryFoldersRunBesideEachOther()
+{
+    const QTemporaryDir another;
+    const QTemporaryDir session;
+    Copy first(m_temporary->path(), 20000, session.path());
+    Copy second(another.path(), 20000, session.path());
+    QTRY_VERIFY(first.runs());
+    QTRY_VERIFY(second.runs());
+}
+
+// The test is itself a first copy, in a temporary folder of its own that its processes get from it.
 int main(int argc, char **argv)
 {
-    const QTemporaryDir runtime("/tmp/orvanta-XXXXXX");
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
+    const QTemporaryDir temporary;
+    qputenv("TMPDIR", QFile::encodeName(temporary.path()));
     QtSingleApplication application("OrvantaTest", argc, argv);
     tst_QtSingleApplication test;
     return QTest::qExec(&test, argc, argv);
