@@ -6,7 +6,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <vector>
+
+class QFile;
 class QWidget;
+struct FolderFile;
 
 /**
  * The media store: where captured photos and movies lie, how they are called, and how they are
@@ -46,12 +50,20 @@ public:
     static QString getAppPath();
     /** The home folder as it is now; the settings offer it as the place to save to. */
     static QString getDocumentPath();
-    /** Finds the temporary area, making it if it is missing. */
+    /**
+     * Finds the temporary area, making it if it is missing and closing it to other users. What
+     * somebody else has put in its place, a link, or what cannot be closed is as good as none.
+     */
     static void setTemporaryPath();
-    /** The temporary area, set up on first use; empty if it cannot be made, and tried again. */
+    /** The temporary area, set up on first use; empty if there is none, and tried again. */
     static QString getTemporaryPath();
     /** Removes the temporary area if it is empty, and forgets it either way. */
     static void deleteTemporaryPath();
+    /**
+     * Opens @p file for writing as a new file at @p path, in place of an older one. What lies there
+     * is never written to, as it would be through a link. False if the file cannot be made.
+     */
+    static bool openNewFile(QFile &file, const QString &path);
     /**
      * Whether the folder @p path may be written to, judged by its entry in the folder above it and
      * not by trying. A root folder and a folder reached through a symbolic link are refused.
@@ -106,17 +118,24 @@ public:
 
     /**
      * Moves everything captured into "TavelinCamera/<day of @p moment>" below @p target, newest
-     * first. Stops at the first file that cannot be moved: that file and the ones after it stay in
-     * the temporary area, and nothing half written is left in the folder. A file that is already
-     * there under the same name was saved before and is kept; the captured one is removed.
+     * first. A file that cannot be moved stays in the temporary area, the others are moved all the
+     * same, and nothing half written is left in the folder. A file that is already there under the
+     * same name was saved before and is kept; the captured one is removed.
      *
      * False if the folder cannot be made, a file could not be moved, or there was nothing to save.
+     * What was moved is on the disk when it returns.
      * A copy to another file system takes its time; the wait cursor is shown meanwhile.
      */
     static bool saveData(const QString &target,
                          const QDateTime &moment = QDateTime::currentDateTime());
     /** Deletes everything captured. A file that cannot be deleted stays, silently. */
     static void deleteData();
+    /**
+     * Deletes the hidden files of captures that were cut off when the program was killed: of those
+     * last written before @p moment the ones that nobody is writing any more. For the first copy
+     * of the program alone.
+     */
+    static void deleteUnfinished(const QDateTime &moment);
     /** Deletes the file at @p path, if it can be. */
     static void deletetmpfile(const QString &path);
 
@@ -146,7 +165,8 @@ public:
 
 private:
     static QString ensuredFolder(const QString &path);
-    static bool isCaptured(const QString &name);
+    static bool isCaptured(const char *name);
+    static std::vector<FolderFile> readTemporaryArea(const QStringList &patterns = {});
     static QStringList listTemporaryArea(const QStringList &patterns = {});
     static void showMessage(QMessageBox::Icon icon, const QString &text, QWidget *parent);
 };

@@ -2,104 +2,91 @@
 // leaves thousands of files, so the folder is read once with one stat per file; sorting whole file
 // records by calendar time, as the toolkit's lister does, takes many times as long.
 
+#include "OpenFolder.h"
 #include "WebcamUtil.h"
 
 #include <QFile>
 #include <QSet>
 
 #include <algorithm>
-#include <dirent.h>
-#include <fcntl.h>
+#include <cstring>
 #include <fnmatch.h>
-#include <memory>
-#include <sys/stat.h>
 #include <tuple>
-#include <vector>
 
 namespace {
 
-struct Entry {
-    timespec modified;
-    QString name;
-};
-
-struct CloseFolder {
-    void operator()(DIR *folder) const { closedir(folder); }
-};
-
 /** Newest first. Names carry the time of capture, so they decide between equal times. */
-bool isNewer(const Entry &left, const Entry &right)
+bool isNewer(const FolderFile &left, const FolderFile &right)
 {
     return std::tie(left.modified.tv_sec, left.modified.tv_nsec, left.name)
         > std::tie(right.modified.tv_sec, right.modified.tv_nsec, right.name);
 }
 
-bool matchesAny(const char *name, const std::vector<QByteArray> &patterns)
+/** Folded by hand: to the C library a Turkish I is the capital letter of another i. */
+QByteArray inSmallLetters(QByteArray name)
 {
-    return patterns.empty()
-        || std::any_of(
-               patterns.begin(), patterns.end(),
-               [name](const QByteArray &pattern) {
-                   return fnmatch(pattern.constData(), name, FNM_CASEFOLD | FNM_NOESCAPE) == 0;
-               });
+    std::transform(name.begin(), name.end(), name.begin(), [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter;
+    });
+    return name;
 }
 
-/** The regular files of the folder that are neither hidden nor links, in no order. */
-std::vector<Entry> readFolder(const QString &path, const std::vector<QByteArray> &patterns)
+bool matchesAny(const char *name, const std::vector<QByteArray> &patterns)
 {
-    std::vector<Entry> entries;
-    const std::unique_ptr<DIR, CloseFolder> folder(
-        opendir(path.isEmpty() ? "." : QFile::encodeName(path).constData()));
-    if (!folder)
-        return entries;
-    const int descriptor = dirfd(folder.get());
-    while (const dirent *item = readdir(folder.get())) {
-        if (item->d_name[0] == '.' || !matchesAny(item->d_name, patterns))
-            continue;
-        struct stat status = {};
-        if (fstatat(descriptor, item->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0
-            && S_ISREG(status.st_mode))
-            entries.push_back({status.st_mtim, QFile::decodeName(item->d_name)});
-    }
-    return entries;
+    if (patterns.empty())
+        return true;
+    const QByteArray small = inSmallLetters(name);
+    return std::any_of(patterns.begin(), patterns.end(), [&small](const QByteArray &pattern) {
+        return fnmatch(pattern.constData(), small.constData(), FNM_CASEFOLD | FNM_NOESCAPE) == 0;
+    });
 }
 
 } // namespace
 
-bool WebcamUtil::isCaptured(const QString &name)
+bool WebcamUtil::isCaptured(const char *name)
 {
-    return name.startsWith(QLatin1String("photo")) || name.startsWith(QLatin1String("movie"));
+    return std::strncmp(name, "photo", 5) == 0 || std::strncmp(name, "movie", 5) == 0;
 }
 
 /**
- * The files of the temporary area that match one of the patterns (any case), newest first; all of
- * them if there is no pattern. If the area cannot be made, its empty path means the folder the
- * program runs in.
+ * The files of the temporary area that match one of the patterns (any case) and are not hidden,
+ * newest first; all of them if there is no pattern. If there is no area, its empty path means the
+ * folder the program runs in.
  */
-QStringList WebcamUtil::listTemporaryArea(const QStringList &patterns)
+std::vector<FolderFile> WebcamUtil::readTemporaryArea(const QStringList &patterns)
 {
     std::vector<QByteArray> encoded;
-    encoded.reserve(patterns.size());
+    encoded.reserve(size_t(patterns.size()));
     for (const QString &pattern : patterns)
-        encoded.push_back(QFile::encodeName(pattern));
+        encoded.push_back(inSmallLetters(QFile::encodeName(pattern)));
 
-    std::vector<Entry> entries = readFolder(getTemporaryPath(), encoded);
-    std::sort(entries.begin(), entries.end(), isNewer);
+    std::vector<FolderFile> files =
+        OpenFolder(getTemporaryPath()).files([&encoded](const char *name) {
+            return name[0] != '.' && matchesAny(name, encoded);
+        });
+    std::sort(files.begin(), files.end(), isNewer);
+    return files;
+}
 
+/** Their names in the user's letters, for lists and for the screen. */
+QStringList WebcamUtil::listTemporaryArea(const QStringList &patterns)
+{
+    const std::vector<FolderFile> files = readTemporaryArea(patterns);
     QStringList names;
-    names.reserve(int(entries.size()));
-    for (const Entry &entry : entries)
-        names.append(entry.name);
+    names.reserve(int(files.size()));
+    for (const FolderFile &file : files)
+        names.append(QFile::decodeName(file.name));
     return names;
 }
 
 QStringList WebcamUtil::getFileList(const QStringList &patterns)
 {
-    QStringList names = listTemporaryArea(patterns);
-    std::reverse(names.begin(), names.end());
-    names.erase(std::remove_if(names.begin(), names.end(),
-                               [](const QString &name) { return !isCaptured(name); }),
-                names.end());
+    const std::vector<FolderFile> files = readTemporaryArea(patterns);
+    QStringList names;
+    names.reserve(int(files.size()));
+    for (auto file = files.rbegin(); file != files.rend(); ++file)
+        if (isCaptured(file->name.constData()))
+            names.append(QFile::decodeName(file->name));
     return names;
 }
 

@@ -1,3 +1,4 @@
+#include "ForeignLocale.h"
 #include "StoreFolders.h"
 #include "WebcamUtil.h"
 
@@ -28,6 +29,8 @@ private Q_SLOTS:
     void photosAreLookedForAsBitmaps_data();
     void photosAreLookedForAsBitmaps();
     void withoutAnAreaTheCurrentFolderIsListed();
+    void listsAreTheSameInEveryCountry_data();
+    void listsAreTheSameInEveryCountry();
 };
 
 namespace {
@@ -238,6 +241,27 @@ void WebcamUtilListingTest::withoutAnAreaTheCurrentFolderIsListed()
     const QStringList listed = WebcamUtil::getFileList({"photo*"});
     QVERIFY(QDir::setCurrent(current));
     QCOMPARE(listed, QStringList("photo1.png"));
+}
+
+void WebcamUtilListingTest::listsAreTheSameInEveryCountry_data()
+{
+    QTest::addColumn<QString>("country");
+    // A Turkish I has no dot, and its small letter none either.
+    for (const char *country : {"tr_TR", "ar_EG", "de_DE"})
+        QTest::newRow(country) << QString(country);
+}
+
+void WebcamUtilListingTest::listsAreTheSameInEveryCountry()
+{
+    QFETCH(QString, country);
+    const ForeignLocale abroad(country);
+    QVERIFY2(abroad.isInUse(), "needs the package \"locales\"");
+    const StoreFolders folders;
+    QVERIFY(
+        fill(folders, {"movie2.mov", "movie2tmp.png", "photoI.png", "photoi.PNG", "MOVIE3.mov"}));
+    QCOMPARE(WebcamUtil::getTempPhotoNameList(), QStringList({"photoI.png", "photoi.PNG"}));
+    QCOMPARE(WebcamUtil::getMovieFileList(), QStringList("movie2tmp.png"));
+    QCOMPARE(WebcamUtil::getFileList({"*I.PNG"}), QStringList({"photoI.png", "photoi.PNG"}));
 }
 
 QTEST_GUILESS_MAIN(WebcamUtilListingTest)

@@ -1,3 +1,4 @@
+#include "ForeignLocale.h"
 #include "StoreFolders.h"
 #include "WebcamUtil.h"
 
@@ -6,6 +7,46 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <ctime>
+
+namespace {
+
+/** Another time zone, for as long as it lives. */
+class TimeZone {
+public:
+    explicit TimeZone(const QByteArray &zone)
+        : m_old(qgetenv("TZ"))
+    {
+        set(zone);
+    }
+    ~TimeZone() { set(m_old); }
+    Q_DISABLE_COPY(TimeZone)
+
+private:
+    static void set(const QByteArray &zone)
+    {
+        if (zone.isEmpty())
+            qunsetenv("TZ");
+        else
+            qputenv("TZ", zone);
+        tzset();
+    }
+    QByteArray m_old;
+};
+
+/** The wall clock to the second, as the C library tells it. */
+QString localStamp()
+{
+    const time_t now = std::time(nullptr);
+    tm local = {};
+    localtime_r(&now, &local);
+    char stamp[32] = {};
+    std::strftime(stamp, sizeof stamp, "%Y%m%d%H%M%S", &local);
+    return QString::fromLatin1(stamp);
+}
+
+} // namespace
+
 class WebcamUtilNamesTest : public QObject {
     Q_OBJECT
 
@@ -13,6 +54,10 @@ private Q_SLOTS:
     void stampsAreMadeOfTheMoment_data();
     void stampsAreMadeOfTheMoment();
     void stampsAreTakenNowUnlessToldOtherwise();
+    void stampsAreInLocalTime_data();
+    void stampsAreInLocalTime();
+    void stampsAreTheSameInEveryCountry_data();
+    void stampsAreTheSameInEveryCountry();
     void aPhotoIsNamedByTheMillisecond();
     void aPhotoAfterMidnightKeepsItsZeros();
     void aMovieIsNamedByTheSecondInTheTemporaryArea();
@@ -56,6 +101,60 @@ void WebcamUtilNamesTest::stampsAreTakenNowUnlessToldOtherwise()
     QVERIFY(QRegularExpression("^[0-9]{17}$").match(stamp).hasMatch());
     QVERIFY(before <= stamp && stamp <= after);
     QVERIFY(before <= photo.mid(5, 17) && photo.mid(5, 17) <= after);
+}
+
+void WebcamUtilNamesTest::stampsAreInLocalTime_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    // One of the first two has another day than Greenwich at any moment.
+    QTest::newRow("14 hours east of Greenwich") << QByteArray("EAST-14");
+    QTest::newRow("12 hours west of Greenwich") << QByteArray("WEST+12");
+    QTest::newRow("half an hour off") << QByteArray("HALF-05:30");
+}
+
+void WebcamUtilNamesTest::stampsAreInLocalTime()
+{
+    QFETCH(QByteArray, zone);
+    const TimeZone there(zone);
+    const StoreFolders folders;
+    const QString before = localStamp();
+    const QStringList stamps = {
+        WebcamUtil::CurrentTimeQString().left(14),
+        WebcamUtil::CurrentSecondString(),
+        WebcamUtil::CreatePhotofilename().mid(5, 14),
+        WebcamUtil::CreateTempPhotofilename().mid(5, 14),
+        QFileInfo(WebcamUtil::CreateMoviefilename()).fileName().mid(5, 14),
+        QFileInfo(WebcamUtil::CreateTempMoviefilename()).fileName().mid(5, 14),
+    };
+    const QStringList days = {
+        WebcamUtil::CurrentDateString(),
+        QFileInfo(WebcamUtil::CreateSavePath(folders.target())).fileName(),
+    };
+    const QString after = localStamp();
+    for (const QString &stamp : stamps)
+        QVERIFY2(before <= stamp && stamp <= after, qPrintable(stamp));
+    for (const QString &day : days)
+        QVERIFY2(before.left(8) <= day && day <= after.left(8), qPrintable(day));
+}
+
+void WebcamUtilNamesTest::stampsAreTheSameInEveryCountry_data()
+{
+    QTest::addColumn<QString>("country");
+    for (const char *country : {"de_DE", "tr_TR", "ar_EG", "fa_IR"})
+        QTest::newRow(country) << QString(country);
+}
+
+void WebcamUtilNamesTest::stampsAreTheSameInEveryCountry()
+{
+    QFETCH(QString, country);
+    const ForeignLocale abroad(country);
+    QVERIFY2(abroad.isInUse(), "needs the package \"locales\"");
+    const StoreFolders folders;
+    const QDateTime moment({2009, 3, 4}, {9, 5, 7, 42});
+    QCOMPARE(WebcamUtil::CreatePhotofilename(moment), QString("photo20090304090507042.png"));
+    QCOMPARE(WebcamUtil::CreateMoviefilename(moment), folders.area() + "/movie20090304090507.mov");
+    QCOMPARE(WebcamUtil::CreateSavePath(folders.target(), moment),
+             folders.target() + "/TavelinCamera/20090304");
 }
 
 void WebcamUtilNamesTest::aPhotoIsNamedByTheMillisecond()
