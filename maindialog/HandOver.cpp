@@ -30,8 +30,9 @@ void CVistrelDlg::PutTVSPhoto()
     const QString folder = area + QStringLiteral("/tmp");
     if (area.isEmpty() || !QDir().mkpath(folder))
         return;
-    QFile file(folder + QStringLiteral("/PUTTVS") + WebcamUtil::CurrentSecondString());
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+    QFile file;
+    if (!WebcamUtil::openNewFile(
+            file, folder + QStringLiteral("/PUTTVS") + WebcamUtil::CurrentSecondString()))
         return;
     QTextStream out(&file);
     out.setCodec("UTF-8");

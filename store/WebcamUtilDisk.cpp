@@ -1,15 +1,15 @@
 // Whether the next capture has room.
 
+#include "PrivateFolder.h"
 #include "WebcamUtil.h"
-
-#include <QDir>
 
 #include <sys/statvfs.h>
 
 bool WebcamUtil::chkdiskFreeSpace()
 {
-    // A cleaner of temporary files may have taken the area away while the program ran.
-    if (!m_pictureDataPath.isEmpty() && !QDir(m_pictureDataPath).exists())
+    // A cleaner of temporary files may have taken the area away while the program ran, and somebody
+    // else may have put something in its place.
+    if (!m_pictureDataPath.isEmpty() && !PrivateFolder::isOwn(m_pictureDataPath))
         m_pictureDataPath.clear();
     if (m_pictureDataPath.isEmpty())
         setTemporaryPath();

@@ -1,9 +1,12 @@
 // The folders of the media store: the home folder and the temporary area.
 
+#include "PrivateFolder.h"
 #include "WebcamUtil.h"
 
 #include <QDir>
+#include <QFile>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 QString WebcamUtil::m_apppath;
@@ -41,8 +44,9 @@ QString WebcamUtil::getDocumentPath()
 void WebcamUtil::setTemporaryPath()
 {
     // The user's number keeps the areas of several users of one machine apart.
-    m_pictureDataPath = ensuredFolder(QDir::tempPath() + temporaryAreaName() + QLatin1Char('_')
-                                      + QString::number(geteuid()));
+    // Captures show children: nobody else looks at them, and no link leads them elsewhere.
+    m_pictureDataPath = PrivateFolder::ensure(QDir::tempPath() + temporaryAreaName()
+                                              + QLatin1Char('_') + QString::number(geteuid()));
 }
 
 QString WebcamUtil::getTemporaryPath()
@@ -61,6 +65,17 @@ void WebcamUtil::deleteTemporaryPath()
     if (folder.exists())
         folder.rmpath(path);
     m_pictureDataPath.clear();
+}
+
+bool WebcamUtil::openNewFile(QFile &file, const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    // What has the name makes room, and is not written to: it may be a link to somewhere else.
+    unlink(name.constData());
+    const int descriptor =
+        open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+    return descriptor >= 0
+        && file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle);
 }
 
 bool WebcamUtil::hasWriteAccess(const QString &path)

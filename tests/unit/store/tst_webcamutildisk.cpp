@@ -3,16 +3,68 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStorageInfo>
 #include <QTest>
+
+#include <cerrno>
+#include <sys/statvfs.h>
+
+extern "C" int __real_statvfs(const char *path, struct statvfs *answer);
+
+namespace {
+
+/** Answers instead of the disk, as the test tells it; a folder that is not there has none. */
+struct FakeDisk {
+    static void reset()
+    {
+        answer = {};
+        answer.f_bsize = 1024 * 1024;
+        answer.f_frsize = 4096;
+        answer.f_bavail = answer.f_bfree = 1024 * 1024;
+        asked.clear();
+        fails = isReal = false;
+    }
+
+    static struct statvfs answer;
+    static QByteArray asked;
+    static bool fails;
+    static bool isReal;
+};
+
+struct statvfs FakeDisk::answer;
+QByteArray FakeDisk::asked;
+bool FakeDisk::fails;
+bool FakeDisk::isReal;
+
+} // namespace
+
+extern "C" int __wrap_statvfs(const char *path, struct statvfs *answer)
+{
+    FakeDisk::asked = path;
+    const int real = __real_statvfs(path, answer);
+    if (real != 0 || FakeDisk::isReal)
+        return real;
+    if (FakeDisk::fails) {
+        errno = EIO;
+        return -1;
+    }
+    *answer = FakeDisk::answer;
+    return 0;
+}
 
 class WebcamUtilDiskTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { FakeDisk::reset(); }
+
     void moreThan300MegabytesAreEnough_data();
     void moreThan300MegabytesAreEnough();
     void theTemporaryAreasFileSystemIsAsked();
+    void theAnswerIsThatOfTheRealDisk();
+    void onlyWhatUsersMayFillCounts_data();
+    void onlyWhatUsersMayFillCounts();
+    void aDiskThatDoesNotAnswerCountsAsFull();
+    void whatSomebodyElsePutInTheAreasPlaceCountsAsFull();
     void aVanishedAreaIsMadeAgainBeforeMeasuring();
     void anAreaThatCannotBeMadeCountsAsFull();
     void anAreaThatCannotBeSpelledInLatinLettersCountsAsFull();
@@ -46,18 +98,64 @@ void WebcamUtilDiskTest::moreThan300MegabytesAreEnough()
 void WebcamUtilDiskTest::theTemporaryAreasFileSystemIsAsked()
 {
     const StoreFolders folders;
-    // bytesAvailable() leaves out what is kept for root, too.
-    const qint64 available = QStorageInfo(folders.temporary()).bytesAvailable();
-    const qint64 needed = qint64(300) * 1024 * 1024;
-    QVERIFY2(available > 2 * needed, "needs 600 MB of free space in the build folder");
     QVERIFY(WebcamUtil::chkdiskFreeSpace());
     QVERIFY(QFileInfo(folders.area()).isDir());
     QCOMPARE(WebcamUtil::m_pictureDataPath, folders.area());
+    QCOMPARE(FakeDisk::asked, QFile::encodeName(folders.area()));
+}
 
-    // The process file system has no room at all, and it can be asked.
-    WebcamUtil::m_pictureDataPath = "/proc";
+void WebcamUtilDiskTest::theAnswerIsThatOfTheRealDisk()
+{
+    const StoreFolders folders;
+    FakeDisk::isReal = true;
+    const bool enough = WebcamUtil::chkdiskFreeSpace();
+    struct statvfs real = {};
+    QCOMPARE(statvfs(QFile::encodeName(folders.area()).constData(), &real), 0);
+    QCOMPARE(enough, WebcamUtil::isEnoughSpace(real.f_frsize, real.f_bavail));
+}
+
+void WebcamUtilDiskTest::onlyWhatUsersMayFillCounts_data()
+{
+    QTest::addColumn<quint64>("unit"); // of the counts
+    QTest::addColumn<quint64>("forUsers");
+    QTest::addColumn<quint64>("forRoot"); // with what is for users
+    QTest::addColumn<bool>("enough");
+    QTest::newRow("room for all") << quint64(4096) << quint64(76801) << quint64(76801) << true;
+    QTest::newRow("room for root alone")
+        << quint64(4096) << quint64(0) << quint64(1 << 20) << false;
+    QTest::newRow("not quite enough for users")
+        << quint64(4096) << quint64(76800) << quint64(1 << 20) << false;
+    QTest::newRow("small units in large blocks")
+        << quint64(512) << quint64(76801) << quint64(76801) << false;
+}
+
+void WebcamUtilDiskTest::onlyWhatUsersMayFillCounts()
+{
+    QFETCH(quint64, unit);
+    QFETCH(quint64, forUsers);
+    QFETCH(quint64, forRoot);
+    const StoreFolders folders;
+    FakeDisk::answer.f_frsize = unit;
+    FakeDisk::answer.f_bavail = forUsers;
+    FakeDisk::answer.f_bfree = forRoot;
+    QTEST(WebcamUtil::chkdiskFreeSpace(), "enough");
+}
+
+void WebcamUtilDiskTest::aDiskThatDoesNotAnswerCountsAsFull()
+{
+    const StoreFolders folders;
+    FakeDisk::fails = true;
     QVERIFY(!WebcamUtil::chkdiskFreeSpace());
-    QCOMPARE(WebcamUtil::m_pictureDataPath, QString("/proc"));
+}
+
+void WebcamUtilDiskTest::whatSomebodyElsePutInTheAreasPlaceCountsAsFull()
+{
+    const StoreFolders folders;
+    QVERIFY(WebcamUtil::chkdiskFreeSpace());
+    QVERIFY(QDir(folders.area()).removeRecursively());
+    QVERIFY(QFile::link(folders.target(), folders.area()));
+    QVERIFY(!WebcamUtil::chkdiskFreeSpace());
+    QCOMPARE(WebcamUtil::m_pictureDataPath, QString());
 }
 
 void WebcamUtilDiskTest::aVanishedAreaIsMadeAgainBeforeMeasuring()

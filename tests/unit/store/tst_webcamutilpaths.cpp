@@ -23,6 +23,13 @@ private Q_SLOTS:
     void theTemporaryAreaLiesInTmpWithoutTmpdir();
     void anAreaOfAnEarlierRunIsFoundWithItsFiles();
     void anAreaThatCannotBeMadeIsEmptyAndTriedAgain();
+    void theAreaIsClosedToOtherUsers_data();
+    void theAreaIsClosedToOtherUsers();
+    void anAreaThatIsALinkIsNone();
+    void anAreaOfSomebodyElseIsNone();
+    void aNewFileTakesThePlaceOfWhatIsThere_data();
+    void aNewFileTakesThePlaceOfWhatIsThere();
+    void aNewFileThatCannotBeMadeIsNotOpen();
     void deletingAnEmptyAreaRemovesItAndItsEmptyParents();
     void deletingAnAreaWithAPhotoOnlyForgetsIt();
     void deletingAnUnknownAreaLooksForOneWithoutTheUser();
@@ -114,6 +121,98 @@ void WebcamUtilPathsTest::anAreaThatCannotBeMadeIsEmptyAndTriedAgain()
     QCOMPARE(WebcamUtil::getTemporaryPath(), QString());
     qputenv("TMPDIR", QFile::encodeName(folders.temporary()));
     QCOMPARE(WebcamUtil::getTemporaryPath(), folders.area());
+}
+
+void WebcamUtilPathsTest::theAreaIsClosedToOtherUsers_data()
+{
+    QTest::addColumn<int>("mode"); // as it was found; 0 if it was not there
+    QTest::newRow("made now") << 0;
+    QTest::newRow("of an earlier version") << 0755;
+    QTest::newRow("open to everybody") << 0777;
+}
+
+void WebcamUtilPathsTest::theAreaIsClosedToOtherUsers()
+{
+    QFETCH(int, mode);
+    const StoreFolders folders;
+    const QByteArray area = QFile::encodeName(folders.area());
+    if (mode != 0) {
+        QVERIFY(StoreFolders::write(folders.area() + "/photo1.png"));
+        QCOMPARE(chmod(area.constData(), mode_t(mode)), 0);
+    }
+    QCOMPARE(WebcamUtil::getTemporaryPath(), folders.area());
+    struct stat entry = {};
+    QCOMPARE(stat(area.constData(), &entry), 0);
+    QCOMPARE(entry.st_mode & 07777, 0700U);
+    QCOMPARE(WebcamUtil::getTempPhotoNameList().size(), mode == 0 ? 0 : 1);
+}
+
+void WebcamUtilPathsTest::anAreaThatIsALinkIsNone()
+{
+    const StoreFolders folders;
+    QVERIFY(StoreFolders::write(folders.target() + "/photo1.png", "somebody's"));
+    QVERIFY(QFile::link(folders.target(), folders.area()));
+    QCOMPARE(WebcamUtil::getTemporaryPath(), QString());
+    QVERIFY(!WebcamUtil::chkdiskFreeSpace());
+    WebcamUtil::deleteData();
+    WebcamUtil::deleteUnfinished(QDateTime::currentDateTime());
+    QCOMPARE(StoreFolders::read(folders.target() + "/photo1.png"), QByteArray("somebody's"));
+    // Without the link there is room for an area again.
+    QVERIFY(QFile::remove(folders.area()));
+    QCOMPARE(WebcamUtil::getTemporaryPath(), folders.area());
+}
+
+void WebcamUtilPathsTest::anAreaOfSomebodyElseIsNone()
+{
+    QVERIFY2(geteuid() == 0, "only root can give a folder away");
+    const StoreFolders folders;
+    QVERIFY(StoreFolders::write(folders.area() + "/photo1.png"));
+    QCOMPARE(chown(QFile::encodeName(folders.area()).constData(), 65534, 65534), 0);
+    QCOMPARE(WebcamUtil::getTemporaryPath(), QString());
+    QVERIFY(!WebcamUtil::chkdiskFreeSpace());
+    WebcamUtil::deleteData();
+    QVERIFY(QFileInfo::exists(folders.area() + "/photo1.png"));
+}
+
+void WebcamUtilPathsTest::aNewFileTakesThePlaceOfWhatIsThere_data()
+{
+    QTest::addColumn<QString>("isThere");
+    QTest::newRow("nothing") << "nothing";
+    QTest::newRow("an older file") << "file";
+    QTest::newRow("a link to a file") << "link";
+    QTest::newRow("a link to nowhere") << "dangling";
+}
+
+void WebcamUtilPathsTest::aNewFileTakesThePlaceOfWhatIsThere()
+{
+    QFETCH(QString, isThere);
+    const StoreFolders folders;
+    const QString letter = folders.root() + "/letter.txt";
+    const QString path = folders.root() + "/note";
+    if (isThere == "file")
+        QVERIFY(StoreFolders::write(path, "a much longer note"));
+    if (isThere == "link")
+        QVERIFY(StoreFolders::write(letter, "of somebody"));
+    if (isThere == "link" || isThere == "dangling")
+        QVERIFY(QFile::link(letter, path));
+    QFile file;
+    QVERIFY(WebcamUtil::openNewFile(file, path));
+    QCOMPARE(file.write("a note"), qint64(6));
+    file.close();
+    QCOMPARE(StoreFolders::read(path), QByteArray("a note"));
+    QVERIFY(!QFileInfo(path).isSymLink());
+    QCOMPARE(StoreFolders::read(letter), QByteArray(isThere == "link" ? "of somebody" : ""));
+    QCOMPARE(QFileInfo::exists(letter), isThere == "link");
+}
+
+void WebcamUtilPathsTest::aNewFileThatCannotBeMadeIsNotOpen()
+{
+    const StoreFolders folders;
+    QFile file;
+    QVERIFY(!WebcamUtil::openNewFile(file, folders.root() + "/missing/note"));
+    QVERIFY(!file.isOpen());
+    QVERIFY(!WebcamUtil::openNewFile(file, folders.target()));
+    QVERIFY(QFileInfo(folders.target()).isDir());
 }
 
 void WebcamUtilPathsTest::deletingAnEmptyAreaRemovesItAndItsEmptyParents()
