@@ -1,8 +1,11 @@
 #include "MovieRecorder.h"
 
 #include "EngineLog.h"
+#include "NewFile.h"
 
 #include <QFile>
+
+#include <unistd.h>
 
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
@@ -132,9 +135,18 @@ bool MovieRecorder::build(const GstVideoInfo &format, const MovieCoding &coding)
     gst_bus_set_sync_handler(
         bus.get(), Progress::onMessage, new std::shared_ptr<Progress>(m_progress),
         [](gpointer shared) { delete static_cast<std::shared_ptr<Progress> *>(shared); });
+    // The sink writes to whatever has the name: an older movie, or where a link leads.
+    const int made = createNewFile(m_path);
+    if (made < 0) {
+        qCInfo(engineLog) << "cannot be made anew:" << m_path;
+        return false;
+    }
+    close(made);
     m_open = gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE;
-    if (!m_open)
+    if (!m_open) {
         gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
+        QFile::remove(m_path);
+    }
     return m_open;
 }
 

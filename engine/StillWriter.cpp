@@ -2,6 +2,7 @@
 
 #include "EngineLog.h"
 #include "GstHandles.h"
+#include "NewFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -11,6 +12,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <spng.h>
+#include <sys/file.h>
+#include <unistd.h>
 #include <zlib.h>
 
 struct SpngFree {
@@ -73,21 +76,26 @@ bool writeStill(const QImage &picture, const QString &path)
     if (picture.isNull() || picture.format() != QImage::Format_RGB888 || info.isDir()
         || !QImageWriter::supportedImageFormats().contains(format))
         return false;
-    QFile hidden(info.path() + QLatin1String("/.") + info.fileName());
-    if (!hidden.open(QIODevice::WriteOnly)) {
-        qCInfo(engineLog) << "cannot write" << path << hidden.errorString();
+    const QString hidden = info.path() + QLatin1String("/.") + info.fileName();
+    const QByteArray hiddenName = QFile::encodeName(hidden);
+    unlink(hiddenName.constData()); // what a program that was killed left there
+    const int descriptor = createNewFile(hidden);
+    QFile file;
+    if (descriptor < 0
+        || !file.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
+        qCInfo(engineLog) << "cannot write" << path;
         return false;
     }
-    bool written = encode(picture, format, hidden) && hidden.flush();
-    hidden.close();
+    // The mark of a file that is being written: one without it is swept away at the next start.
+    (void)flock(descriptor, LOCK_EX | LOCK_NB);
+    bool written = encode(picture, format, file) && file.flush();
+    file.close();
     // Not QFile::rename(), which refuses to replace a file.
-    written = written && hidden.error() == QFile::NoError
-        && std::rename(QFile::encodeName(hidden.fileName()).constData(),
-                       QFile::encodeName(path).constData())
-            == 0;
+    written = written && file.error() == QFile::NoError
+        && std::rename(hiddenName.constData(), QFile::encodeName(path).constData()) == 0;
     if (!written) {
         qCInfo(engineLog) << "cannot write" << path;
-        hidden.remove();
+        unlink(hiddenName.constData());
     }
     return written;
 }

@@ -6,7 +6,9 @@ class QString;
 
 /// Writes @p picture (RGB888) to @p path in the format that the path's extension names. It is
 /// written under a hidden name in the same folder first and takes its own name when it is complete,
-/// so that nobody lists half a picture. False, and nothing left behind, when that fails.
+/// so that nobody lists half a picture. The hidden file is a new one, never written to through a
+/// link, and locked while it is written, so that it can be told from one that a killed program
+/// left. False, and nothing left behind, when that fails.
 bool writeStill(const QImage &picture, const QString &path);
 
 #endif

@@ -6,9 +6,15 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <atomic>
 #include <csignal>
+#include <future>
 
 // Every pixel differs from its neighbours, so that a shifted row or a swapped colour is seen.
 static QImage picture(const QSize &size)
@@ -33,6 +39,9 @@ private slots:
     void aFailureLeavesNothingBehind_data();
     void aFailureLeavesNothingBehind();
     void aFullDiskLeavesNothingBehind();
+    void theRestOfAKilledProgramIsReplaced();
+    void aLinkInThePlaceOfTheHiddenFileIsNotFollowed();
+    void thePictureIsHeldWhileItIsWritten();
 
 private:
     QStringList filesIn(const QString &folder) const
@@ -132,6 +141,61 @@ void TestStillWriter::aFullDiskLeavesNothingBehind()
     QVERIFY(!png);
     QVERIFY(!bmp);
     QCOMPARE(filesIn(m_folder->path()), QStringList());
+}
+
+void TestStillWriter::theRestOfAKilledProgramIsReplaced()
+{
+    QFile rest(m_folder->filePath(".photo.png"));
+    QVERIFY(rest.open(QIODevice::WriteOnly));
+    rest.write(QByteArray(1000000, 'x'));
+    rest.close();
+    QVERIFY(writeStill(picture({64, 48}), m_folder->filePath("photo.png")));
+    QCOMPARE(QImage(m_folder->filePath("photo.png")).size(), QSize(64, 48));
+    QVERIFY(QFileInfo(m_folder->filePath("photo.png")).size() < 1000000);
+    QCOMPARE(filesIn(m_folder->path()), QStringList("photo.png"));
+}
+
+void TestStillWriter::aLinkInThePlaceOfTheHiddenFileIsNotFollowed()
+{
+    QFile letter(m_folder->filePath("letter.txt"));
+    QVERIFY(letter.open(QIODevice::ReadWrite));
+    letter.write("of somebody");
+    QVERIFY(letter.flush());
+    QVERIFY(QFile::link(letter.fileName(), m_folder->filePath(".photo.png")));
+    QVERIFY(writeStill(picture({64, 48}), m_folder->filePath("photo.png")));
+    QVERIFY(letter.seek(0));
+    QCOMPARE(letter.readAll(), QByteArray("of somebody"));
+    QVERIFY(!QFileInfo(m_folder->filePath("photo.png")).isSymLink());
+    QCOMPARE(QImage(m_folder->filePath("photo.png")).size(), QSize(64, 48));
+}
+
+// Looked at from the moment the file is there until it is gone, beside the writer: as the first
+// copy of the program does when another one is taking a photo.
+void TestStillWriter::thePictureIsHeldWhileItIsWritten()
+{
+    const QString path = m_folder->filePath("photo.bmp");
+    const QByteArray hidden = QFile::encodeName(m_folder->filePath(".photo.bmp"));
+    std::atomic<int> held(0);
+    std::atomic<bool> isDone(false);
+    std::future<bool> writer = std::async(std::launch::async, [&] {
+        bool all = true;
+        for (int i = 0; i < 200 && all && held == 0; ++i)
+            all = writeStill(picture({1280, 720}), path);
+        isDone = true;
+        return all;
+    });
+    while (!isDone && held == 0) {
+        const int file = open(hidden.constData(), O_RDWR | O_CLOEXEC);
+        if (file < 0)
+            continue;
+        struct stat status = {};
+        // Without any contents it may be younger than its lock.
+        if (fstat(file, &status) == 0 && status.st_size > 0 && flock(file, LOCK_SH | LOCK_NB) != 0)
+            ++held;
+        close(file);
+    }
+    QVERIFY(writer.get());
+    QVERIFY(held > 0);
 }
 
 QTEST_GUILESS_MAIN(TestStillWriter)
