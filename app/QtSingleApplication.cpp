@@ -31,6 +31,11 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
     return m_channel.send(message, timeout);
 }
 
+bool QtSingleApplication::isFirst()
+{
+    return m_channel.becomeFirst();
+}
+
 bool QtSingleApplication::isRunning()
 {
     return m_channel.isTaken();

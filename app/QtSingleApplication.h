@@ -25,6 +25,8 @@ public:
     bool sendMessage(const QString &message, int timeout = 5000);
     /// True when another copy is the first.
     bool isRunning();
+    /// True when this copy is known to be the first; of several copies one at most.
+    bool isFirst();
 
 signals:
     /// In the first copy: another one has sent this.

@@ -6,7 +6,9 @@
 #include "PromptEnd.h"
 #include "QtSingleApplication.h"
 #include "SignalWatcher.h"
+#include "WebcamUtil.h"
 
+#include <QDateTime>
 #include <QDir>
 
 namespace {
@@ -21,6 +23,7 @@ constexpr std::chrono::milliseconds endLimit(700);
 
 int main(int argc, char **argv)
 {
+    const QDateTime start = QDateTime::currentDateTime();
     // The player's own way of drawing into a window leaves borders on some desktops and nothing on
     // others; drawn by the program itself a movie fills its place on all of them. Read once, by the
     // first player that is made.
@@ -33,6 +36,8 @@ int main(int argc, char **argv)
     // The answer is not needed: a copy that is there but did not respond in time must not keep the
     // camera from being used.
     application.isRunning();
+    if (application.isFirst())
+        WebcamUtil::deleteUnfinished(start);
 
     // The folder that the program was started in, not the one that it lies in: so a set of plug-ins
     // can be tried by starting from beside it.

@@ -21,6 +21,7 @@ private slots:
     void closingTheWindowAsksNothingAndKeepsThePhotos();
     void terminatingTheProcessKeepsThePhotos();
     void aKilledProgramStartsAgainWithItsPhotos();
+    void theNextStartSweepsWhatAKilledProgramLeftHalfDone();
 
 private:
     void takeAndAccept();
@@ -136,6 +137,19 @@ void TestLeaving::aKilledProgramStartsAgainWithItsPhotos()
     m_user->program().kill();
     QVERIFY(m_user->startLive());
     QCOMPARE(m_user->program().captured(), files);
+}
+
+void TestLeaving::theNextStartSweepsWhatAKilledProgramLeftHalfDone()
+{
+    takeAndAccept();
+    const QStringList photos = m_user->program().captured();
+    m_user->program().kill();
+    QFile half(m_user->program().temporaryArea() + "/.photo20090304090507042.png");
+    QVERIFY(half.open(QIODevice::WriteOnly));
+    QVERIFY(half.write("half a photo") > 0);
+    half.close();
+    QVERIFY(m_user->startLive());
+    QCOMPARE(m_user->program().captured(), photos);
 }
 
 QTEST_MAIN(TestLeaving)
