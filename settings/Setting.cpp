@@ -3,9 +3,12 @@
 #include "WebcamUtil.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QTextCodec>
 
 #include <algorithm>
 #include <array>
@@ -15,6 +18,51 @@ namespace {
 QString settingsFile()
 {
     return WebcamUtil::getAppPath() + QStringLiteral("/.halcyra_orvantacc.ini");
+}
+
+/** What people type is UTF-8; only an older editor's file is not. */
+bool isUtf8(const QByteArray &text)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("UTF-8")->toUnicode(text.constData(), text.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    // A device or a pipe in the place of the file would never end.
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(1024 * 1024)
+                                                                      : QByteArray();
+}
+
+/** What stands behind the key in the file, to the letter, up to a comment. */
+QByteArray writtenBehind(const QByteArray &contents, const QByteArray &key)
+{
+    QByteArray found;
+    bool isGeneral = true;
+    for (const QByteArray &whole : contents.split('\n')) {
+        const QByteArray line = whole.trimmed();
+        if (line.startsWith('['))
+            isGeneral = line.toLower() == "[general]";
+        const int equals = line.indexOf('=');
+        if (isGeneral && equals > 0 && line.left(equals).trimmed() == key)
+            found = line.mid(equals + 1).split(';').first().trimmed();
+    }
+    return found;
+}
+
+/**
+ * The folder under the key. The toolkit writes a comma in quotes and takes one without them for the
+ * gap between two values; in a line that was typed by hand it belongs to the name.
+ */
+QString readFolder(const QSettings &file, const QByteArray &contents, const QString &key)
+{
+    const QVariant value = file.value(key, QString());
+    if (value.type() != QVariant::StringList)
+        return value.toString();
+    const QByteArray written = writtenBehind(contents, key.toLatin1());
+    return isUtf8(written) ? QString::fromUtf8(written) : QString::fromLatin1(written);
 }
 
 /** Takes the number under the key, if it is in range; returns what was read in any case. */
@@ -133,14 +181,18 @@ void Setting::connectControls()
 
 void Setting::readFile()
 {
-    const QSettings file(settingsFile(), QSettings::IniFormat);
+    const QByteArray contents = contentsOf(settingsFile());
+    QSettings file(settingsFile(), QSettings::IniFormat);
+    // For reading alone: what the program writes is plain ASCII, which its older versions can read.
+    if (isUtf8(contents))
+        file.setIniCodec("UTF-8");
     const int autoShooting = readNumber(file, QStringLiteral("AutoShoot"), 1, 0, 1, m_autoShooting);
     m_ui.cmbAutoShooting->setEnabled(autoShooting == 1);
     readNumber(file, QStringLiteral("AutoShootTime"), 5, 1, 30, m_autoShootingTime);
     readNumber(file, QStringLiteral("ContinuShootCount"), 4, 2, 9, m_continuousCount);
     readNumber(file, QStringLiteral("PhotoPreview"), 1, 0, 1, m_photoPreview);
     m_resolution = file.value(QStringLiteral("Resolution"), QString()).toString();
-    m_saveDirectory = file.value(QStringLiteral("SaveDirectory"), QString()).toString();
+    m_saveDirectory = readFolder(file, contents, QStringLiteral("SaveDirectory"));
 
     const bool custom = !m_saveDirectory.isEmpty();
     m_ui.rbtnDefault->setChecked(!custom);

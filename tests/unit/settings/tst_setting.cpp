@@ -1,4 +1,5 @@
 #include "ContextTranslator.h"
+#include "ForeignLocale.h"
 #include "MessageReader.h"
 #include "OrdinaryUser.h"
 #include "Setting.h"
@@ -14,6 +15,7 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <algorithm>
 #include <sys/stat.h>
 
 namespace {
@@ -111,6 +113,13 @@ private Q_SLOTS:
     void whatTheFileSaysIsShownAndSavedAgain_data();
     void whatTheFileSaysIsShownAndSavedAgain();
     void whatIsSetInTheControlsIsSaved();
+    void aFolderTypedIntoTheFileIsReadAsItStands_data();
+    void aFolderTypedIntoTheFileIsReadAsItStands();
+    void everyFolderComesBackFromTheFile_data();
+    void everyFolderComesBackFromTheFile();
+    void whatIsWrittenIsPlainAscii();
+    void theFileIsTheSameInEveryCountry_data();
+    void theFileIsTheSameInEveryCountry();
     void aSelfTimerOf2IsRejectedAndDisablesTheSeconds();
     void whatIsRejectedLeavesThePreferenceAsItWas();
     void aFileThatCannotBeReadGivesTheDefaults();
@@ -251,6 +260,115 @@ void SettingTest::whatIsSetInTheControlsIsSaved()
     QCOMPARE(linesOf(folders),
              QStringList({"AutoShoot=0", "AutoShootTime=30", "ContinuShootCount=9",
                           "PhotoPreview=0", "Resolution=640x480", "SaveDirectory=", "[General]"}));
+}
+
+void SettingTest::aFolderTypedIntoTheFileIsReadAsItStands_data()
+{
+    QTest::addColumn<QByteArray>("typed");
+    QTest::addColumn<QString>("folder");
+    const auto row = [](const char *name, const char *typed, const QString &folder) {
+        QTest::newRow(name) << QByteArray(typed) << folder;
+    };
+    const QString umlauts = QString::fromUtf8("/media/Größe");
+    row("UTF-8",
+        "/media/Gr\xc3\xb6\xc3\x9f"
+        "e",
+        umlauts);
+    row("Japanese", "/media/\xe6\x95\x99\xe5\xae\xa4", QString::fromUtf8("/media/教室"));
+    row("Latin-1, as older editors wrote it",
+        "/media/Gr\xf6\xdf"
+        "e",
+        umlauts);
+    row("as the program writes it", "/media/Gr\\xf6\\xdf\\x65", umlauts);
+    row("a comma", "/media/a,b", "/media/a,b");
+    row("a comma and blanks", "/media/Maths,  3b , old", "/media/Maths,  3b , old");
+    row("a comma in quotes", "\"/media/Maths, 3b\"", "/media/Maths, 3b");
+    row("a comma and UTF-8",
+        "/media/Gr\xc3\xb6\xc3\x9f"
+        "e, 3b",
+        umlauts + ", 3b");
+    row("a comma and Latin-1",
+        "/media/Gr\xf6\xdf"
+        "e, 3b",
+        umlauts + ", 3b");
+    row("a comma before a comment", "/media/a, b ; the stick", "/media/a, b");
+    row("blanks around it", "   /media/a, b  \r", "/media/a, b");
+    row("a comma at the end", "/media/a,", "/media/a,");
+    row("the last of several", "/media/a, b\nSaveDirectory=/media/c, d", "/media/c, d");
+    row("another group's key", "/media/a, b\n[Other]\nSaveDirectory=/media/c, d", "/media/a, b");
+}
+
+void SettingTest::aFolderTypedIntoTheFileIsReadAsItStands()
+{
+    QFETCH(QByteArray, typed);
+    QFETCH(QString, folder);
+    const StoreFolders folders;
+    QVERIFY(writeSettings(folders, "AutoShootTime=20\nSaveDirectory=" + typed + "\n"));
+    const Setting dialog;
+    QCOMPARE(dialog.getSaveDirectory(), folder);
+    QVERIFY(useOther(dialog)->isChecked());
+    QCOMPARE(dialog.getAutoShootingTime(), 20);
+}
+
+void SettingTest::everyFolderComesBackFromTheFile_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const char *path :
+         {"/media/stick", "/media/Maths, 3b", "/media/Größe", "/media/教室, 3b", "/media/a;b",
+          "/media/a=b", "/media/a\"b", "/media/a\\b", "/media/a b ", "/media/%20",
+          "/media/@ByteArray(x)", "@home", "/media/\xf0\x9f\x93\xb7"})
+        QTest::newRow(path) << QString::fromUtf8(path);
+}
+
+void SettingTest::everyFolderComesBackFromTheFile()
+{
+    QFETCH(QString, path);
+    const StoreFolders folders;
+    Setting dialog;
+    QVERIFY(chooseOther(dialog, path));
+    dialog.SaveFile();
+    const Setting next;
+    QCOMPARE(next.getSaveDirectory(), path);
+    // As the versions before this one read it, who know of no encoding.
+    QCOMPARE(QSettings(settingsFile(folders), QSettings::IniFormat).value("SaveDirectory"),
+             QVariant(path));
+}
+
+void SettingTest::whatIsWrittenIsPlainAscii()
+{
+    const StoreFolders folders;
+    QVERIFY(writeSettings(folders,
+                          "SaveDirectory=/media/Gr\xc3\xb6\xc3\x9f"
+                          "e, 3b\n"));
+    Setting dialog;
+    dialog.SaveFile();
+    const QByteArray written = StoreFolders::read(settingsFile(folders));
+    QVERIFY(std::all_of(written.begin(), written.end(), [](char letter) { return letter > 0; }));
+    QVERIFY2(written.contains("SaveDirectory=\"/media/Gr\\xf6\\xdf\\x65, 3b\"\n"),
+             written.constData());
+}
+
+void SettingTest::theFileIsTheSameInEveryCountry_data()
+{
+    QTest::addColumn<QString>("country");
+    for (const char *country : {"de_DE", "tr_TR", "ar_EG", "fa_IR"})
+        QTest::newRow(country) << QString(country);
+}
+
+void SettingTest::theFileIsTheSameInEveryCountry()
+{
+    QFETCH(QString, country);
+    const ForeignLocale abroad(country);
+    QVERIFY2(abroad.isInUse(), "needs the package \"locales\"");
+    const StoreFolders folders;
+    QVERIFY(writeSettings(folders, "AutoShootTime=20\nContinuShootCount=9\n"));
+    Setting dialog;
+    QCOMPARE(dialog.getAutoShootingTime(), 20);
+    QCOMPARE(dialog.getContinuousShooting(), 9);
+    dialog.SaveFile();
+    QCOMPARE(linesOf(folders),
+             QStringList({"AutoShoot=1", "AutoShootTime=20", "ContinuShootCount=9",
+                          "PhotoPreview=1", "Resolution=640x480", "SaveDirectory=", "[General]"}));
 }
 
 void SettingTest::aSelfTimerOf2IsRejectedAndDisablesTheSeconds()
@@ -813,7 +931,9 @@ void SettingTest::aListOfResolutionsIsOfferedOnce_data()
     QTest::newRow("an unknown one takes the middle of the given list")
         << "unknown" << QStringList{"640x480", "640x480", "1280x720"} << 2 << "1280x720";
     QTest::newRow("a known one is found")
-        << "640x480" << QStringList{"1280x720", "640x480", "1920x1080"} << 3 << "640x480";
+        << "640x480" << QStringList{"640x480", "1280x720", "1920x1080"} << 3 << "640x480";
+    QTest::newRow("a known one is found at the end")
+        << "640x480" << QStringList{"1920x1080", "1280x720", "640x480"} << 3 << "640x480";
     QTest::newRow("another letter case is another one")
         << "640X480" << QStringList{"640x480", "1280x720"} << 2 << "1280x720";
     QTest::newRow("repetitions can push the middle past the end")
