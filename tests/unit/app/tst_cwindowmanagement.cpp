@@ -224,11 +224,14 @@ void tst_CWindowManagement::theListOfChildrenIsFreed()
 
 void tst_CWindowManagement::withoutX11NothingIsRaised()
 {
-    FakeXlib::connected = false;
     QWidget parent;
     QWidget widget(&parent);
     CWindowManagement management(&widget, never, true, QString());
+    const OtherWindow other(parent);
+    QVERIFY(other.isInFront());
+    FakeXlib::connected = false;
     management.update_window();
+    management.raiseQtWindowTop(7);
     management.raiseWindowTop(7);
     QCOMPARE(FakeXlib::calls, QStringList());
 }

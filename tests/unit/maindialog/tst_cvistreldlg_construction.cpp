@@ -12,6 +12,17 @@
 #include <QTest>
 
 /** How the window comes into being: look, buttons, camera and connections. */
+namespace {
+
+/** Counts how often it looks who is in front. */
+class WatchedDialog : public CVistrelDlg {
+public:
+    void update_window() override { ++looks; }
+    int looks = 0;
+};
+
+} // namespace
+
 class ConstructionTest : public QObject {
     Q_OBJECT
 
@@ -201,13 +212,18 @@ void ConstructionTest::pictureViewsAreNeverMirrored()
 void ConstructionTest::theWindowIsWatchedUntilTheFirstBox()
 {
     // The engine has no microphone: the start-up check speaks, and the raising stops for good.
-    DialogFixture fixture;
+    const DialogFixture fixture;
     FakeEngine::script().audioDeviceValid = false;
-    CVistrelDlg &dialog = fixture.build();
-    QCOMPARE(DialogFixture::boxDuring([&] { dialog.chkdevice(); }),
+    WatchedDialog dialog;
+    dialog.show();
+    QTRY_VERIFY(dialog.looks >= 2);
+    int looksAtBox = 0;
+    QCOMPARE(DialogFixture::boxDuring([&] {
+                 dialog.chkdevice();
+                 looksAtBox = dialog.looks;
+             }),
              QStringLiteral("Cannot find Audio Devices."));
-    QCOMPARE(fixture.usableButtons(),
-             (QStringList{"Live", "Photo", "PhotoMulti", "Movie", "List", "Settings", "Close"}));
+    QVERIFY(!QTest::qWaitFor([&] { return dialog.looks > looksAtBox; }, 1500));
 }
 
 QTEST_MAIN(ConstructionTest)
