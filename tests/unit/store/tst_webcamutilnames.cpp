@@ -1,51 +1,12 @@
 #include "ForeignLocale.h"
 #include "StoreFolders.h"
+#include "TimeZone.h"
 #include "WebcamUtil.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
-
-#include <ctime>
-
-namespace {
-
-/** Another time zone, for as long as it lives. */
-class TimeZone {
-public:
-    explicit TimeZone(const QByteArray &zone)
-        : m_old(qgetenv("TZ"))
-    {
-        set(zone);
-    }
-    ~TimeZone() { set(m_old); }
-    Q_DISABLE_COPY(TimeZone)
-
-private:
-    static void set(const QByteArray &zone)
-    {
-        if (zone.isEmpty())
-            qunsetenv("TZ");
-        else
-            qputenv("TZ", zone);
-        tzset();
-    }
-    QByteArray m_old;
-};
-
-/** The wall clock to the second, as the C library tells it. */
-QString localStamp()
-{
-    const time_t now = std::time(nullptr);
-    tm local = {};
-    localtime_r(&now, &local);
-    char stamp[32] = {};
-    std::strftime(stamp, sizeof stamp, "%Y%m%d%H%M%S", &local);
-    return QString::fromLatin1(stamp);
-}
-
-} // namespace
 
 class WebcamUtilNamesTest : public QObject {
     Q_OBJECT
@@ -117,7 +78,7 @@ void WebcamUtilNamesTest::stampsAreInLocalTime()
     QFETCH(QByteArray, zone);
     const TimeZone there(zone);
     const StoreFolders folders;
-    const QString before = localStamp();
+    const QString before = TimeZone::localStamp();
     const QStringList stamps = {
         WebcamUtil::CurrentTimeQString().left(14),
         WebcamUtil::CurrentSecondString(),
@@ -130,7 +91,7 @@ void WebcamUtilNamesTest::stampsAreInLocalTime()
         WebcamUtil::CurrentDateString(),
         QFileInfo(WebcamUtil::CreateSavePath(folders.target())).fileName(),
     };
-    const QString after = localStamp();
+    const QString after = TimeZone::localStamp();
     for (const QString &stamp : stamps)
         QVERIFY2(before <= stamp && stamp <= after, qPrintable(stamp));
     for (const QString &day : days)

@@ -1,6 +1,7 @@
 #include "FakeDisk.h"
 #include "OrdinaryUser.h"
 #include "StoreFolders.h"
+#include "TimeZone.h"
 #include "WebcamUtil.h"
 
 #include <QCursor>
@@ -154,6 +155,7 @@ class WebcamUtilSavingTest : public QObject {
 
 private Q_SLOTS:
     void everythingCapturedMovesIntoTheDaysFolder();
+    void savingIsDatedByTheDayOfSaving_data();
     void savingIsDatedByTheDayOfSaving();
     void savingTwiceOnADayFillsOneFolder();
     void aFileSavedBeforeIsKeptAndTheCapturedOneRemoved();
@@ -199,17 +201,28 @@ void WebcamUtilSavingTest::everythingCapturedMovesIntoTheDaysFolder()
     QCOMPARE(filesIn(folders.area()), QStringList());
 }
 
+void WebcamUtilSavingTest::savingIsDatedByTheDayOfSaving_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    // One of the two has another day than Greenwich at any moment.
+    QTest::newRow("14 hours east of Greenwich") << QByteArray("EAST-14");
+    QTest::newRow("12 hours west of Greenwich") << QByteArray("WEST+12");
+}
+
 void WebcamUtilSavingTest::savingIsDatedByTheDayOfSaving()
 {
+    QFETCH(QByteArray, zone);
+    const TimeZone there(zone);
     const StoreFolders folders;
     QVERIFY(StoreFolders::write(folders.area() + "/photo20090304090507042.png", "x", kLesson));
-    const QString before = WebcamUtil::CurrentDateString();
+    const QString before = TimeZone::localStamp().left(8);
     QVERIFY(WebcamUtil::saveData(folders.target()));
-    const QString after = WebcamUtil::CurrentDateString();
+    const QString after = TimeZone::localStamp().left(8);
     const QStringList days =
         QDir(folders.target() + "/TavelinCamera").entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     QCOMPARE(days.size(), 1);
-    QVERIFY(days.constFirst() == before || days.constFirst() == after);
+    QVERIFY2(days.constFirst() == before || days.constFirst() == after,
+             qPrintable(days.constFirst()));
 }
 
 void WebcamUtilSavingTest::savingTwiceOnADayFillsOneFolder()
@@ -320,6 +333,8 @@ void WebcamUtilSavingTest::aNameThatIsNoTextIsSavedAsItIs()
     QCOMPARE(StoreFolders::read(saved + "/photo1.png"), QByteArray("older"));
     QCOMPARE(readBytes(saved, notText), QByteArray("newer"));
     QVERIFY(QDir(area).isEmpty());
+    // The test's folder cannot be removed with it.
+    QCOMPARE(unlink(QByteArray(QFile::encodeName(saved) + '/' + notText).constData()), 0);
 }
 
 void WebcamUtilSavingTest::aNameThatIsNoTextIsDeleted()
