@@ -1,12 +1,13 @@
 #include "Session.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
 
 #include <memory>
 
-// One camera, one program: what a second start does.
+// One camera, one program: what a second start does, and what belongs to each start.
 class TestStartingTwice : public QObject {
     Q_OBJECT
 
@@ -16,6 +17,7 @@ private slots:
     void theSecondStartEndsInAnotherSession();
     void aStuckFirstHoldsTheSecondUpForFiveSeconds();
     void afterAKillTheNextStartIsAFirstOne();
+    void pluginsBesideTheStartAreLookedFor();
 
 private:
     // Lets the other program be one of the same user's.
@@ -102,6 +104,21 @@ void TestStartingTwice::afterAKillTheNextStartIsAFirstOne()
     QVERIFY(user.startLive());
     user.program().kill();
     QVERIFY(user.startLive());
+}
+
+void TestStartingTwice::pluginsBesideTheStartAreLookedFor()
+{
+    // The program is started in the home folder. The toolkit tells where it looks.
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    const QString plugins = user.program().home() + "/plugins";
+    QVERIFY(QDir().mkpath(plugins));
+    user.program().setEnvironment("QT_DEBUG_PLUGINS", "1");
+    QVERIFY(user.startLive());
+    QString told;
+    QVERIFY(QTest::qWaitFor([&] {
+        told += user.program().output();
+        return told.contains("checking directory path \"" + plugins);
+    }));
 }
 
 QTEST_MAIN(TestStartingTwice)
