@@ -45,6 +45,7 @@ int main(int argc, char **argv)
     translate();
     QApplication::setStyle(new PlainButtons);
 
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the style is the application's now
     CVistrelDlg dialog;
     if (!dialog.isDeviceSelected())
         return -1;

@@ -30,9 +30,10 @@ bool isUtf8(const QByteArray &text)
 
 QByteArray contentsOf(const QString &path)
 {
+    constexpr qint64 mostBytes = 1 << 20;
     QFile file(path);
     // A device or a pipe in the place of the file would never end.
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(1024 * 1024)
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(mostBytes)
                                                                       : QByteArray();
 }
 

@@ -4,9 +4,9 @@
 #include <QByteArray>
 #include <QString>
 
+#include <ctime>
 #include <functional>
 #include <sys/types.h>
-#include <time.h>
 #include <vector>
 
 /** One file of a folder. Names are bytes: not each one can be spelled in the user's letters. */

@@ -17,9 +17,9 @@ struct FakeDisk {
     static void reset()
     {
         answer = {};
-        answer.f_bsize = 1024 * 1024;
+        answer.f_bsize = 1 << 20;
         answer.f_frsize = 4096;
-        answer.f_bavail = answer.f_bfree = 1024 * 1024;
+        answer.f_bavail = answer.f_bfree = 1 << 20;
         asked.clear();
         fails = isReal = false;
     }
