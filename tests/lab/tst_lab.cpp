@@ -144,6 +144,7 @@ private slots:
     void aCameraCanBePulledOutAndPluggedInAgain();
     void theToneIsHeardWhenItsFrameIsSeen();
     void theMicrophoneCanBePulledOutAndPluggedInAgain();
+    void theServersCanBeRestarted();
     void theDesktopHasAWindowManager();
 };
 
@@ -318,6 +319,29 @@ void TestLab::theMicrophoneCanBePulledOutAndPluggedInAgain()
     QCOMPARE(labctl({"microphone", "on"}), 0);
     QCOMPARE(outputOf("pactl", {"get-default-source"}), QString("labmic"));
     QCOMPARE(outputOf("pactl", {"get-default-sink"}), QString("labspeaker"));
+}
+
+void TestLab::theServersCanBeRestarted()
+{
+    const auto hasSound = [] {
+        return outputOf("pactl", {"get-default-source"}) == "labmic"
+            && outputOf("pactl", {"get-default-sink"}) == "labspeaker";
+    };
+    QCOMPARE(labctl({"restart-sound-server"}), 0);
+    QTRY_VERIFY(hasSound());
+    QCOMPARE(labctl({"restart-session-manager"}), 0);
+    {
+        Receiver receiver("cam1");
+        QVERIFY(!receiver.next(5000).isNull());
+    }
+    QCOMPARE(labctl({"stop-media-server"}), 0);
+    QVERIFY(outputOf("labctl", {"list"}).isEmpty());
+    QVERIFY(!outputOf("pw-dump", {}).contains("node.name"));
+    QCOMPARE(labctl({"start-media-server"}), 0);
+    QTRY_VERIFY(hasSound());
+    QCOMPARE(labctl({"plug", "cam1", "1280x720"}), 0);
+    QCOMPARE(labctl({"plug", "cam2", "640x480", "--format", "YUY2", "--rate", "15"}), 0);
+    QVERIFY(outputOf("pw-dump", {}).contains("\"node.name\": \"cam1\""));
 }
 
 void TestLab::theDesktopHasAWindowManager()
