@@ -1,12 +1,14 @@
 #include "DeviceProviders.h"
 
 #include "BoundedTask.h"
-#include "CapsModes.h"
 #include "EngineLog.h"
+#include "MediaConnection.h"
+#include "SoundServer.h"
+
+#include <QSocketNotifier>
 
 #include <algorithm>
 #include <mutex>
-#include <vector>
 
 using std::chrono::steady_clock;
 
@@ -42,8 +44,21 @@ static GstBusSyncReply onMessage(GstBus *, GstMessage *message, gpointer)
 
 using ProviderHandle = std::shared_ptr<GstDeviceProvider>;
 
-// May hang. Null when there is no such provider, or nothing behind it.
-static ProviderHandle startProvider(const char *name)
+// Only after the end of its server.
+namespace {
+struct ProviderEnd {
+    void operator()(GstDeviceProvider *provider) const
+    {
+        gst_device_provider_stop(provider);
+        gst_object_unref(provider);
+    }
+};
+} // namespace
+
+using ProviderHandle = std::shared_ptr<GstDeviceProvider>;
+
+// An instance of our own: the messages of the factory's shared one may be somebody else's.
+static GstObjectHandle<GstDeviceProvider> makeProvider(const char *name)
 {
     const GstObjectHandle<GstDeviceProviderFactory> found(gst_device_provider_factory_find(name));
     if (!found)
@@ -52,52 +67,114 @@ static ProviderHandle startProvider(const char *name)
         gst_plugin_feature_load(GST_PLUGIN_FEATURE(found.get())));
     if (!loaded)
         return nullptr;
-    // An instance of our own: the messages of the factory's shared one may be somebody else's.
     const GType type = gst_device_provider_factory_get_device_provider_type(
         GST_DEVICE_PROVIDER_FACTORY(loaded.get()));
-    GstObjectHandle<GstDeviceProvider> provider =
-        ownFloating(static_cast<GstDeviceProvider *>(g_object_new(type, nullptr)));
+    return ownFloating(static_cast<GstDeviceProvider *>(g_object_new(type, nullptr)));
+}
+
+// May hang. Null when there is no such provider, or nothing behind it.
+static ProviderHandle startProvider(const char *name, const MediaConnection *connection)
+{
+    GstObjectHandle<GstDeviceProvider> provider = makeProvider(name);
+    if (!provider)
+        return nullptr;
+    if (connection)
+        g_object_set(provider.get(), "fd", connection->descriptor(), nullptr);
     const GstObjectHandle<GstBus> bus(gst_device_provider_get_bus(provider.get()));
     gst_bus_set_sync_handler(bus.get(), onMessage, nullptr, nullptr);
     if (!gst_device_provider_start(provider.get()))
         return nullptr;
-    return ProviderHandle(provider.release(), GstObjectUnref());
+    return ProviderHandle(provider.release(), ProviderEnd());
 }
 
 // One provider. One that hangs while it starts is waited for again the next time, not started
-// again: it cannot be called back, and must not be let go once it runs.
+// again: it cannot be called back.
 namespace {
 struct Source {
-    const char *name;
+    const char *name = nullptr;
+    std::shared_ptr<MediaConnection> connection; ///< the media server's only
+    std::unique_ptr<QSocketNotifier> end; ///< of the connection
     ProviderHandle provider; ///< null until it runs
     std::shared_ptr<ProviderHandle> answer; ///< where the task leaves it
     std::unique_ptr<BoundedTask> task; ///< while it is being started
 };
+
+// Never destroyed: some may hang, and what ends with the process need not be taken down before.
+struct Sources {
+    Source videoNodes;
+    Source mediaServer;
+    SoundServer soundServer{[] { listeners().tell(); }};
+};
 } // namespace
 
-static std::vector<Source> &sources()
+static Sources &sources()
 {
     static auto *const shared = [] {
-        auto *all = new std::vector<Source>;
-        for (const char *name :
-             {"v4l2deviceprovider", "pipewiredeviceprovider", "pulsedeviceprovider"})
-            all->push_back({name, nullptr, nullptr, nullptr});
+        auto *all = new Sources;
+        all->videoNodes.name = "v4l2deviceprovider";
+        all->mediaServer.name = "pipewiredeviceprovider";
         return all;
     }();
     return *shared;
 }
 
-// What listens to the microphone asks the same server, so it alone knows whether there is one.
-static const Source &soundServer()
+// What is still being started, or opened, keeps the connection and ends it later.
+static void letGo(Source &source)
 {
-    return sources().back();
+    source.end.reset();
+    source.task.reset();
+    source.answer.reset();
+    source.provider.reset();
+    source.connection.reset();
+}
+
+// True when the media server is connected to, if only just now.
+static bool connectMediaServer(Source &source)
+{
+    if (source.connection && source.connection->isLost())
+        letGo(source);
+    if (source.connection)
+        return true;
+    source.connection = MediaConnection::open();
+    if (!source.connection)
+        return false;
+    source.end =
+        std::make_unique<QSocketNotifier>(source.connection->watch(), QSocketNotifier::Read);
+    QObject::connect(source.end.get(), &QSocketNotifier::activated, source.end.get(), [&source] {
+        qCInfo(engineLog, "the media server has ended");
+        source.end->setEnabled(false);
+        source.end.release()->deleteLater(); // it is speaking
+        letGo(source);
+        listeners().tell();
+    });
+    return true;
 }
 
 static void beginToStart(Source &source)
 {
+    if (source.provider || source.task)
+        return;
     source.answer = std::make_shared<ProviderHandle>();
     source.task = std::make_unique<BoundedTask>(
-        [answer = source.answer, name = source.name] { *answer = startProvider(name); });
+        [answer = source.answer, name = source.name, connection = source.connection] {
+            *answer = startProvider(name, connection.get());
+            if (connection)
+                connection->keep(*answer);
+        });
+}
+
+static void awaitStart(Source &source, steady_clock::time_point deadline)
+{
+    if (!source.task)
+        return;
+    if (!source.task->waitUntil(deadline)) {
+        qCWarning(engineLog, "%s does not answer", source.name);
+        return;
+    }
+    source.provider = std::move(*source.answer);
+    source.task.reset();
+    if (!source.provider)
+        letGo(source); // what was said on the connection cannot be said twice
 }
 
 DeviceProviders::DeviceProviders(std::function<void()> changed)
@@ -116,116 +193,53 @@ DeviceProviders::~DeviceProviders()
 void DeviceProviders::start(std::chrono::milliseconds limit)
 {
     const auto deadline = steady_clock::now() + limit;
-    for (Source &source : sources())
-        if (!source.provider && !source.task)
-            beginToStart(source);
-    for (Source &source : sources()) {
-        if (!source.task)
-            continue;
-        if (source.task->waitUntil(deadline)) {
-            source.provider = *source.answer;
-            source.task.reset();
-        } else {
-            qCWarning(engineLog, "%s does not answer", source.name);
-        }
-    }
+    Sources &all = sources();
+    beginToStart(all.videoNodes);
+    if (connectMediaServer(all.mediaServer))
+        beginToStart(all.mediaServer);
+    all.soundServer.start(deadline);
+    awaitStart(all.videoNodes, deadline);
+    awaitStart(all.mediaServer, deadline);
 }
 
-static QVector<GstDeviceHandle> devicesOf(const Source &source)
+static QVector<CameraDeviceHandle> camerasOf(const Source &source)
 {
-    QVector<GstDeviceHandle> devices;
+    QVector<CameraDeviceHandle> cameras;
     GList *list =
         source.provider ? gst_device_provider_get_devices(source.provider.get()) : nullptr;
-    for (GList *entry = list; entry; entry = entry->next)
-        devices.append(GstDeviceHandle(GST_DEVICE(entry->data), GstObjectUnref()));
-    g_list_free(list);
-    return devices;
-}
-
-static QVector<GstDeviceHandle> devices()
-{
-    QVector<GstDeviceHandle> all;
-    for (const Source &source : sources())
-        all += devicesOf(source);
-    return all;
-}
-
-static QString property(const GstStructure *properties, const char *name)
-{
-    return QString::fromUtf8(gst_structure_get_string(properties, name));
-}
-
-static QString firstOf(const GstStructure *properties, std::initializer_list<const char *> names)
-{
-    for (const char *name : names) {
-        QString value = property(properties, name);
-        if (!value.isEmpty())
-            return value;
-    }
-    return {};
-}
-
-static DeviceRecord recordOf(GstDevice *device)
-{
-    DeviceRecord record;
-    const GlibString name(gst_device_get_display_name(device));
-    record.name = QString::fromUtf8(name.get());
-    const GlibString deviceClass(gst_device_get_device_class(device));
-    record.deviceClass = QString::fromUtf8(deviceClass.get());
-    const GstMiniHandle<GstCaps> caps(gst_device_get_caps(device));
-    const QVector<CameraMode> modes = modesOf(caps.get());
-    record.hasColour = std::any_of(modes.begin(), modes.end(),
-                                   [](const CameraMode &mode) { return !mode.isGrey(); });
-    const GstStructureHandle properties(gst_device_get_properties(device));
-    if (!properties)
-        return record;
-    record.nodeName = property(properties.get(), "node.name");
-    record.origin =
-        record.nodeName.isEmpty() ? DeviceRecord::Origin::V4l2 : DeviceRecord::Origin::PipeWire;
-    record.role = property(properties.get(), "media.role");
-    record.devicePath = firstOf(properties.get(), {"device.path", "api.v4l2.path"});
-    record.libcameraPath = property(properties.get(), "api.libcamera.path");
-    record.busPath =
-        firstOf(properties.get(), {"device.bus_path", "device.bus-path", "v4l2.device.bus_info"});
-    record.serial = property(properties.get(), "device.serial");
-    const QString vendor = property(properties.get(), "device.vendor.id");
-    const QString product = property(properties.get(), "device.product.id");
-    if (!vendor.isEmpty() && !product.isEmpty())
-        record.usbIds = vendor + QLatin1Char(':') + product;
-    return record;
-}
-
-QVector<DeviceProviders::Camera> DeviceProviders::cameras()
-{
-    QVector<Camera> cameras;
-    const QVector<GstDeviceHandle> all = devices();
-    for (const GstDeviceHandle &device : all)
+    for (GList *entry = list; entry; entry = entry->next) {
+        const GstDeviceHandle device(GST_DEVICE(entry->data), GstObjectUnref());
         if (gst_device_has_classes(device.get(), "Video/Source"))
-            cameras.append({recordOf(device.get()), device});
+            cameras.append(std::make_shared<CameraDevice>(device, source.connection));
+    }
+    g_list_free(list);
     return cameras;
 }
 
-bool DeviceProviders::contains(const GstDeviceHandle &device)
+QVector<CameraDeviceHandle> DeviceProviders::cameras()
 {
-    const QVector<GstDeviceHandle> all = devices();
-    return std::any_of(all.begin(), all.end(), [&device](const GstDeviceHandle &listed) {
-        return listed.get() == device.get();
+    return camerasOf(sources().videoNodes) + camerasOf(sources().mediaServer);
+}
+
+bool DeviceProviders::contains(const CameraDevice &camera)
+{
+    const QVector<CameraDeviceHandle> all = cameras();
+    return std::any_of(all.begin(), all.end(), [&camera](const CameraDeviceHandle &listed) {
+        return listed->isSameAs(camera);
     });
 }
 
 bool DeviceProviders::hasSoundServer()
 {
-    return soundServer().provider || soundServer().task;
+    return sources().soundServer.isThere();
 }
 
 bool DeviceProviders::hasMicrophone()
 {
-    const QVector<GstDeviceHandle> all = devicesOf(soundServer());
-    return std::any_of(all.begin(), all.end(), [](const GstDeviceHandle &device) {
-        if (!gst_device_has_classes(device.get(), "Audio/Source"))
-            return false;
-        const GstStructureHandle properties(gst_device_get_properties(device.get()));
-        return !properties
-            || property(properties.get(), "device.class") != QLatin1String("monitor");
-    });
+    return !microphone().isEmpty();
+}
+
+QByteArray DeviceProviders::microphone()
+{
+    return sources().soundServer.microphone();
 }

@@ -1,9 +1,9 @@
 #ifndef DEVICEPROVIDERS_H
 #define DEVICEPROVIDERS_H
 
-#include "DeviceRecord.h"
-#include "GstHandles.h"
+#include "CameraDevice.h"
 
+#include <QByteArray>
 #include <QVector>
 
 #include <chrono>
@@ -14,21 +14,20 @@
  * server, each asked directly. (The common monitor over all of them hides one behind the other and
  * reports devices twice.) Once started they know of every device that comes and goes.
  *
- * All engines of a process share one set of providers, which is never taken down: the media
- * server's provider frees memory twice when it is stopped while its server is still answering. A
- * server that hangs would hang whoever asks it first, so each is started by a BoundedTask; one that
- * does not answer in time is not heard until it does.
+ * All engines of a process share one set of them. A server may be started anew at any time: its end
+ * is noticed at once and counts as the removal of all its devices, and the next start() finds the
+ * new one. The media server's provider is let go only then; it frees memory twice when it is
+ * stopped while its server is still answering.
  *
- * Threads: all operations on the GUI thread; the callback comes on any.
+ * A server that hangs would hang whoever asks it first, so each is started by a BoundedTask; one
+ * that does not answer in time is not heard until it does. Everything else is answered from what
+ * was heard before.
+ *
+ * Threads: all operations on the GUI thread, whose event loop must run for the end of a server to
+ * be noticed; the callback comes on any.
  */
 class DeviceProviders {
 public:
-    /// A camera that is there, and what opens it.
-    struct Camera {
-        DeviceRecord record;
-        GstDeviceHandle device;
-    };
-
     /// @p changed is called, on any thread, when a device came or went.
     explicit DeviceProviders(std::function<void()> changed);
     ~DeviceProviders();
@@ -37,16 +36,19 @@ public:
     /// Starts every provider that does not run yet; waits for at most @p limit.
     static void start(std::chrono::milliseconds limit);
 
-    static QVector<Camera> cameras();
+    static QVector<CameraDeviceHandle> cameras();
 
     /// Whether the very device that was listed before is still there.
-    static bool contains(const GstDeviceHandle &device);
+    static bool contains(const CameraDevice &camera);
 
     /// Whether there is a sound server; one that does not answer counts.
     static bool hasSoundServer();
 
     /// Whether the sound server has a source other than a loudspeaker's monitor.
     static bool hasMicrophone();
+
+    /// The sound server's name for the microphone to listen to, empty when there is none.
+    static QByteArray microphone();
 
 private:
     std::function<void()> m_changed;

@@ -38,7 +38,7 @@ using GstStructureHandle = std::unique_ptr<GstStructure, GstStructureFree>;
 using GlibString = std::unique_ptr<gchar, GlibFree>;
 using GlibErrorHandle = std::unique_ptr<GError, GlibErrorFree>;
 
-/// A device that the list of cameras and the open camera share.
+/// A device that a provider has listed.
 using GstDeviceHandle = std::shared_ptr<GstDevice>;
 
 /// Takes a new object whose first reference is still floating.

@@ -30,7 +30,7 @@ static const std::chrono::milliseconds quickListLimit(300); // when a movie wait
 /// A listed camera and what opens it.
 struct Camera {
     ListedDevice listed;
-    GstDeviceHandle device; ///< null for the demonstration camera
+    CameraDeviceHandle device; ///< null for the demonstration camera
 };
 
 class LiveVideoData::Private {
@@ -78,12 +78,9 @@ QVector<Camera> LiveVideoData::Private::listCameras()
         return {};
     DeviceProviders::start(listLimit);
     QVector<DeviceRecord> records;
-    QVector<GstDeviceHandle> handles;
-    const QVector<DeviceProviders::Camera> found = DeviceProviders::cameras();
-    for (const DeviceProviders::Camera &known : found) {
-        records.append(known.record);
-        handles.append(known.device);
-    }
+    QVector<CameraDeviceHandle> handles = DeviceProviders::cameras();
+    for (const CameraDeviceHandle &known : qAsConst(handles))
+        records.append(known->record());
     if (demoCameraIsWanted()) {
         records.append(demoCameraRecord());
         handles.append(nullptr);
@@ -100,7 +97,7 @@ static std::unique_ptr<CameraPipeline> makePipeline(const Camera &camera, const 
     GstMiniHandle<GstCaps> offered;
     QVector<CameraMode> modes{demoCameraMode()};
     if (camera.device) {
-        offered.reset(gst_device_get_caps(camera.device.get()));
+        offered = camera.device->caps();
         modes = modesOf(offered.get());
     } else {
         offered.reset(gst_caps_new_empty_simple("video/x-raw"));
@@ -110,9 +107,8 @@ static std::unique_ptr<CameraPipeline> makePipeline(const Camera &camera, const 
         return nullptr;
     const CameraMode mode = modes.at(best);
     qCInfo(engineLog) << camera.listed.name << "in" << mode.format << mode.size() << mode.rate();
-    GstObjectHandle<GstElement> source = camera.device
-        ? ownFloating(gst_device_create_element(camera.device.get(), nullptr))
-        : makeDemoCamera();
+    GstObjectHandle<GstElement> source =
+        camera.device ? camera.device->makeSource() : makeDemoCamera();
     return CameraPipeline::build(std::move(source), fixedCaps(offered.get(), mode), mode);
 }
 
@@ -186,8 +182,7 @@ QVector<CameraMode> LiveVideoData::Private::modes() const
         return {};
     if (!camera.device)
         return {demoCameraMode()};
-    const GstMiniHandle<GstCaps> offered(gst_device_get_caps(camera.device.get()));
-    return modesOf(offered.get());
+    return modesOf(camera.device->caps().get());
 }
 
 LiveVideoData::LiveVideoData()
@@ -381,7 +376,7 @@ void LiveVideoData::device()
     d->movie.devicesChanged();
     if (!d->thread)
         return;
-    const bool unplugged = d->camera.device && !DeviceProviders::contains(d->camera.device);
+    const bool unplugged = d->camera.device && !DeviceProviders::contains(*d->camera.device);
     if (unplugged || d->thread->hasFailed()) {
         qCInfo(engineLog) << d->camera.listed.name << "is lost";
         d->loseCamera();

@@ -1,0 +1,49 @@
+#ifndef SOUNDSERVER_H
+#define SOUNDSERVER_H
+
+#include <QByteArray>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+class BoundedTask;
+
+/**
+ * The sound server as far as microphones go: whether it is there, and which of its sources is the
+ * microphone. Once connected it is told of every source that comes and goes, and of the server's
+ * end; a server that was started anew is connected to by the next start().
+ *
+ * A server that hangs cannot hang its caller: all questions are answered from what was heard last.
+ *
+ * Threads: all operations on the GUI thread; the callback comes on any.
+ */
+class SoundServer {
+public:
+    /// @p changed is called, on any thread, when a source came or went, another one is the default,
+    /// or the server ended.
+    explicit SoundServer(std::function<void()> changed);
+    ~SoundServer();
+    SoundServer(const SoundServer &) = delete;
+    SoundServer &operator=(const SoundServer &) = delete;
+
+    /// Connects, unless that is done; waits for the list of sources until @p deadline at most.
+    void start(std::chrono::steady_clock::time_point deadline);
+
+    /// One that does not answer counts.
+    bool isThere() const;
+
+    /// The name of the source to listen to: the server's default, or when that is a loudspeaker's
+    /// monitor the first by name that is none. Empty when there is no such source.
+    QByteArray microphone() const;
+
+private:
+    class Client;
+
+    void end();
+
+    std::function<void()> m_changed;
+    std::shared_ptr<Client> m_client; ///< null before the first start, and when no server answered
+};
+
+#endif
