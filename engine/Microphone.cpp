@@ -1,6 +1,7 @@
 #include "Microphone.h"
 
 #include "BoundedTask.h"
+#include "DeviceProviders.h"
 #include "EngineLog.h"
 #include "MovieRecorder.h"
 #include "SoundTrack.h"
@@ -16,11 +17,16 @@ using std::chrono::steady_clock;
 static const milliseconds connectLimit(500);
 static const milliseconds closeLimit(1000);
 
+static const char serverSource[] =
+    "pulsesrc stream-properties=\"props,node.dont-reconnect=(string)true\"";
+static const char cardSource[] = "alsasrc";
+
 /// What may hang: opened and closed on a thread of its own.
 class Microphone::Chain {
 public:
     ~Chain();
-    bool connect(const char *source); ///< false when there is nothing behind it
+    /// @p device is the source's name, or empty. False when there is nothing behind it.
+    bool connect(const char *element, const QByteArray &device);
     bool listen(); ///< false when there is no microphone behind it
 
     std::mutex mutex; ///< guards recorder
@@ -29,7 +35,7 @@ public:
 private:
     static GstFlowReturn onSound(GstAppSink *sink, gpointer chain);
     static void onConnected(GObject *source, GParamSpec *device, gpointer chain);
-    bool isMonitor();
+    bool isRefused();
 
     GstObjectHandle<GstElement> m_pipeline;
     std::mutex m_connectedMutex; ///< guards m_connected
@@ -73,27 +79,22 @@ void Microphone::Chain::onConnected(GObject *, GParamSpec *, gpointer shared)
     chain.m_connectedChanged.notify_all();
 }
 
-// The server may have nothing better as its default. It tells so shortly after it was asked; one
-// that does not is taken by its word.
-bool Microphone::Chain::isMonitor()
+// The server answers shortly after it was asked; one that is slow is taken by its word.
+bool Microphone::Chain::isRefused()
 {
     const GstObjectHandle<GstElement> source(
         gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "source"));
-    if (!g_object_class_find_property(G_OBJECT_GET_CLASS(source.get()), "current-device"))
-        return false;
-    {
+    if (g_object_class_find_property(G_OBJECT_GET_CLASS(source.get()), "current-device")) {
         std::unique_lock<std::mutex> lock(m_connectedMutex);
         m_connectedChanged.wait_for(lock, connectLimit, [this] { return m_connected; });
     }
-    gchar *name = nullptr;
-    g_object_get(source.get(), "current-device", &name, nullptr);
-    const GlibString owned(name);
-    return name && g_str_has_suffix(name, ".monitor");
+    const GstObjectHandle<GstBus> bus(gst_element_get_bus(m_pipeline.get()));
+    return GstMiniHandle<GstMessage>(gst_bus_pop_filtered(bus.get(), GST_MESSAGE_ERROR)) != nullptr;
 }
 
-bool Microphone::Chain::connect(const char *source)
+bool Microphone::Chain::connect(const char *element, const QByteArray &device)
 {
-    const QByteArray description = QByteArray(source)
+    const QByteArray description = QByteArray(element)
         + " name=source provide-clock=false ! audioconvert ! audioresample !"
           " audio/x-raw,format=S16LE,layout=interleaved,rate="
         + QByteArray::number(SoundTrack::rate) + ",channels="
@@ -111,6 +112,8 @@ bool Microphone::Chain::connect(const char *source)
     gst_app_sink_set_callbacks(GST_APP_SINK(sink.get()), &callbacks, this, nullptr);
     const GstObjectHandle<GstElement> microphone(
         gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "source"));
+    if (!device.isEmpty())
+        g_object_set(microphone.get(), "device", device.constData(), nullptr);
     g_signal_connect(microphone.get(), "notify::current-device", G_CALLBACK(onConnected), this);
     return gst_element_set_state(m_pipeline.get(), GST_STATE_READY) != GST_STATE_CHANGE_FAILURE;
 }
@@ -118,7 +121,7 @@ bool Microphone::Chain::connect(const char *source)
 bool Microphone::Chain::listen()
 {
     return gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE
-        && !isMonitor();
+        && !isRefused();
 }
 
 std::unique_ptr<Microphone> Microphone::open(milliseconds limit)
@@ -127,17 +130,15 @@ std::unique_ptr<Microphone> Microphone::open(milliseconds limit)
         std::shared_ptr<Chain> chain;
     };
     const auto attempt = std::make_shared<Attempt>();
-    const BoundedTask opening([attempt] {
-        for (const char *source :
-             {"pulsesrc stream-properties=\"props,node.dont-reconnect=(string)true\"", "alsasrc"}) {
-            const auto chain = std::make_shared<Chain>();
-            if (!chain->connect(source))
-                continue;
-            // A sound server without a microphone has the last word.
-            if (chain->listen())
-                attempt->chain = chain;
+    const bool hasServer = DeviceProviders::hasSoundServer();
+    const QByteArray device = DeviceProviders::microphone();
+    const BoundedTask opening([attempt, hasServer, device] {
+        // A sound server without a microphone has the last word.
+        if (hasServer && device.isEmpty())
             return;
-        }
+        const auto chain = std::make_shared<Chain>();
+        if (chain->connect(hasServer ? serverSource : cardSource, device) && chain->listen())
+            attempt->chain = chain;
     });
     if (!opening.waitUntil(steady_clock::now() + limit) || !attempt->chain) {
         qCInfo(engineLog, "no microphone can be opened");

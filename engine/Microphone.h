@@ -9,9 +9,8 @@
 class MovieRecorder;
 
 /**
- * The microphone while a movie is recorded: the sound server's default source, or without a sound
- * server the sound system's own. A loudspeaker's monitor is no microphone. Nothing listens between
- * movies.
+ * The microphone while a movie is recorded: the source that the sound server was last heard to have
+ * for one, or without a sound server the sound system's own. Nothing listens between movies.
  *
  * A microphone that is lost just falls silent; no other one takes its place in the middle of a
  * movie.
