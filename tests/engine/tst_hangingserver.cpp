@@ -1,8 +1,11 @@
+#include "Footprint.h"
+#include "LabCommands.h"
 #include "LiveVideoData.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <csignal>
@@ -16,8 +19,11 @@ private slots:
     void initTestCase();
     void cleanupTestCase();
     void theListComesInTimeAndTheCamerasLater();
+    void aServerThatHangsInTheMiddleOfThePictureHoldsNothingUp();
 
 private:
+    static void loseToHangingServer(LiveVideoData &engine);
+
     qint64 m_server = 0;
 };
 
@@ -74,6 +80,50 @@ void TestHangingServer::theListComesInTimeAndTheCamerasLater()
     QTRY_COMPARE(engine.GetVideoDeviceList(), QStringList{"first"});
     engine.Create();
     QVERIFY(engine.created);
+}
+
+// The milliseconds that @p call takes.
+template <typename Call> static qint64 timeOf(Call call)
+{
+    QElapsedTimer timer;
+    timer.start();
+    call();
+    return timer.elapsed();
+}
+
+// Every operation keeps to its promise, however often the user tries.
+void TestHangingServer::loseToHangingServer(LiveVideoData &engine)
+{
+    QTRY_COMPARE(engine.GetVideoDeviceList(), QStringList{"first"});
+    engine.Create();
+    QVERIFY(engine.created);
+    const QSignalSpy losses(&engine, &LiveVideoData::disconnectDevice);
+    QVERIFY(labctl({"hang-media-server"}));
+    const qint64 listing = timeOf([&] { engine.GetVideoDeviceList(); });
+    const qint64 asking = timeOf([&] { engine.IsValidAudioDevice(); });
+    QTRY_COMPARE(losses.count(), 1);
+    const qint64 closing = timeOf([&] { engine.Release(); });
+    const qint64 opening = timeOf([&] { engine.Create(); });
+    QVERIFY(!engine.created);
+    const qint64 again = timeOf([&] { engine.GetVideoDeviceList(); });
+    qInfo() << "listed in" << listing << again << "ms, asked in" << asking << "ms, closed in"
+            << closing << "ms, opened in" << opening << "ms";
+    QVERIFY(listing < 2000 && again < 2000 && asking < 2000);
+    QVERIFY(closing < 2500);
+    QVERIFY(opening < 7500);
+    QVERIFY(labctl({"wake-media-server"}));
+}
+
+void TestHangingServer::aServerThatHangsInTheMiddleOfThePictureHoldsNothingUp()
+{
+    LiveVideoData engine;
+    loseToHangingServer(engine);
+    const Footprint before = Footprint::now();
+    loseToHangingServer(engine);
+    QTRY_VERIFY((engine.Create(), engine.created));
+    engine.Release();
+    QTRY_VERIFY(Footprint::now().threads <= before.threads);
+    QTRY_VERIFY(Footprint::now().descriptors <= before.descriptors);
 }
 
 QTEST_GUILESS_MAIN(TestHangingServer)

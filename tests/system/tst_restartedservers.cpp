@@ -1,0 +1,57 @@
+#include "Session.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+// With its trailing blank.
+const char lostText[] = "The video device is invalid. Please confirm whether the device is "
+                        "correctly connected. ";
+
+constexpr int kPatienceMs = 10000;
+
+bool labctl(const QStringList &arguments)
+{
+    return QProcess::execute("labctl", arguments) == 0;
+}
+
+} // namespace
+
+// The media server crashes in the middle of the lesson, and sound server and session manager go
+// with it. The session starts them anew.
+class TestRestartedServers : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theProgramGoesOnAsIfTheCameraHadBeenUnplugged();
+};
+
+void TestRestartedServers::theProgramGoesOnAsIfTheCameraHadBeenUnplugged()
+{
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    QVERIFY(user.startLive());
+    QVERIFY(labctl({"stop-media-server"}));
+    QVERIFY(user.messageSays(lostText));
+    QVERIFY(user.confirmMessage());
+    QVERIFY(labctl({"start-media-server"}));
+    QVERIFY(labctl({"plug", "cam1", "1280x720"}));
+
+    QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "List"));
+    QVERIFY(user.pressWhenReady(WindowMap::ListScreen, "Live"));
+    QTRY_VERIFY(user.isLiveAt(user.map().videoRect()));
+    QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "Movie"));
+    QVERIFY(user.waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
+    const QDir area(user.program().temporaryArea());
+    QTRY_COMPARE(area.entryList({"movie*.mov"}, QDir::Files).size(), 1);
+
+    user.program().terminate();
+    QVERIFY(user.program().hasEndedWithin(kPatienceMs));
+    QVERIFY(!user.program().hasCrashed());
+}
+
+QTEST_MAIN(TestRestartedServers)
+#include "tst_restartedservers.moc"
