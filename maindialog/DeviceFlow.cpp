@@ -51,7 +51,9 @@ void CVistrelDlg::changeNodevicemode()
 {
     m_error = true;
     m_timerWidget->Stop();
-    if (m_movieView->isPlaying()) {
+    // A player that was never used is left alone: its first use asks the sound server, which may
+    // hang for the same reason as the camera.
+    if (m_movieView->isCreated() && m_movieView->isPlaying()) {
         m_movieView->pause();
         m_timerWidget->Pause();
         showPlayButton();

@@ -28,6 +28,7 @@ class TestRestartedServers : public QObject {
 
 private slots:
     void theProgramGoesOnAsIfTheCameraHadBeenUnplugged();
+    void aServerThatHangsForEverDoesNotKeepTheProgramFromEnding();
 };
 
 void TestRestartedServers::theProgramGoesOnAsIfTheCameraHadBeenUnplugged()
@@ -50,6 +51,25 @@ void TestRestartedServers::theProgramGoesOnAsIfTheCameraHadBeenUnplugged()
 
     user.program().terminate();
     QVERIFY(user.program().hasEndedWithin(kPatienceMs));
+    QVERIFY(!user.program().hasCrashed());
+}
+
+void TestRestartedServers::aServerThatHangsForEverDoesNotKeepTheProgramFromEnding()
+{
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    QVERIFY(user.startLive());
+    QVERIFY(labctl({"hang-media-server"}));
+    QVERIFY(user.messageSays(lostText));
+    QVERIFY(user.confirmMessage());
+    // Opening it fails, and leaves a thread behind that waits for the server.
+    QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "List"));
+    QVERIFY(user.pressWhenReady(WindowMap::ListScreen, "Live"));
+    QTRY_VERIFY_WITH_TIMEOUT(user.waitForPressable(WindowMap::LiveScreen, {"List", "Close"}),
+                             2 * kPatienceMs);
+    user.program().terminate();
+    const bool hasEnded = user.program().hasEndedWithin(kPatienceMs);
+    QVERIFY(labctl({"wake-media-server"}));
+    QVERIFY(hasEnded);
     QVERIFY(!user.program().hasCrashed());
 }
 
