@@ -7,7 +7,6 @@
 #include <QMap>
 
 #include <condition_variable>
-#include <cstring>
 #include <mutex>
 #include <pulse/pulseaudio.h>
 #include <utility>
@@ -128,19 +127,12 @@ void SoundServer::Client::onServer(pa_context *context, const pa_server_info *se
     ask(pa_context_get_source_info_list(context, onSource, self));
 }
 
-static bool isMicrophone(const pa_source_info &source)
-{
-    const char *deviceClass = pa_proplist_gets(source.proplist, PA_PROP_DEVICE_CLASS);
-    return source.monitor_of_sink == PA_INVALID_INDEX
-        && !(deviceClass && std::strcmp(deviceClass, "monitor") == 0);
-}
-
 void SoundServer::Client::onSource(pa_context *, const pa_source_info *source, int end,
                                    void *client)
 {
     auto *const self = static_cast<Client *>(client);
     if (end == 0)
-        self->m_heard.insert(source->name, isMicrophone(*source));
+        self->m_heard.insert(source->name, source->monitor_of_sink == PA_INVALID_INDEX);
     else
         self->takeList();
 }
