@@ -7,6 +7,17 @@ PictureConverter::PictureConverter(QImage::Format format)
     gst_video_info_init(&m_to);
 }
 
+// A frame that is still interlaced is scaled as if it were whole. Told of its fields, a converter
+// scales each apart, which widens the teeth, and fails where there are not two lines.
+static GstVideoFrame asWhole(const GstVideoFrame &frame)
+{
+    GstVideoFrame whole = frame;
+    whole.flags = GstVideoFrameFlags(whole.flags & ~GST_VIDEO_FRAME_FLAG_INTERLACED);
+    GST_VIDEO_INFO_INTERLACE_MODE(&whole.info) = GST_VIDEO_INTERLACE_MODE_PROGRESSIVE;
+    GST_VIDEO_INFO_FIELD_ORDER(&whole.info) = GST_VIDEO_FIELD_ORDER_UNKNOWN;
+    return whole;
+}
+
 bool PictureConverter::prepare(const GstVideoInfo &from, const QImage &to)
 {
     GstVideoInfo wanted;
@@ -38,7 +49,8 @@ QImage PictureConverter::convert(const CameraFrame &frame, const QSize &size, QI
     QImage image = std::move(reuse);
     if (image.size() != size || image.format() != m_format || !image.isDetached())
         image = QImage(size, m_format);
-    if (image.isNull() || !prepare(frame.picture().info, image))
+    const GstVideoFrame whole = asWhole(frame.picture());
+    if (image.isNull() || !prepare(whole.info, image))
         return {};
     const GstMiniHandle<GstBuffer> buffer(
         gst_buffer_new_wrapped_full(GstMemoryFlags(0), image.bits(), gsize(image.sizeInBytes()), 0,
@@ -46,7 +58,7 @@ QImage PictureConverter::convert(const CameraFrame &frame, const QSize &size, QI
     GstVideoFrame target;
     if (!gst_video_frame_map(&target, &m_to, buffer.get(), GST_MAP_WRITE))
         return {};
-    gst_video_converter_frame(m_converter.get(), &frame.picture(), &target);
+    gst_video_converter_frame(m_converter.get(), &whole, &target);
     gst_video_frame_unmap(&target);
     return image;
 }

@@ -5,17 +5,21 @@
 #include <QTest>
 
 // A frame of one colour, given as its bytes repeated.
-static std::shared_ptr<CameraFrame> frameOf(const char *format, const QSize &size,
-                                            const QByteArray &bytes)
+static std::shared_ptr<CameraFrame>
+frameOf(const char *format, const QSize &size, const QByteArray &bytes,
+        GstVideoInterlaceMode interlacing = GST_VIDEO_INTERLACE_MODE_PROGRESSIVE,
+        bool twoFields = false)
 {
     GstVideoInfo info;
-    gst_video_info_set_format(&info, gst_video_format_from_string(format), guint(size.width()),
-                              guint(size.height()));
+    gst_video_info_set_interlaced_format(&info, gst_video_format_from_string(format), interlacing,
+                                         guint(size.width()), guint(size.height()));
     const GstMiniHandle<GstCaps> caps(gst_video_info_to_caps(&info));
     const GstMiniHandle<GstBuffer> buffer(
         gst_buffer_new_allocate(nullptr, GST_VIDEO_INFO_SIZE(&info), nullptr));
     for (gsize at = 0; at < GST_VIDEO_INFO_SIZE(&info); at += gsize(bytes.size()))
         gst_buffer_fill(buffer.get(), at, bytes.constData(), gsize(bytes.size()));
+    if (twoFields)
+        GST_BUFFER_FLAG_SET(buffer.get(), GST_VIDEO_BUFFER_FLAG_INTERLACED);
     return CameraFrame::fromSample(
         GstMiniHandle<GstSample>(gst_sample_new(buffer.get(), caps.get(), nullptr, nullptr)));
 }
@@ -33,6 +37,8 @@ private slots:
     void initTestCase() { QVERIFY(gstreamerIsReady()); }
     void coloursAndSizeComeOut_data();
     void coloursAndSizeComeOut();
+    void interlacedFramesComeOutToo_data();
+    void interlacedFramesComeOutToo();
     void aConverterServesFramesOfChangingFormatAndSize();
     void memoryIsUsedAgainOnlyWhenNobodyElseHasIt();
     void noSizeGivesNoPicture();
@@ -77,6 +83,36 @@ void TestPictureConverter::coloursAndSizeComeOut()
                                 QPoint(size.width() / 2, size.height() / 2)})
         QVERIFY2(isNear(picture.pixel(point), qRgb(255, 0, 0)),
                  qPrintable(QColor(picture.pixel(point)).name()));
+}
+
+void TestPictureConverter::interlacedFramesComeOutToo_data()
+{
+    QTest::addColumn<int>("interlacing");
+    QTest::addColumn<QSize>("size");
+    for (const QSize &size : {QSize(64, 48), QSize(40, 30), QSize(101, 77), QSize(64, 1)}) {
+        QTest::addRow("two fields in a frame, %dx%d", size.width(), size.height())
+            << int(GST_VIDEO_INTERLACE_MODE_INTERLEAVED) << size;
+        QTest::addRow("in some frames, %dx%d", size.width(), size.height())
+            << int(GST_VIDEO_INTERLACE_MODE_MIXED) << size;
+        QTest::addRow("in frames said to be whole, %dx%d", size.width(), size.height())
+            << int(GST_VIDEO_INTERLACE_MODE_PROGRESSIVE) << size;
+    }
+}
+
+void TestPictureConverter::interlacedFramesComeOutToo()
+{
+    QFETCH(int, interlacing);
+    QFETCH(QSize, size);
+    const auto red = frameOf("YUY2", {64, 48}, QByteArray("\x51\x5a\x51\xf0", 4),
+                             GstVideoInterlaceMode(interlacing), true);
+    const auto blue = frameOf("BGRx", {64, 48}, QByteArray("\xff\x00\x00\x00", 4));
+    PictureConverter converter(QImage::Format_RGB888);
+    const QImage picture = converter.convert(*red, size);
+    QCOMPARE(picture.size(), size);
+    for (int y = 0; y < size.height(); ++y)
+        QVERIFY2(isNear(picture.pixel(size.width() / 2, y), qRgb(255, 0, 0)),
+                 qPrintable(QStringLiteral("line %1").arg(y)));
+    QVERIFY(isNear(converter.convert(*blue, size).pixel(5, 0), qRgb(0, 0, 255)));
 }
 
 void TestPictureConverter::aConverterServesFramesOfChangingFormatAndSize()
