@@ -2,6 +2,8 @@
 
 #include <gst/video/video.h>
 
+#include <iterator>
+
 // Sizes that cameras really have, for those that offer a range.
 static const QSize usualSizes[] = {{1920, 1080}, {1280, 720}, {1024, 768},
                                    {800, 600},   {640, 480},  {320, 240}};
@@ -126,6 +128,25 @@ static bool isOrdinaryMemory(const GstCaps *caps, guint index)
         || gst_caps_features_is_equal(features, GST_CAPS_FEATURES_MEMORY_SYSTEM_MEMORY);
 }
 
+// How good the best is that a format offers: frames whole at once, two fields woven into a frame,
+// now one and now the other. Fields that come one after the other, each a frame of its own, cannot
+// be shown. A format that says nothing sends whole frames.
+static const char *const interlacing[] = {"progressive", "interleaved", "mixed"};
+static const int wholeFrames = 0;
+static const int notShowable = int(std::size(interlacing));
+
+static int interlacingRank(const GstStructure *structure)
+{
+    const GValue *field = gst_structure_get_value(structure, "interlace-mode");
+    if (!field)
+        return wholeFrames;
+    const QVector<QByteArray> offered = stringsOf(field);
+    int rank = wholeFrames;
+    while (rank < notShowable && !offered.contains(interlacing[rank]))
+        ++rank;
+    return rank;
+}
+
 QVector<CameraMode> modesOf(const GstCaps *caps)
 {
     QVector<CameraMode> modes;
@@ -133,7 +154,7 @@ QVector<CameraMode> modesOf(const GstCaps *caps)
         return modes;
     for (guint i = 0; i < gst_caps_get_size(caps); ++i) {
         const GstStructure *structure = gst_caps_get_structure(caps, i);
-        if (!isOrdinaryMemory(caps, i))
+        if (!isOrdinaryMemory(caps, i) || interlacingRank(structure) == notShowable)
             continue;
         if (gst_structure_has_name(structure, "video/x-raw"))
             appendModes(structure, CameraMode::Coding::Raw, rawFormatsOf(structure), modes);
@@ -141,6 +162,27 @@ QVector<CameraMode> modesOf(const GstCaps *caps)
             appendModes(structure, CameraMode::Coding::Jpeg, {QByteArray()}, modes);
     }
     return modes;
+}
+
+// The one of several formats, all of the same size and rate, whose frames are whole if possible.
+static GstMiniHandle<GstCaps> leastInterlaced(const GstCaps *formats)
+{
+    int best = notShowable;
+    guint place = 0;
+    for (guint i = 0; i < gst_caps_get_size(formats); ++i) {
+        const int rank = interlacingRank(gst_caps_get_structure(formats, i));
+        if (rank >= best)
+            continue;
+        best = rank;
+        place = i;
+    }
+    if (best == notShowable)
+        return nullptr;
+    GstCaps *chosen = gst_caps_copy_nth(formats, place);
+    GstStructure *format = gst_caps_get_structure(chosen, 0);
+    if (gst_structure_has_field(format, "interlace-mode"))
+        gst_structure_fixate_field_string(format, "interlace-mode", interlacing[best]);
+    return GstMiniHandle<GstCaps>(gst_caps_fixate(chosen));
 }
 
 GstMiniHandle<GstCaps> fixedCaps(GstCaps *offered, const CameraMode &mode)
@@ -153,8 +195,6 @@ GstMiniHandle<GstCaps> fixedCaps(GstCaps *offered, const CameraMode &mode)
     if (raw)
         gst_caps_set_simple(wanted.get(), "format", G_TYPE_STRING, mode.format.constData(),
                             nullptr);
-    GstMiniHandle<GstCaps> common(gst_caps_intersect(offered, wanted.get()));
-    if (gst_caps_is_empty(common.get()))
-        return nullptr;
-    return GstMiniHandle<GstCaps>(gst_caps_fixate(common.release()));
+    const GstMiniHandle<GstCaps> common(gst_caps_intersect(offered, wanted.get()));
+    return leastInterlaced(common.get());
 }

@@ -13,6 +13,8 @@ private slots:
     void modesAreReadFromCaps();
     void aModeBecomesOneFixedFormat_data();
     void aModeBecomesOneFixedFormat();
+    void wholeFramesArePreferredToInterlacedOnes_data();
+    void wholeFramesArePreferredToInterlacedOnes();
     void aModeThatIsNotOfferedHasNoFormat();
 };
 
@@ -75,6 +77,16 @@ void TestCapsModes::modesAreReadFromCaps_data()
            "video/x-raw(memory:DMABuf),format=YUY2,width=640,height=480,framerate=30/1;"
            "video/x-raw,format=NONSENSE,width=640,height=480,framerate=30/1"
         << QStringList();
+    QTest::newRow("woven fields can be shown")
+        << "video/x-raw,format=YUY2,width=720,height=576,framerate=25/1,"
+           "interlace-mode={alternate,interleaved}"
+        << QStringList{"YUY2 720x576 25/1"};
+    QTest::newRow("fields one after the other cannot")
+        << "video/x-raw(format:Interlaced),format=YUY2,width=720,height=576,framerate=25/1,"
+           "interlace-mode=alternate;"
+           "video/x-raw,format=YUY2,width=640,height=480,framerate=25/1,"
+           "interlace-mode={alternate,fields}"
+        << QStringList();
     QTest::newRow("nothing") << "EMPTY" << QStringList();
     QTest::newRow("anything") << "ANY" << QStringList();
 }
@@ -111,6 +123,38 @@ void TestCapsModes::aModeBecomesOneFixedFormat()
     QVERIFY(gst_caps_is_fixed(caps.get()));
     QCOMPARE(modesOf(caps.get()).size(), 1);
     QVERIFY(modesOf(caps.get()).first() == mode);
+}
+
+void TestCapsModes::wholeFramesArePreferredToInterlacedOnes_data()
+{
+    QTest::addColumn<QStringList>("offered");
+    QTest::addColumn<QByteArray>("chosen");
+    QTest::newRow("said last in a list")
+        << QStringList{",interlace-mode={mixed,interleaved,progressive}"}
+        << QByteArray("progressive");
+    QTest::newRow("as the second format")
+        << QStringList{",interlace-mode=interleaved", ",interlace-mode=progressive"}
+        << QByteArray("progressive");
+    QTest::newRow("not said at all") << QStringList{",interlace-mode=mixed", ""} << QByteArray();
+    QTest::newRow("not offered") << QStringList{",interlace-mode={mixed,alternate,interleaved}"}
+                                 << QByteArray("interleaved");
+    QTest::newRow("mixed with interlaced ones only")
+        << QStringList{",interlace-mode={alternate,mixed}"} << QByteArray("mixed");
+}
+
+void TestCapsModes::wholeFramesArePreferredToInterlacedOnes()
+{
+    QFETCH(QStringList, offered);
+    const QString common = "video/x-raw,format=YUY2,width=720,height=576,framerate={50/1,25/1}";
+    for (QString &format : offered)
+        format.prepend(common);
+    const CameraMode mode{CameraMode::Coding::Raw, "YUY2", 720, 576, 25, 1};
+    const GstMiniHandle<GstCaps> caps =
+        fixedCaps(parse(offered.join(QLatin1Char(';'))).get(), mode);
+    QVERIFY(caps);
+    QVERIFY(gst_caps_is_fixed(caps.get()));
+    const GstStructure *structure = gst_caps_get_structure(caps.get(), 0);
+    QTEST(QByteArray(gst_structure_get_string(structure, "interlace-mode")), "chosen");
 }
 
 void TestCapsModes::aModeThatIsNotOfferedHasNoFormat()
