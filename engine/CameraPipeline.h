@@ -15,7 +15,7 @@ class FrameTap;
 /**
  * The chain from one camera to its newest frame:
  *
- *   source ! one fixed format ! (JPEG decoder) ! tee ! appsink that keeps one frame
+ *   source ! one fixed format ! (JPEG decoder) ! deinterlacer ! tee ! appsink that keeps one frame
  *
  * The format is fixed right behind the source, because a source that is left to choose takes a poor
  * mode or, on the media server, none at all. A movie takes its frames where they enter the tee.
