@@ -1,6 +1,8 @@
 #include "LabPattern.h"
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QTest>
@@ -116,6 +118,27 @@ QString outputOf(const QString &program, const QStringList &arguments)
     return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
 
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// What the program of this name that runs in this lab has mapped into its memory.
+QByteArray mapsOf(const QByteArray &program)
+{
+    const QByteArray mark = "ORVANTA_LAB=" + qgetenv("ORVANTA_LAB") + '\0';
+    const QStringList processes =
+        QDir("/proc").entryList({"[1-9]*"}, QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &process : processes) {
+        const QString folder = "/proc/" + process;
+        if (contentOf(folder + "/comm").trimmed() == program
+            && contentOf(folder + "/environ").contains(mark))
+            return contentOf(folder + "/maps");
+    }
+    return {};
+}
+
 int gapsIn(const QVector<int> &counters)
 {
     int gaps = 0;
@@ -132,6 +155,7 @@ class TestLab : public QObject {
 
 private slots:
     void initTestCase();
+    void theMachinesOwnDevicesAreNotLookedFor();
     void theCounterCanBeReadBackFromEveryFrame();
     void everySixtiethFrameIsMarked();
     void aForeignPictureHasNoCounter();
@@ -152,6 +176,15 @@ void TestLab::initTestCase()
 {
     QVERIFY2(!qEnvironmentVariableIsEmpty("ORVANTA_LAB"), "this test must be run by tests/lab/lab");
     gst_init(nullptr, nullptr);
+}
+
+// The session manager would look for them with what it has loaded.
+void TestLab::theMachinesOwnDevicesAreNotLookedFor()
+{
+    const QByteArray maps = mapsOf("wireplumber");
+    QVERIFY(maps.contains("libspa-"));
+    for (const char *finder : {"libspa-alsa", "libspa-v4l2", "libspa-libcamera", "libspa-bluez5"})
+        QVERIFY2(!maps.contains(finder), finder);
 }
 
 void TestLab::theCounterCanBeReadBackFromEveryFrame()
