@@ -2,6 +2,7 @@
 
 #include "EngineLog.h"
 #include "FrameTap.h"
+#include "PipelineStart.h"
 
 #include <QVector>
 
@@ -89,6 +90,7 @@ bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<
         qCWarning(engineLog, "the camera's chain cannot be built");
         return false;
     }
+    m_source = std::move(source);
     m_sink.reset(static_cast<GstElement *>(gst_object_ref(sink)));
     return true;
 }
@@ -102,7 +104,7 @@ void CameraPipeline::setTap(const std::shared_ptr<FrameTap> &tap)
 
 bool CameraPipeline::play()
 {
-    return gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE;
+    return startPipeline(m_pipeline.get(), m_source.get());
 }
 
 GstMiniHandle<GstSample> CameraPipeline::nextSample(int milliseconds)

@@ -56,6 +56,7 @@ private:
     CameraMode m_mode;
     GstObjectHandle<GstElement> m_pipeline;
     GstObjectHandle<GstBus> m_bus;
+    GstObjectHandle<GstElement> m_source;
     GstObjectHandle<GstElement> m_sink;
 };
 
