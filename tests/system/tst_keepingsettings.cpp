@@ -49,7 +49,8 @@ void TestKeepingSettings::aChangedSettingActsAtOnceAndAfterARestart()
     QVERIFY(m_user->clickInSettings("chbPhotoPreview"));
     QVERIFY(m_user->clickInSettings("btnOk"));
     QVERIFY(m_user->waitUntilNoDialog());
-    QCOMPARE(stored("PhotoPreview").toInt(), 0);
+    // Written once the box is gone.
+    QTRY_COMPARE(stored("PhotoPreview").toString(), QStringLiteral("0"));
     QCOMPARE(stored("AutoShoot").toInt(), 1);
     QCOMPARE(stored("AutoShootTime").toInt(), 5);
     QCOMPARE(stored("ContinuShootCount").toInt(), 4);

@@ -63,7 +63,7 @@ void TestLeaving::cancelKeepsTheProgramAndThePhoto()
     m_user->press(WindowMap::LiveScreen, "Close");
     QVERIFY(m_user->answerExitQuestion("Cancel"));
     QVERIFY(m_user->waitUntilNoDialog());
-    QVERIFY(m_user->isLiveAt(m_user->map().videoRect()));
+    QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
     QCOMPARE(m_user->program().captured(), files);
 }
 
