@@ -28,6 +28,8 @@ QStringList lastOf(const QStringList &names, int most)
 
 void CVistrelDlg::OnList()
 {
+    if (isClosed())
+        return;
     stop_window();
     m_pictureList->clearSelectedNames();
     const bool movies = m_listKind == MovieList;
@@ -77,6 +79,8 @@ void CVistrelDlg::PictureSelected()
 
 void CVistrelDlg::OnShow()
 {
+    if (isClosed())
+        return;
     m_pictureList->hide();
     m_pictureView->hide();
     if (m_pictureList->movieMode()) {

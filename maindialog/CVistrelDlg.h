@@ -144,6 +144,11 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    /// The window may be closed while a box stands over it or a shot falls due: what returns from
+    /// a box, and every slot that needs the camera, asks first.
+    bool isClosed() const { return m_liveView == nullptr; }
+    void releaseLiveView();
+
     // --- CVistrelDlg.cpp: construction -----------------------------------------------------
     enum Button {
         LiveButton,

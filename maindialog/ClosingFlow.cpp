@@ -1,14 +1,17 @@
 // Leaving. "Exit" asks what to do with what was captured, saves or discards it and closes; closing
-// by the window system asks nothing and leaves the captures where they are, for the next start.
+// by the window system asks nothing and leaves the captures where they are, for the next start. A
+// closed window has no live view; what was under way (a countdown, a box) ends without it.
 
 #include "CVistrelDlg.h"
 
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
 #include "SaveConfirmDlg.h"
+#include "TimerWidget.h"
 #include "WebcamUtil.h"
 
 #include <QCloseEvent>
+#include <QDialog>
 
 void CVistrelDlg::OnClose()
 {
@@ -27,15 +30,28 @@ void CVistrelDlg::OnClose()
     close();
 }
 
+void CVistrelDlg::releaseLiveView()
+{
+    if (!m_liveView)
+        return;
+    if (m_liveView->isCreate())
+        m_liveView->Release();
+    m_liveView->disconnect(this);
+    // A message of the view itself lives in a function of the view that has yet to return; then the
+    // view is left to the window's own end.
+    if (!m_liveView->findChild<QDialog *>())
+        delete m_liveView;
+    m_liveView = nullptr;
+}
+
 void CVistrelDlg::closeEvent(QCloseEvent *event)
 {
-    if (m_liveView) {
-        if (m_liveView->isCreate())
-            m_liveView->Release();
-        delete m_liveView;
-        m_liveView = nullptr;
-    }
-    if (m_movieView && m_movieView->isCreated())
+    stop_window();
+    m_timerWidget->Stop();
+    releaseLiveView();
+    if (m_movieView->isCreated()) {
+        m_movieView->Stop();
         m_movieView->Release();
+    }
     event->accept();
 }

@@ -58,14 +58,14 @@ void CVistrelDlg::changeNodevicemode()
         m_timerWidget->Pause();
         showPlayButton();
     }
-    if (m_liveView && m_liveView->isCreate())
+    if (!isClosed() && m_liveView->isCreate())
         m_liveView->Release();
     stop_window();
     // The blank at the end belongs to the text: translations are found by it.
     WebcamUtil::WarningMessage(tr("The video device is invalid. Please confirm whether the device "
                                   "is correctly connected. "),
                                this);
-    if (!m_liveView) // closed while the warning stood
+    if (isClosed())
         return;
     m_videoPresent = false;
     TransitionMode(LiveMode);

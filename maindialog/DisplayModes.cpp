@@ -13,6 +13,8 @@
 
 void CVistrelDlg::TransitionMode(DisplayMode mode)
 {
+    if (isClosed())
+        return;
     switch (mode) {
     case MovieMode:
         SetMovieMode();
@@ -77,7 +79,8 @@ void CVistrelDlg::SignalBlockAll(bool block)
 
 void CVistrelDlg::allWidgethide()
 {
-    m_liveView->hide();
+    if (m_liveView)
+        m_liveView->hide();
     m_movieView->hide();
     m_pictureView->hide();
 }
@@ -87,7 +90,7 @@ void CVistrelDlg::SetLiveMode()
     if (!WebcamUtil::chkdiskFreeSpace() && !m_error) {
         stop_window();
         WebcamUtil::ShowDiskWorningMessage(this);
-        if (!m_liveView) // closed while the warning stood
+        if (isClosed())
             return;
         m_error = true;
     }

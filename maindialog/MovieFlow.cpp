@@ -46,7 +46,7 @@ void CVistrelDlg::OnRecord()
 
 void CVistrelDlg::OnMovieStop()
 {
-    if (!m_recording || !m_liveView)
+    if (!m_recording || isClosed())
         return;
     if (m_liveView->isCreate())
         m_liveView->RecordStop();

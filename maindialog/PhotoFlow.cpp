@@ -16,6 +16,8 @@
 
 bool CVistrelDlg::hasSpaceToCapture()
 {
+    if (isClosed())
+        return false;
     stop_window();
     if (WebcamUtil::chkdiskFreeSpace())
         return true;
@@ -27,7 +29,7 @@ bool CVistrelDlg::hasSpaceToCapture()
 
 void CVistrelDlg::OnLive()
 {
-    if (m_displayMode == LiveMode)
+    if (m_displayMode == LiveMode || isClosed())
         return;
     allWidgethide();
     hiddenPictList();
@@ -38,6 +40,8 @@ void CVistrelDlg::OnLive()
     m_error = false;
     if (!m_liveView->isCreate()) {
         m_liveView->Create();
+        if (isClosed())
+            return;
         copyDevicePresence();
         if (!m_videoPresent || !m_liveView->isCreate())
             m_error = true;
@@ -75,6 +79,8 @@ void CVistrelDlg::OnPhoto()
 
 void CVistrelDlg::OnAply()
 {
+    if (isClosed())
+        return;
     if (m_movieView->isCreated())
         m_movieView->Release();
     m_movieView->hide();

@@ -60,6 +60,8 @@ void CVistrelDlg::startSeries()
 
 void CVistrelDlg::OnShot()
 {
+    if (isClosed())
+        return;
     stop_window();
     if (m_shutterSound)
         m_shutterSound->play();

@@ -9,7 +9,7 @@
 void CVistrelDlg::OnSettingDlg()
 {
     stop_window();
-    if (m_settings->exec() != QDialog::Accepted || !m_liveView)
+    if (m_settings->exec() != QDialog::Accepted || isClosed())
         return;
     m_settings->SaveFile();
     GetSetting();
