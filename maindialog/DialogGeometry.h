@@ -7,8 +7,9 @@
 
 /**
  * Where everything in the main window stands, as plain arithmetic: screen, button and camera sizes
- * in, rectangles out. All sizes and places are device pixels measured from the window's top left
- * corner. Halvings multiply by 0.5, and what becomes an integer is cut toward zero.
+ * in, rectangles out. All sizes and places are pixels of the layout, each of which may be several
+ * device pixels wide (LayoutScale), measured from the window's top left corner. Halvings multiply
+ * by 0.5, and what becomes an integer is cut toward zero.
  */
 class DialogGeometry {
 public:

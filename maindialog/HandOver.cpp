@@ -36,7 +36,9 @@ void CVistrelDlg::PutTVSPhoto()
         return;
     QTextStream out(&file);
     out.setCodec("UTF-8");
-    out << "0\n" << m_videoRect.width() << 'x' << m_videoRect.height() << '\n';
+    // What the picture measures on the screen, in the screen's own pixels.
+    const QSize shown = (QSizeF(m_videoRect.size()) * devicePixelRatioF()).toSize();
+    out << "0\n" << shown.width() << 'x' << shown.height() << '\n';
     if (m_displayMode == PhotoMode) {
         out << m_currentPhotoName << '\n';
     } else if (m_displayMode == ListMode || m_displayMode == PhotSeqMode) {
