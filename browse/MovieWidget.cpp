@@ -1,11 +1,63 @@
 #include "MovieWidget.h"
 
+#include "PictureLoader.h"
+
+#include <QFileInfo>
 #include <QLabel>
+#include <QPainter>
 #include <QUrl>
+#include <phonon/mediaobject.h>
 #include <phonon/mediasource.h>
+
+namespace {
+
+// How often the player tells its position: soon enough that nobody sees the still picture linger.
+constexpr int positionIntervalMs = 40;
+
+} // namespace
+
+/** A movie's still picture on black, as large as fits, like the movie's own pictures. */
+class MovieWidget::StillPicture : public QWidget {
+public:
+    explicit StillPicture(QWidget *parent)
+        : QWidget(parent)
+    {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+    }
+    ~StillPicture() override { PictureLoader::shared().forget(this); }
+
+    /// @p name is a bare file name in the temporary area; black until it has been read.
+    void loadLater(const QString &name)
+    {
+        PictureLoader::shared().forget(this);
+        m_picture = QImage();
+        update();
+        const QSize fit = (QSizeF(size()) * devicePixelRatioF()).toSize();
+        PictureLoader::shared().later(name, fit, this, [this](const QImage &picture) {
+            m_picture = picture;
+            update();
+        });
+    }
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), Qt::black);
+        if (m_picture.isNull())
+            return;
+        QRect place(QPoint(), m_picture.size().scaled(size(), Qt::KeepAspectRatio));
+        place.moveCenter(rect().center());
+        painter.drawImage(place, m_picture);
+    }
+
+private:
+    QImage m_picture;
+};
 
 MovieWidget::MovieWidget(QWidget *parent)
     : Phonon::VideoPlayer(parent)
+    , m_stillPicture(new StillPicture(this))
     , m_label(new QLabel(tr("Movie"), this))
 {
     QPalette colors = palette();
@@ -19,15 +71,45 @@ MovieWidget::MovieWidget(QWidget *parent)
     // The weight, 5 of 99, is meant: the caption is to be as thin as the font has it.
     m_label->setFont(QFont(QStringLiteral("Arial"), 24, 5, false));
     m_label->adjustSize();
+    m_stillPicture->hide();
 }
+
+MovieWidget::~MovieWidget() = default;
 
 bool MovieWidget::Create(const QString &filename)
 {
     load(Phonon::MediaSource(QUrl::fromLocalFile(filename)));
-    // The player makes its video surface on first use, and puts it above the caption.
+    showStillPicture(QFileInfo(filename).fileName());
+    // The player makes its video surface on first use, and puts it above the other children.
+    m_stillPicture->raise();
     m_label->raise();
     m_created = true;
     return true;
+}
+
+void MovieWidget::showStillPicture(const QString &movie)
+{
+    QString still = movie;
+    still.replace(QLatin1String(".mov"), QLatin1String("tmp.png"));
+    m_stillPicture->setGeometry(rect());
+    m_stillPicture->loadLater(still);
+    m_stillPicture->show();
+    mediaObject()->setTickInterval(positionIntervalMs);
+    connect(mediaObject(), &Phonon::MediaObject::tick, this, &MovieWidget::hideStillPicture,
+            Qt::UniqueConnection);
+}
+
+// A movie that has moved on has shown a picture of its own.
+void MovieWidget::hideStillPicture(qint64 position)
+{
+    if (position > 0 && isPlaying())
+        m_stillPicture->hide();
+}
+
+void MovieWidget::resizeEvent(QResizeEvent *event)
+{
+    Phonon::VideoPlayer::resizeEvent(event);
+    m_stillPicture->setGeometry(rect());
 }
 
 void MovieWidget::Release() { }
@@ -41,6 +123,7 @@ void MovieWidget::Play()
 void MovieWidget::Stop()
 {
     stop();
+    m_stillPicture->setVisible(m_created);
 }
 
 void MovieWidget::Reset()

@@ -1,3 +1,4 @@
+#include "CaptureFolder.h"
 #include "MovieWidget.h"
 
 #include <QLabel>
@@ -32,6 +33,7 @@ private slots:
     void creatingSucceedsForAMissingFileToo();
     void theCaptionIsThinGreenInTheCorner();
     void theCaptionStaysAboveThePicture();
+    void theStillPictureStandsWheneverThePlayerIsBlack();
     void aMovieWaitsForPlay();
     void playingRunsToItsEndAndIsThenComplete();
     void playWhilePlayingLeavesPlaybackWhereItIs();
@@ -42,6 +44,7 @@ private slots:
     void oneWidgetPlaysOneMovieAfterTheOther();
 
 private:
+    const CaptureFolder m_captures;
     QTemporaryDir m_folder;
     QString m_movie;
 };
@@ -105,6 +108,29 @@ void TestMovieWidget::theCaptionStaysAboveThePicture()
     QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 0, patienceMs);
     const auto *label = player.findChild<QLabel *>();
     QCOMPARE(player.childAt(label->geometry().center()), label);
+}
+
+void TestMovieWidget::theStillPictureStandsWheneverThePlayerIsBlack()
+{
+    const QString movie = CaptureFolder::path("movie20240229101500.mov");
+    QVERIFY(QFile::copy(m_movie, movie));
+    QVERIFY(CaptureFolder::save("movie20240229101500tmp.png", QSize(320, 240), Qt::magenta));
+    MovieWidget player(nullptr);
+    player.resize(640, 240); // wider than the picture, which stays in the middle
+    const auto colourAt = [&player](int x) { return player.grab().toImage().pixelColor(x, 200); };
+    player.show();
+    player.Create(movie);
+    QTRY_COMPARE(colourAt(320), QColor(Qt::magenta));
+    QCOMPARE(colourAt(161), QColor(Qt::magenta));
+    QCOMPARE(colourAt(158), QColor(Qt::black));
+    player.Play();
+    QTRY_VERIFY_WITH_TIMEOUT(colourAt(320) != QColor(Qt::magenta), patienceMs);
+    QVERIFY(player.isPlaying());
+    player.Stop();
+    QTRY_COMPARE(colourAt(320), QColor(Qt::magenta));
+
+    player.Create(m_movie); // has no still picture
+    QTRY_COMPARE(colourAt(320), QColor(Qt::black));
 }
 
 void TestMovieWidget::aMovieWaitsForPlay()
