@@ -31,6 +31,9 @@ void CVistrelDlg::OnList()
     if (isClosed())
         return;
     stop_window();
+    stopPlayback();
+    endCountdown();
+    m_timerWidget->Stop();
     m_pictureList->clearSelectedNames();
     const bool movies = m_listKind == MovieList;
     const QStringList names =

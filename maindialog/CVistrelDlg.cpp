@@ -180,6 +180,8 @@ void CVistrelDlg::openCamera()
     // Earlier than the other connections: the first screen may wait at a disk warning, and a loss
     // that nobody is told of would leave a dead camera that counts as open.
     connect(m_liveView, &LiveVideoWidget::disconnectDevice, this, &CVistrelDlg::changeNodevicemode);
+    connect(m_liveView, &LiveVideoWidget::recordingEnded, this, &CVistrelDlg::endBrokenRecording);
+    button(MovieStopButton)->installEventFilter(this);
     m_liveView->Create();
     copyDevicePresence();
     if (!m_videoPresent || !m_liveView->isCreate())

@@ -5,6 +5,7 @@
 #include "DialogGeometry.h"
 #include "DisplayMode.h"
 
+#include <QElapsedTimer>
 #include <QRect>
 #include <QString>
 #include <QStringList>
@@ -49,7 +50,7 @@ public:
     DisplayMode displayMode() const { return m_displayMode; }
     /// No usable camera, or too little space to save: the live screen keeps the capture dead.
     bool hasError() const { return m_error; }
-    /// Area of the live picture and of movies; its size goes into the hand-over file.
+    /// Area of the live picture and of movies; px of the layout.
     QRect videoRect() const { return m_videoRect; }
 
     /// Keeps the window in front again, looking every @p msec milliseconds.
@@ -142,6 +143,8 @@ public Q_SLOTS:
 protected:
     // --- ClosingFlow.cpp -------------------------------------------------------------------
     void closeEvent(QCloseEvent *event) override;
+    // --- MovieFlow.cpp ---------------------------------------------------------------------
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     /// The window may be closed while a box stands over it or a shot falls due: what returns from
@@ -224,6 +227,7 @@ private:
     // --- SeriesFlow.cpp --------------------------------------------------------------------
     void startSeries();
     void endSeries();
+    void endCountdown();
 
     bool m_selfTimer = true;
     int m_selfTimerSeconds = 0;
@@ -233,11 +237,17 @@ private:
 
     // --- MovieFlow.cpp ---------------------------------------------------------------------
     void showMovieLength(qint64 total);
+    /// The recorder cannot go on: keeps the movie up to there and tells why.
+    void endBrokenRecording();
+    void stopPlayback();
 
     bool m_recording = false;
+    QElapsedTimer m_sinceRecordingBegan;
     QString m_moviePath; ///< full path of the movie last recorded or shown
 
     // --- DeviceFlow.cpp --------------------------------------------------------------------
+    void warnOfInvalidVideo();
+
     bool m_videoPresent = false;
     bool m_audioPresent = false;
     bool m_deviceSelected = false;

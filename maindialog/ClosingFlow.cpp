@@ -49,9 +49,6 @@ void CVistrelDlg::closeEvent(QCloseEvent *event)
     stop_window();
     m_timerWidget->Stop();
     releaseLiveView();
-    if (m_movieView->isCreated()) {
-        m_movieView->Stop();
-        m_movieView->Release();
-    }
+    stopPlayback();
     event->accept();
 }

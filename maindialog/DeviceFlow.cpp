@@ -47,8 +47,18 @@ void CVistrelDlg::chkdevice()
     WebcamUtil::WarningMessage(message, this);
 }
 
+void CVistrelDlg::warnOfInvalidVideo()
+{
+    // The blank at the end belongs to the text: translations are found by it.
+    WebcamUtil::WarningMessage(tr("The video device is invalid. Please confirm whether the device "
+                                  "is correctly connected. "),
+                               this);
+}
+
 void CVistrelDlg::changeNodevicemode()
 {
+    if (isClosed())
+        return;
     m_error = true;
     m_timerWidget->Stop();
     // A player that was never used is left alone: its first use asks the sound server, which may
@@ -58,13 +68,11 @@ void CVistrelDlg::changeNodevicemode()
         m_timerWidget->Pause();
         showPlayButton();
     }
-    if (!isClosed() && m_liveView->isCreate())
+    if (m_liveView->isCreate())
         m_liveView->Release();
+    m_recording = false; // with its camera; no second message for the same cable
     stop_window();
-    // The blank at the end belongs to the text: translations are found by it.
-    WebcamUtil::WarningMessage(tr("The video device is invalid. Please confirm whether the device "
-                                  "is correctly connected. "),
-                               this);
+    warnOfInvalidVideo();
     if (isClosed())
         return;
     m_videoPresent = false;

@@ -1,6 +1,7 @@
 // Movies: recording and playback. "Movie" records from the live screen until "Stop" or the time
 // limit; the new movie is then there to play. "Play" and "Pause" drive whatever movie is loaded.
-// A lost camera ends a recording or pauses a playback.
+// A lost camera ends a recording or pauses a playback; a full disk or a broken encoder ends a
+// recording as "Stop" does and is told afterwards. Leaving the playback screen stops the movie.
 
 #include "CVistrelDlg.h"
 
@@ -8,7 +9,11 @@
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
 #include "TimerWidget.h"
+#include "WebcamUtil.h"
 
+#include <QEvent>
+#include <QGuiApplication>
+#include <QStyleHints>
 #include <phonon/mediaobject.h>
 
 namespace {
@@ -19,6 +24,12 @@ QString clockText(qint64 milliseconds)
     return QStringLiteral("%1:%2")
         .arg(milliseconds / 60000, 2, 10, QLatin1Char('0'))
         .arg((milliseconds % 60000) / 1000, 2, 10, QLatin1Char('0'));
+}
+
+bool isPress(QEvent::Type type)
+{
+    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick
+        || type == QEvent::TouchBegin || type == QEvent::KeyPress;
 }
 
 } // namespace
@@ -37,11 +48,36 @@ void CVistrelDlg::OnRecord()
     disableAllButton(false);
     button(MovieStopButton)->show();
     button(MovieStopButton)->setEnabled(true);
+    m_sinceRecordingBegan.start();
     m_listKind = MovieList;
     m_timerWidget->SetMode(TimerRecordTime);
     m_timerWidget->show();
     m_timerWidget->run();
     button(CloseButton)->setEnabled(false);
+}
+
+// "Stop" stands where "Movie" stood, so the second press of a double click would end the movie that
+// the first one began. Swallowed as a press, by mouse, finger or key, the button does not even go
+// down.
+bool CVistrelDlg::eventFilter(QObject *watched, QEvent *event)
+{
+    const int doubleClickMs = QGuiApplication::styleHints()->mouseDoubleClickInterval();
+    if (watched == button(MovieStopButton) && isPress(event->type())
+        && m_sinceRecordingBegan.isValid() && m_sinceRecordingBegan.elapsed() < doubleClickMs)
+        return true;
+    return QWidget::eventFilter(watched, event);
+}
+
+void CVistrelDlg::endBrokenRecording()
+{
+    if (!m_recording || isClosed())
+        return;
+    OnMovieStop();
+    stop_window();
+    if (WebcamUtil::chkdiskFreeSpace())
+        warnOfInvalidVideo();
+    else
+        WebcamUtil::ShowDiskWorningMessage(this);
 }
 
 void CVistrelDlg::OnMovieStop()
@@ -120,8 +156,20 @@ void CVistrelDlg::OnMoviePause()
     showPlayButton();
 }
 
+void CVistrelDlg::stopPlayback()
+{
+    if (!m_movieView->isCreated())
+        return;
+    m_movieView->Stop();
+    m_movieView->Release();
+}
+
 void CVistrelDlg::OnMovieFinished()
 {
+    // The end of a movie that was left in the meantime is told late: button and clock may serve
+    // another screen by now.
+    if (m_displayMode != MovieMode)
+        return;
     showPlayButton();
     m_movieView->Stop();
     m_timerWidget->Stop();

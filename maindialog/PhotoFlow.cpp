@@ -21,6 +21,7 @@ bool CVistrelDlg::hasSpaceToCapture()
     stop_window();
     if (WebcamUtil::chkdiskFreeSpace())
         return true;
+    endCountdown(); // no photo may be taken behind the message that none can be
     WebcamUtil::ShowDiskWorningMessage(this);
     m_error = true;
     setErrModeButtonEnable();
@@ -33,10 +34,7 @@ void CVistrelDlg::OnLive()
         return;
     allWidgethide();
     hiddenPictList();
-    if (m_movieView->isCreated()) {
-        m_movieView->Stop();
-        m_movieView->Release();
-    }
+    stopPlayback();
     m_error = false;
     if (!m_liveView->isCreate()) {
         m_liveView->Create();

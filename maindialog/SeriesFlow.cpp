@@ -76,6 +76,15 @@ void CVistrelDlg::OnShot()
         endSeries();
 }
 
+// A series that is left ends, whatever led away from it.
+void CVistrelDlg::endCountdown()
+{
+    if (m_displayMode != PhotSeqMode)
+        return; // the clock serves another screen
+    m_timerWidget->hide();
+    m_timerWidget->reset();
+}
+
 void CVistrelDlg::endSeries()
 {
     m_pictureList->hide();
@@ -84,8 +93,6 @@ void CVistrelDlg::endSeries()
     const QStringList series = m_seriesList;
     SetPictureListMode(series);
     m_shotCounter = 0;
-    m_timerWidget->Stop();
-    m_timerWidget->hide();
-    m_timerWidget->reset();
+    endCountdown();
     update();
 }

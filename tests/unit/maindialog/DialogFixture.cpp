@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProcess>
 #include <QTest>
 #include <QTimer>
 
@@ -47,6 +48,8 @@ DialogFixture::RestoredVariable::~RestoredVariable()
 DialogFixture::DialogFixture()
 {
     FakeEngine::reset();
+    // Presses of these tests follow each other faster than any hand's, and are all meant.
+    QApplication::setDoubleClickInterval(0);
     qputenv("HOME", QFile::encodeName(m_home.path()));
     qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
     forgetPaths();
@@ -111,6 +114,21 @@ void DialogFixture::setSettings(const QByteArray &lines) const
     QFile settings(home() + QStringLiteral("/.halcyra_orvantacc.ini"));
     if (!settings.open(QIODevice::WriteOnly) || settings.write("[General]\n" + lines) < 0)
         qFatal("The settings file cannot be written.");
+}
+
+QByteArray DialogFixture::movieOf(int frames)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.mov"));
+    QProcess recorder;
+    recorder.start(QStringLiteral("gst-launch-1.0"),
+                   {"-q", "videotestsrc", QStringLiteral("num-buffers=%1").arg(frames), "!",
+                    "video/x-raw,format=I420,width=160,height=120,framerate=10/1", "!", "x264enc",
+                    "tune=zerolatency", "key-int-max=10", "!", "qtmux", "!", "filesink",
+                    "location=" + path});
+    recorder.waitForFinished(30000);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QString DialogFixture::temporaryArea() const

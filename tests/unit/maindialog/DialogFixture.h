@@ -45,6 +45,9 @@ public:
     /// Writes the settings file, lines such as "AutoShoot=0". To be called before build().
     void setSettings(const QByteArray &lines) const;
 
+    /// A movie of @p frames frames at 10 a second, without sound; empty when it cannot be made.
+    static QByteArray movieOf(int frames);
+
     QString temporaryArea() const;
     QString home() const;
     /// Bare names in the temporary area, hidden ones included.

@@ -1,11 +1,17 @@
 #include "DialogFixture.h"
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
+#include "MovieWidget.h"
+#include "TimerWidget.h"
 
+#include <QApplication>
 #include <QDate>
 #include <QDir>
 #include <QFile>
+#include <QMessageBox>
+#include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -24,7 +30,30 @@ void writeFile(const QString &path, const QByteArray &content)
     file.write(content);
 }
 
+/// Runs @p action and closes the window while the first modal box that it opens stands; then the
+/// box goes too. The texts of all boxes that came.
+QStringList closedUnderTheBoxOf(CVistrelDlg &dialog, const std::function<void()> &action)
+{
+    QStringList texts;
+    QTimer glance;
+    QObject::connect(&glance, &QTimer::timeout, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        texts.append(box->text());
+        if (dialog.isVisible())
+            dialog.close();
+        box->close();
+    });
+    glance.start(10);
+    action();
+    return texts;
+}
+
 } // namespace
+
+using Slot = void (CVistrelDlg::*)();
+Q_DECLARE_METATYPE(Slot)
 
 /** "Exit" and its question, and closing by the window system. */
 class ClosingFlowTest : public QObject {
@@ -40,6 +69,15 @@ private Q_SLOTS:
     void aFailedSaveIsReportedAndTheProgramCloses();
     void closingByTheWindowSystemAsksNothingAndKeepsEverything();
     void closingReleasesTheCameraAndTheLiveView();
+    void aShotThatFallsDueAfterClosingIsNotTaken();
+    void whatIsUnderWayWhenTheWindowClosesEndsWithoutACamera_data();
+    void whatIsUnderWayWhenTheWindowClosesEndsWithoutACamera();
+    void aMovieBeingPlayedStopsWithTheWindow();
+    void aWindowClosedUnderTheDiskWarningStaysClosed_data();
+    void aWindowClosedUnderTheDiskWarningStaysClosed();
+    void aWindowClosedUnderTheMicrophoneWarningStaysClosed();
+    void aWindowClosedUnderTheMessageOfABrokenRecordingKeepsTheMovie();
+    void aWindowClosedWhileTheCameraCannotBeOpenedStaysClosed();
 };
 
 void ClosingFlowTest::anEmptyTemporaryAreaClosesAtOnceWithNoQuestion()
@@ -149,6 +187,147 @@ void ClosingFlowTest::closingReleasesTheCameraAndTheLiveView()
     dialog.close();
     QCOMPARE(FakeEngine::callCount(QStringLiteral("Release")), 1);
     QVERIFY(!dialog.findChild<LiveVideoWidget *>());
+}
+
+void ClosingFlowTest::aShotThatFallsDueAfterClosingIsNotTaken()
+{
+    DialogFixture fixture;
+    fixture.setSettings("AutoShoot=1\nAutoShootTime=1\nContinuShootCount=9\n");
+    CVistrelDlg &dialog = fixture.build();
+    auto &countdown = fixture.child<TimerWidget>();
+    countdown.setTickInterval(20);
+    fixture.click("PhotoMulti");
+    QTRY_COMPARE(fixture.captures().size(), 1);
+    dialog.close();
+    const int taken = fixture.captures().size();
+    const QSignalSpy shots(&countdown, &TimerWidget::shot);
+    QVERIFY(!QTest::qWaitFor([&] { return !shots.isEmpty(); }, 300));
+    Q_EMIT countdown.shot(); // one that was due already
+    QCOMPARE(fixture.captures().size(), taken);
+}
+
+void ClosingFlowTest::whatIsUnderWayWhenTheWindowClosesEndsWithoutACamera_data()
+{
+    QTest::addColumn<Slot>("slot");
+    QTest::newRow("a photo") << Slot(&CVistrelDlg::OnPhoto);
+    QTest::newRow("a series") << Slot(&CVistrelDlg::OnPhotSeq);
+    QTest::newRow("a shot") << Slot(&CVistrelDlg::OnShot);
+    QTest::newRow("a recording") << Slot(&CVistrelDlg::OnRecord);
+    QTest::newRow("the end of a recording") << Slot(&CVistrelDlg::OnMovieStop);
+    QTest::newRow("accepting") << Slot(&CVistrelDlg::OnAply);
+    QTest::newRow("the live picture") << Slot(&CVistrelDlg::OnLive);
+    QTest::newRow("the list") << Slot(&CVistrelDlg::OnList);
+    QTest::newRow("viewing") << Slot(&CVistrelDlg::OnShow);
+    QTest::newRow("the playing time") << Slot(&CVistrelDlg::setMovieTime);
+    QTest::newRow("the end of a movie") << Slot(&CVistrelDlg::OnMovieFinished);
+    QTest::newRow("a lost camera") << Slot(&CVistrelDlg::changeNodevicemode);
+}
+
+void ClosingFlowTest::whatIsUnderWayWhenTheWindowClosesEndsWithoutACamera()
+{
+    QFETCH(Slot, slot);
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Photo");
+    dialog.close();
+    const QStringList captures = fixture.captures();
+    const QStringList calls = FakeEngine::script().calls;
+    QCOMPARE(DialogFixture::boxDuring([&] { (dialog.*slot)(); }), QString());
+    QCOMPARE(fixture.captures(), captures);
+    QCOMPARE(FakeEngine::script().calls, calls);
+    QVERIFY(!dialog.isVisible());
+}
+
+void ClosingFlowTest::aMovieBeingPlayedStopsWithTheWindow()
+{
+    qputenv("PHONON_GST_VIDEOMODE", "software");
+    DialogFixture fixture;
+    FakeEngine::script().movie = DialogFixture::movieOf(100);
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Movie");
+    fixture.click("MovieStop");
+    fixture.click("MoviePlay");
+    auto &movie = fixture.child<MovieWidget>();
+    QTRY_VERIFY_WITH_TIMEOUT(movie.isPlaying() && movie.currentTime() > 0, 10000);
+    dialog.close();
+    QTRY_VERIFY_WITH_TIMEOUT(!movie.isPlaying(), 2000); // long before its end
+}
+
+void ClosingFlowTest::aWindowClosedUnderTheDiskWarningStaysClosed_data()
+{
+    QTest::addColumn<QString>("screen");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("at a photo") << ""
+                                << "Photo";
+    QTest::newRow("at a series") << ""
+                                 << "PhotoMulti";
+    QTest::newRow("in a series") << "PhotoMulti"
+                                 << "PhotoMulti";
+    QTest::newRow("at a movie") << ""
+                                << "Movie";
+    QTest::newRow("back at the live picture") << "List"
+                                              << "Live";
+}
+
+void ClosingFlowTest::aWindowClosedUnderTheDiskWarningStaysClosed()
+{
+    QFETCH(QString, screen);
+    QFETCH(QString, button);
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    if (!screen.isEmpty())
+        fixture.click(qPrintable(screen));
+    DialogFixture::fillTheDisk();
+    const QStringList calls = FakeEngine::script().calls;
+    const QStringList texts =
+        closedUnderTheBoxOf(dialog, [&] { fixture.click(qPrintable(button)); });
+    QCOMPARE(texts.size(), 1);
+    QVERIFY(texts[0].startsWith(QStringLiteral("The disk free space is insufficient.\n")));
+    QVERIFY(!dialog.isVisible());
+    QVERIFY(!dialog.findChild<LiveVideoWidget *>());
+    const QStringList later = FakeEngine::script().calls.mid(calls.size());
+    QCOMPARE(later.filter(QStringLiteral("SaveBitmap")), QStringList());
+    QCOMPARE(later.filter(QStringLiteral("Record(")), QStringList());
+    QCOMPARE(later.last(), QStringLiteral("~LiveVideoData()"));
+}
+
+void ClosingFlowTest::aWindowClosedUnderTheMicrophoneWarningStaysClosed()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    FakeEngine::script().audioDeviceValid = false;
+    const QStringList texts = closedUnderTheBoxOf(dialog, [&] { fixture.click("Movie"); });
+    QCOMPARE(texts.size(), 1);
+    QVERIFY(texts[0].startsWith(QStringLiteral("The audio device is invalid.")));
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(FakeEngine::callCount(QStringLiteral("Release")), 1);
+    // The view is still there, but nobody listens to it any more.
+    QCOMPARE(DialogFixture::boxDuring([] { FakeEngine::loseCamera(); }), QString());
+}
+
+void ClosingFlowTest::aWindowClosedUnderTheMessageOfABrokenRecordingKeepsTheMovie()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Movie");
+    const QStringList captures = fixture.captures();
+    QCOMPARE(closedUnderTheBoxOf(dialog, [] { FakeEngine::endRecording(); }).size(), 1);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(fixture.captures(), captures);
+}
+
+void ClosingFlowTest::aWindowClosedWhileTheCameraCannotBeOpenedStaysClosed()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Photo");
+    fixture.click("Apply");
+    fixture.child<LiveVideoWidget>().Release();
+    FakeEngine::script().supported = false;
+    QCOMPARE(closedUnderTheBoxOf(dialog, [&] { fixture.click("Live"); }),
+             QStringList{QStringLiteral("Not Suport")});
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.displayMode(), PhotoMode);
 }
 
 QTEST_MAIN(ClosingFlowTest)

@@ -1,34 +1,24 @@
 #include "DialogFixture.h"
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
+#include "MessageReader.h"
 #include "MovieWidget.h"
+#include "PictureListView.h"
 #include "TimerWidget.h"
+#include "WebcamUtil.h"
 
-#include <QFile>
-#include <QProcess>
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
+#include <QTouchDevice>
 #include <phonon/mediaobject.h>
 
 namespace {
 
 constexpr int patience = 10000; // ms
-
-/// A movie of @p frames frames at 10 a second, without sound.
-QByteArray movieOf(int frames)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("a.mov"));
-    QProcess recorder;
-    recorder.start(QStringLiteral("gst-launch-1.0"),
-                   {"-q", "videotestsrc", QStringLiteral("num-buffers=%1").arg(frames), "!",
-                    "video/x-raw,format=I420,width=160,height=120,framerate=10/1", "!", "x264enc",
-                    "tune=zerolatency", "key-int-max=10", "!", "qtmux", "!", "filesink",
-                    "location=" + path});
-    recorder.waitForFinished(30000);
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 } // namespace
 
@@ -53,7 +43,18 @@ private Q_SLOTS:
     void theLengthIsShownAsSoonAsItIsKnown();
     void playPauseAndTheEndOfAMovie();
     void playAfterTheEndBeginsAgain();
+    void aMovieThatCannotBePlayedLeavesTheScreenUsable_data();
     void aMovieThatCannotBePlayedLeavesTheScreenUsable();
+    void aSecondPressRightAfterTheFirstDoesNotReachStop_data();
+    void aSecondPressRightAfterTheFirstDoesNotReachStop();
+    void leavingThePlaybackScreenStopsTheMovie_data();
+    void leavingThePlaybackScreenStopsTheMovie();
+    void theEndOfAMovieThatWasLeftTouchesNoOtherScreen();
+    void aRecordingThatBreaksOffIsKeptAndTold_data();
+    void aRecordingThatBreaksOffIsKeptAndTold();
+    void theEndOfNoRecordingIsNotTold();
+    void aCameraLostWhileRecordingIsToldOnce();
+    void theStillPictureStandsUntilTheMovieMoves();
 };
 
 void MovieFlowTest::initTestCase()
@@ -217,7 +218,7 @@ void MovieFlowTest::closingTheWindowWhileRecordingReleasesTheCamera()
 void MovieFlowTest::theTimeIsRoundedToTheNearestSecond()
 {
     DialogFixture fixture;
-    FakeEngine::script().movie = movieOf(610);
+    FakeEngine::script().movie = DialogFixture::movieOf(610);
     CVistrelDlg &dialog = fixture.build();
     fixture.click("Movie");
     fixture.click("MovieStop");
@@ -235,7 +236,7 @@ void MovieFlowTest::theTimeIsRoundedToTheNearestSecond()
 void MovieFlowTest::theLengthIsShownAsSoonAsItIsKnown()
 {
     DialogFixture fixture;
-    FakeEngine::script().movie = movieOf(120);
+    FakeEngine::script().movie = DialogFixture::movieOf(120);
     fixture.build();
     fixture.click("Movie");
     fixture.click("MovieStop");
@@ -256,7 +257,7 @@ void MovieFlowTest::theLengthIsShownAsSoonAsItIsKnown()
 void MovieFlowTest::playPauseAndTheEndOfAMovie()
 {
     DialogFixture fixture;
-    FakeEngine::script().movie = movieOf(30);
+    FakeEngine::script().movie = DialogFixture::movieOf(30);
     fixture.build();
     fixture.click("Movie");
     fixture.click("MovieStop");
@@ -280,7 +281,7 @@ void MovieFlowTest::playPauseAndTheEndOfAMovie()
 void MovieFlowTest::playAfterTheEndBeginsAgain()
 {
     DialogFixture fixture;
-    FakeEngine::script().movie = movieOf(20);
+    FakeEngine::script().movie = DialogFixture::movieOf(20);
     fixture.build();
     fixture.click("Movie");
     fixture.click("MovieStop");
@@ -295,19 +296,243 @@ void MovieFlowTest::playAfterTheEndBeginsAgain()
     QCOMPARE(finished.count(), 2);
 }
 
+void MovieFlowTest::aMovieThatCannotBePlayedLeavesTheScreenUsable_data()
+{
+    QTest::addColumn<bool>("isThere");
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("never got a frame") << false << QByteArray();
+    QTest::newRow("empty") << true << QByteArray();
+    QTest::newRow("rubbish") << true << QByteArray(5000, 'x');
+    QTest::newRow("cut") << true << DialogFixture::movieOf(20).left(3000);
+}
+
 void MovieFlowTest::aMovieThatCannotBePlayedLeavesTheScreenUsable()
+{
+    QFETCH(bool, isThere);
+    QFETCH(QByteArray, content);
+    DialogFixture fixture;
+    FakeEngine::script().movieBegins = isThere;
+    FakeEngine::script().movie = content;
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Movie");
+    fixture.click("MovieStop");
+    QCOMPARE(fixture.captures().filter(".mov").size(), isThere ? 1 : 0);
+    auto &movie = fixture.child<MovieWidget>();
+    for (int press = 0; press < 2; ++press) {
+        fixture.click("MoviePlay");
+        QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "List", "Close", "MoviePause"}));
+        QTRY_VERIFY_WITH_TIMEOUT(movie.mediaObject()->state() != Phonon::LoadingState, patience);
+        QVERIFY(!movie.isPlaying());
+        fixture.click("MoviePause");
+        QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "List", "Close", "MoviePlay"}));
+    }
+    fixture.click("MoviePlay");
+    fixture.click("List");
+    QCOMPARE(dialog.displayMode(), ListMode);
+    QCOMPARE(fixture.child<PictureListView>().count(), isThere ? 1 : 0);
+    fixture.click("Live");
+    QCOMPARE(dialog.displayMode(), LiveMode);
+    QVERIFY(fixture.child<LiveVideoWidget>().isVisible());
+    QVERIFY(!fixture.child<TimerWidget>().isVisible());
+
+    // The next one can be made, and plays.
+    const QString second = WebcamUtil::CurrentSecondString();
+    QTRY_VERIFY(WebcamUtil::CurrentSecondString() != second); // movies are named by it
+    FakeEngine::script().movieBegins = true;
+    FakeEngine::script().movie = DialogFixture::movieOf(20);
+    fixture.click("Movie");
+    fixture.click("MovieStop");
+    fixture.click("MoviePlay");
+    QTRY_VERIFY_WITH_TIMEOUT(movie.isPlaying(), patience);
+}
+
+void MovieFlowTest::aSecondPressRightAfterTheFirstDoesNotReachStop_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::newRow("mouse") << "mouse";
+    QTest::newRow("mouse, as a double click") << "double click";
+    QTest::newRow("finger") << "finger";
+    QTest::newRow("space") << "space";
+}
+
+void MovieFlowTest::aSecondPressRightAfterTheFirstDoesNotReachStop()
+{
+    QFETCH(QString, device);
+    DialogFixture fixture;
+    fixture.build();
+    QApplication::setDoubleClickInterval(60000); // however slow this machine is
+    QWidget &stop = fixture.button("MovieStop");
+    static QTouchDevice *const finger = QTest::createTouchDevice();
+    const auto press = [&] {
+        if (device == "double click") {
+            QTest::mouseDClick(&stop, Qt::LeftButton);
+            QTest::mouseRelease(&stop, Qt::LeftButton);
+        } else if (device == "finger") {
+            QTest::touchEvent(&stop, finger).press(1, stop.rect().center(), &stop);
+            QTest::touchEvent(&stop, finger).release(1, stop.rect().center(), &stop);
+        } else if (device == "space") {
+            QTest::keyClick(&stop, Qt::Key_Space);
+        } else {
+            QTest::mouseClick(&stop, Qt::LeftButton);
+        }
+    };
+    fixture.click("Movie");
+    QElapsedTimer sinceMovie;
+    sinceMovie.start();
+    press();
+    QTRY_VERIFY(sinceMovie.elapsed() > 300);
+    QCOMPARE(FakeEngine::callCount("RecordStop"), 0);
+    QApplication::setDoubleClickInterval(200);
+    press();
+    QCOMPARE(FakeEngine::callCount("RecordStop"), 1);
+}
+
+void MovieFlowTest::leavingThePlaybackScreenStopsTheMovie_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QStringList>("next");
+    QTest::newRow("to the list") << QByteArray("List")
+                                 << QStringList{"Live", "Close", "SwitchPhoto"};
+    QTest::newRow("to the live picture")
+        << QByteArray("Live")
+        << QStringList{"Live", "Photo", "PhotoMulti", "Movie", "List", "Settings", "Close"};
+}
+
+void MovieFlowTest::leavingThePlaybackScreenStopsTheMovie()
+{
+    QFETCH(QByteArray, button);
+    QFETCH(QStringList, next);
+    DialogFixture fixture;
+    FakeEngine::script().movie = DialogFixture::movieOf(50);
+    fixture.build();
+    fixture.click("Movie");
+    fixture.click("MovieStop");
+    auto &movie = fixture.child<MovieWidget>();
+    auto &time = fixture.child<TimerWidget>();
+    time.setTickInterval(20);
+    fixture.click("MoviePlay");
+    QTRY_VERIFY_WITH_TIMEOUT(movie.isPlaying() && movie.currentTime() > 0, patience);
+    const QSignalSpy finished(&movie, &MovieWidget::finished);
+    const QSignalSpy ticks(&time, &TimerWidget::set);
+    fixture.click(button.constData());
+    const int ticksBefore = ticks.count();
+    QCOMPARE(fixture.usableButtons(), next);
+    QTRY_VERIFY_WITH_TIMEOUT(!movie.isPlaying(), 2000);
+    QVERIFY(!QTest::qWaitFor([&] { return !finished.isEmpty(); }, 1000));
+    QCOMPARE(ticks.count(), ticksBefore);
+    QCOMPARE(fixture.usableButtons(), next);
+}
+
+void MovieFlowTest::theEndOfAMovieThatWasLeftTouchesNoOtherScreen()
+{
+    DialogFixture fixture;
+    fixture.build();
+    fixture.click("Movie");
+    fixture.click("MovieStop");
+    fixture.click("List");
+    fixture.click("Live");
+    fixture.child<TimerWidget>().setTickInterval(20);
+    fixture.click("Movie");
+    const QStringList buttons = fixture.shownButtons();
+    Q_EMIT fixture.child<MovieWidget>().finished(); // told late
+    QCOMPARE(fixture.shownButtons(), buttons);
+    const QString time = fixture.child<TimerWidget>().text();
+    QTRY_VERIFY(fixture.child<TimerWidget>().text() != time); // the recording's clock goes on
+}
+
+void MovieFlowTest::aRecordingThatBreaksOffIsKeptAndTold_data()
+{
+    QTest::addColumn<bool>("isDiskFull");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("full disk") << true
+                               << "The disk free space is insufficient.\nTaking a picture is "
+                                  "discontinued. Please secure the free space. ";
+    QTest::newRow("broken encoder") << false
+                                    << "The video device is invalid. Please confirm whether the "
+                                       "device is correctly connected. ";
+}
+
+void MovieFlowTest::aRecordingThatBreaksOffIsKeptAndTold()
+{
+    QFETCH(bool, isDiskFull);
+    QFETCH(QString, message);
+    DialogFixture fixture;
+    FakeEngine::script().movie = DialogFixture::movieOf(50);
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Movie");
+    const QStringList kept = fixture.captures();
+    const QString area = fixture.temporaryArea();
+    if (isDiskFull)
+        DialogFixture::fillTheDisk();
+    QString shownBelow;
+    QCOMPARE(DialogFixture::boxDuring([&] {
+                 QTimer::singleShot(0, [&] { shownBelow = fixture.usableButtons().join(' '); });
+                 FakeEngine::endRecording();
+             }),
+             message);
+    QCOMPARE(shownBelow, QString("Live List Close MoviePlay")); // ended before it is told
+    QCOMPARE(FakeEngine::callCount("RecordStop"), 1);
+    QCOMPARE(dialog.displayMode(), MovieMode);
+    QCOMPARE(QDir(area).entryList(QDir::Files, QDir::Name), kept);
+    QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "List", "Close", "MoviePlay"}));
+    fixture.click("MoviePlay");
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.child<MovieWidget>().isPlaying(), patience);
+}
+
+void MovieFlowTest::theEndOfNoRecordingIsNotTold()
 {
     DialogFixture fixture;
     CVistrelDlg &dialog = fixture.build();
     fixture.click("Movie");
     fixture.click("MovieStop");
-    fixture.click("MoviePlay");
-    QTest::qWait(500);
-    QVERIFY(!fixture.child<MovieWidget>().isPlaying());
-    QVERIFY(fixture.usableButtons().contains("Live"));
     fixture.click("Live");
+    QCOMPARE(DialogFixture::boxDuring([] { FakeEngine::endRecording(); }), QString()); // told late
+    QCOMPARE(FakeEngine::callCount("RecordStop"), 1);
     QCOMPARE(dialog.displayMode(), LiveMode);
-    QVERIFY(fixture.child<LiveVideoWidget>().isVisible());
+}
+
+void MovieFlowTest::aCameraLostWhileRecordingIsToldOnce()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Movie");
+    const MessageReader reader;
+    QTimer::singleShot(0, [] { FakeEngine::endRecording(); }); // while the message stands
+    FakeEngine::loseCamera();
+    QCOMPARE(reader.texts().size(), 1);
+    QCOMPARE(dialog.displayMode(), LiveMode);
+}
+
+void MovieFlowTest::theStillPictureStandsUntilTheMovieMoves()
+{
+    DialogFixture fixture;
+    FakeEngine::script().picture = QImage(160, 120, QImage::Format_RGB32);
+    FakeEngine::script().picture.fill(Qt::magenta); // a colour that the movie does not begin with
+    FakeEngine::script().movie = DialogFixture::movieOf(30);
+    fixture.build();
+    auto &movie = fixture.child<MovieWidget>();
+    const auto showsTheStill = [&] {
+        const QImage shown = movie.grab().toImage();
+        return shown.pixelColor(shown.width() / 2, shown.height() / 2) == QColor(Qt::magenta);
+    };
+    fixture.click("Movie");
+    fixture.click("MovieStop");
+    QTRY_VERIFY(showsTheStill());
+    fixture.click("MoviePlay");
+    QTRY_VERIFY_WITH_TIMEOUT(!showsTheStill(), patience);
+    QVERIFY(movie.isPlaying());
+    fixture.click("MoviePause");
+    QTRY_VERIFY_WITH_TIMEOUT(movie.isPaused(), patience);
+    QVERIFY(!showsTheStill());
+    const QSignalSpy finished(&movie, &MovieWidget::finished);
+    fixture.click("MoviePlay");
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, patience);
+    QTRY_VERIFY(showsTheStill());
+
+    fixture.click("List");
+    fixture.child<PictureListView>().item(0)->setSelected(true);
+    fixture.click("Show");
+    QTRY_VERIFY(showsTheStill());
 }
 
 QTEST_MAIN(MovieFlowTest)

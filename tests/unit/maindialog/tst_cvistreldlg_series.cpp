@@ -5,9 +5,11 @@
 #include "PictureWidget.h"
 #include "TimerWidget.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -94,6 +96,9 @@ private Q_SLOTS:
     void aFullDiskStartsNoSeries();
     void aFullDiskDoesNotStopTimedPhotos();
     void aFullDiskStopsAPressInARunningSeries();
+    void noTimedPhotoIsTakenBehindTheDiskWarningNorAfterIt();
+    void theListEndsASeries();
+    void aSeriesBegunBetweenTwoTicksOfARunningClockHasItsFullFirstSecond();
     void aStripLeftWithASelectionDoesNotShowInTheSeries();
     void backFromAZoomedPhotoShowsTheSeriesAgain();
     void aSeriesMakesTheListShowPhotos();
@@ -322,6 +327,57 @@ void SeriesFlowTest::aFullDiskStopsAPressInARunningSeries()
     QVERIFY(text.startsWith(QStringLiteral("The disk free space is insufficient.\n")));
     QCOMPARE(series.taken(), 1);
     QVERIFY(series.dialog().hasError());
+}
+
+void SeriesFlowTest::noTimedPhotoIsTakenBehindTheDiskWarningNorAfterIt()
+{
+    Series series(selfTimer(1, 9));
+    series.start();
+    QTRY_COMPARE(series.timed.size(), 1);
+    DialogFixture::fillTheDisk();
+    int whileTold = -1;
+    QTimer::singleShot(0, [&] {
+        QTest::qWait(4 * secondMs); // two photos would fall due
+        whileTold = series.taken();
+        QApplication::activeModalWidget()->close();
+    });
+    series.click("PhotoMulti");
+    QCOMPARE(whileTold, 1);
+    QCOMPARE(series.usableButtons(), QStringList{QStringLiteral("List")});
+    QVERIFY(!series.timer().isVisible());
+    QVERIFY(!QTest::qWaitFor([&] { return series.taken() > 1; }, 4 * secondMs));
+    series.click("List");
+    QVERIFY(!QTest::qWaitFor([&] { return series.taken() > 1; }, 4 * secondMs));
+    QCOMPARE(series.dialog().displayMode(), ListMode);
+}
+
+void SeriesFlowTest::theListEndsASeries()
+{
+    Series series(selfTimer(1, 9));
+    series.start();
+    QTRY_COMPARE(series.taken(), 1);
+    series.dialog().OnList();
+    const QStringList kept = series.captures();
+    QVERIFY(!QTest::qWaitFor([&] { return series.taken() > 1; }, 4 * secondMs));
+    QCOMPARE(series.dialog().displayMode(), ListMode);
+    QCOMPARE(series.captures(), kept);
+    QCOMPARE(series.strip().count(), 1);
+}
+
+void SeriesFlowTest::aSeriesBegunBetweenTwoTicksOfARunningClockHasItsFullFirstSecond()
+{
+    constexpr int longSecondMs = 600;
+    Series series(selfTimer(3, 4), longSecondMs);
+    QElapsedTimer clock;
+    clock.start();
+    series.timer().run();
+    QTRY_VERIFY(clock.elapsed() > longSecondMs / 2);
+    series.start();
+    QTRY_VERIFY(!series.timer().text().isEmpty());
+    // A tick of the old clock would have come after half a second.
+    QVERIFY2(series.clock.elapsed() > longSecondMs * 9 / 10,
+             qPrintable(QString::number(series.clock.elapsed())));
+    QCOMPARE(series.timer().text(), QStringLiteral(" 3 second to capture"));
 }
 
 void SeriesFlowTest::aStripLeftWithASelectionDoesNotShowInTheSeries()
