@@ -1,5 +1,6 @@
 #include "CStretchBitmapButton.h"
 #include "CaptureFolder.h"
+#include "PictureLoader.h"
 #include "PictureWidget.h"
 
 #include <QLabel>
@@ -58,6 +59,7 @@ private slots:
     void besideThePictureTheWidgetIsBlackOnAnyParent();
     void aFileThatCannotBeReadIsBlack();
     void growingAgainShowsACoarsePictureUntilItIsLoadedAgain();
+    void aPictureEnlargedWhileItsSmallVersionLoadsStaysSharp();
     void theCaptionIsThinGreenOnBlackInTheCorner();
     void aNewCaptionFitsItsTextAndIsShown();
     void theCaptionCanBeHiddenAndShown();
@@ -187,6 +189,25 @@ void TestPictureWidget::growingAgainShowsACoarsePictureUntilItIsLoadedAgain()
     QVERIFY(widget.grab().toImage().convertToFormat(QImage::Format_RGB32) != fine);
     widget.Loadbmp("");
     QCOMPARE(widget.grab().toImage().convertToFormat(QImage::Format_RGB32), fine);
+}
+
+void TestPictureWidget::aPictureEnlargedWhileItsSmallVersionLoadsStaysSharp()
+{
+    QVERIFY(CaptureFolder::save("photoEnlarged.png", stripes({200, 100})));
+    PictureWidget widget(nullptr);
+    widget.resize(20, 10);
+    widget.loadLater("photoEnlarged.png");
+    widget.Loadbmp(QString());
+    widget.resize(200, 100);
+    widget.labelVisible(false);
+    QVERIFY(widget.hasPicture());
+    QCOMPARE(widget.grab().toImage().convertToFormat(QImage::Format_RGB32), stripes({200, 100}));
+    // The small version is delivered to those who still wait for it.
+    bool delivered = false;
+    PictureLoader::shared().later("photoEnlarged.png", QSize(20, 10), &widget,
+                                  [&](const QImage &) { delivered = true; });
+    QTRY_VERIFY(delivered);
+    QCOMPARE(widget.grab().toImage().convertToFormat(QImage::Format_RGB32), stripes({200, 100}));
 }
 
 void TestPictureWidget::theCaptionIsThinGreenOnBlackInTheCorner()
