@@ -20,9 +20,10 @@ constexpr int colourTolerance = 16;
 
 } // namespace
 
-Session::Session(const QString &executable, const QString &cameraName, QSize cameraSize)
+Session::Session(const QString &executable, const QString &cameraName, QSize cameraSize, QRect area)
     : m_program(executable)
-    , m_map(m_desktop.screen().size(), cameraSize)
+    , m_area(area.isNull() ? m_desktop.screen() : area)
+    , m_map(m_area, int(qApp->devicePixelRatio()), cameraSize)
     , m_ground(LabPattern::groundOf(cameraName))
 {
     QApplication::setStyle(new PlainButtons); // of the program, for the twins of its boxes
@@ -43,7 +44,7 @@ bool Session::waitForMainWindow()
 Desktop::Window Session::mainWindow() const
 {
     for (const Desktop::Window &window : m_desktop.windowsOf(m_program.pid()))
-        if (window.geometry == m_desktop.screen())
+        if (window.geometry == m_area)
             return window;
     return {};
 }
@@ -51,7 +52,7 @@ Desktop::Window Session::mainWindow() const
 Desktop::Window Session::dialog() const
 {
     const Desktop::Window top = m_desktop.topWindowOf(m_program.pid());
-    return top.geometry == m_desktop.screen() ? Desktop::Window() : top;
+    return top.geometry == m_area ? Desktop::Window() : top;
 }
 
 bool Session::waitForDialog(const QString &title)

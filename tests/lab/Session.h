@@ -15,7 +15,10 @@ class QMessageBox;
 class Session {
 public:
     // The camera is the one the program is expected to show.
-    Session(const QString &executable, const QString &cameraName, QSize cameraSize);
+    // The area is the part of the screen that the program's window is to fill; null for all of it.
+    // Its pixels are as large as those of this test's own windows.
+    Session(const QString &executable, const QString &cameraName, QSize cameraSize,
+            QRect area = {});
 
     Desktop &desktop() { return m_desktop; }
     Program &program() { return m_program; }
@@ -61,6 +64,7 @@ private:
 
     Desktop m_desktop;
     Program m_program;
+    QRect m_area;
     WindowMap m_map;
     QRgb m_ground;
     QString m_messageText;

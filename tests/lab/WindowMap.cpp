@@ -18,8 +18,11 @@ QRect iconPart(QRect button)
 
 } // namespace
 
-WindowMap::WindowMap(QSize screen, QSize camera)
+WindowMap::WindowMap(QRect area, int scale, QSize camera)
+    : m_origin(area.topLeft())
+    , m_scale(scale)
 {
+    const QSize screen = area.size() / scale;
     const QSize main = CStretchBitmapButton("Live", nullptr).size();
     const DialogGeometry withoutColumn(screen, main);
     const QSize close =
@@ -29,6 +32,13 @@ WindowMap::WindowMap(QSize screen, QSize camera)
     m_settings = QRect(m_geometry.settingsPosition(close, close), close);
     m_video = m_geometry.videoRect(camera);
     m_half = m_geometry.halfScreenRect(m_video);
+}
+
+QRect WindowMap::onScreen(QRect inWindow) const
+{
+    return inWindow.isNull()
+        ? inWindow
+        : QRect(m_origin + inWindow.topLeft() * m_scale, inWindow.size() * m_scale);
 }
 
 QStringList WindowMap::rowOf(Screen screen) const
@@ -56,6 +66,11 @@ QStringList WindowMap::rowOf(Screen screen) const
 
 QRect WindowMap::button(Screen screen, const QString &name) const
 {
+    return onScreen(inWindow(screen, name));
+}
+
+QRect WindowMap::inWindow(Screen screen, const QString &name) const
+{
     if (name == "Close")
         return m_close;
     if (name == "Settings")
@@ -82,7 +97,7 @@ WindowMap::Look WindowMap::look(const QImage &screenshot, Screen screen, const Q
     if (place.isEmpty())
         return Absent;
     const QImage seen = screenshot.copy(iconPart(place)).convertToFormat(QImage::Format_RGB32);
-    const int state = bitmaps(name, place.size()).indexOf(seen);
+    const int state = bitmaps(name, place.size() / m_scale).indexOf(seen);
     return state < 0 ? Absent : Look(state);
 }
 
@@ -104,12 +119,13 @@ QStringList WindowMap::pressable(const QImage &screenshot, Screen screen)
 
 QRect WindowMap::seriesLiveRect() const
 {
-    return m_geometry.seriesLiveRect(m_video.size(), m_geometry.stripRect().height());
+    return onScreen(m_geometry.seriesLiveRect(m_video.size(), m_geometry.stripRect().height()));
 }
 
 QRect WindowMap::seriesPhotoRect() const
 {
-    return m_geometry.seriesPhotoRect(seriesLiveRect());
+    return onScreen(m_geometry.seriesPhotoRect(
+        m_geometry.seriesLiveRect(m_video.size(), m_geometry.stripRect().height())));
 }
 
 QRect WindowMap::thumbnail(int position) const
@@ -117,23 +133,23 @@ QRect WindowMap::thumbnail(int position) const
     constexpr int spacing = 10;
     const QRect strip = m_geometry.stripRect();
     const int width = strip.height(); // each is as wide as the strip is high
-    return {spacing + position * (width + spacing), strip.top() + spacing, width,
-            strip.height() * 2 / 3};
+    return onScreen({spacing + position * (width + spacing), strip.top() + spacing, width,
+                     strip.height() * 2 / 3});
 }
 
 QRect WindowMap::selectionRect() const
 {
-    return m_geometry.selectionRect(m_video, m_geometry.stripRect().height());
+    return onScreen(m_geometry.selectionRect(m_video, m_geometry.stripRect().height()));
 }
 
 QRect WindowMap::tile(int count, int position) const
 {
-    return DialogGeometry::tileRects(m_video, count).value(position);
+    return onScreen(DialogGeometry::tileRects(m_video, count).value(position));
 }
 
 QPoint WindowMap::cornerButton(QRect tile) const
 {
-    const QSize size = CStretchBitmapButton("Zoom", nullptr).size();
+    const QSize size = CStretchBitmapButton("Zoom", nullptr).size() * m_scale;
     return tile.bottomRight() - QPoint(size.width() / 2, size.height() / 2);
 }
 
@@ -145,7 +161,7 @@ QPoint WindowMap::inDialog(QDialog *twin, const QWidget *control, QPoint topLeft
     const auto *button = qobject_cast<const QAbstractButton *>(control);
     if (button && button->isCheckable())
         spot.setX(boxWidth / 2); // only the box and the text react, not the room beside them
-    const QPoint place = topLeft + control->mapTo(twin, spot);
+    const QPoint place = topLeft + control->mapTo(twin, spot) * twin->devicePixelRatio();
     twin->hide();
     return place;
 }

@@ -15,7 +15,8 @@ class QWidget;
 // the button rows, the views, and how each button looks. It asks the program's own geometry and its
 // own button class, so it needs the program's resources and a QApplication on the same screen.
 //
-// Buttons go by their base name ("Photo", "Close"); all places are pixels of the screen.
+// Buttons go by their base name ("Photo", "Close"); all places are pixels of the screen, also where
+// the window begins beside a panel, or draws each of its own pixels as a block of them.
 class WindowMap {
 public:
     // A running series has the live screen's buttons, tiles have those of a photo.
@@ -31,7 +32,12 @@ public:
     };
     enum Look { Up, Down, Disabled, Absent };
 
-    WindowMap(QSize screen, QSize camera);
+    // The window fills the area of the screen, with blocks of scale by scale pixels.
+    WindowMap(QRect area, int scale, QSize camera);
+    WindowMap(QSize screen, QSize camera)
+        : WindowMap(QRect(QPoint(), screen), 1, camera)
+    {
+    }
 
     // Null when that screen has no such button.
     QRect button(Screen screen, const QString &name) const;
@@ -40,10 +46,10 @@ public:
     // The buttons of a screen that can be pressed.
     QStringList pressable(const QImage &screenshot, Screen screen);
 
-    QRect videoRect() const { return m_video; }
+    QRect videoRect() const { return onScreen(m_video); }
     // While a photo waits for "Accept" or "Retry": live at the left, the photo at the right.
-    QRect previewLiveRect() const { return m_half; }
-    QRect previewPhotoRect() const { return DialogGeometry::besideHalfScreen(m_half); }
+    QRect previewLiveRect() const { return onScreen(m_half); }
+    QRect previewPhotoRect() const { return onScreen(DialogGeometry::besideHalfScreen(m_half)); }
 
     // While a series runs: live at the left, the last photo at the right.
     QRect seriesLiveRect() const;
@@ -62,10 +68,14 @@ public:
     static QPoint inDialog(QDialog *twin, const QWidget *control, QPoint topLeft);
 
 private:
+    QRect onScreen(QRect inWindow) const;
+    QRect inWindow(Screen screen, const QString &button) const;
     QStringList rowOf(Screen screen) const;
     const QVector<QImage> &bitmaps(const QString &name, QSize size);
 
-    DialogGeometry m_geometry;
+    QPoint m_origin; // px of the screen
+    int m_scale;
+    DialogGeometry m_geometry; // this and the rest: px of the window
     QRect m_close;
     QRect m_settings;
     QRect m_video;

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QTest>
 
 #include <csignal>
@@ -25,6 +26,8 @@ class MoviesTest : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void aMovieIsRecordedAndPlayedTwice();
+    void theFirstPictureStandsBeforePlayAndAfterTheEnd();
+    void rubbishInPlaceOfAMovieHangsNothing();
     void aMovieSurvivesTheEndOfTheProgram_data();
     void aMovieSurvivesTheEndOfTheProgram();
 
@@ -119,6 +122,63 @@ void MoviesTest::aMovieIsRecordedAndPlayedTwice()
     }
     QVERIFY(user.pressWhenReady(WindowMap::MovieScreen, "Live"));
     QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(picture), kPatienceMs);
+}
+
+void MoviesTest::theFirstPictureStandsBeforePlayAndAfterTheEnd()
+{
+    Session user(QStringLiteral(ORVANTA_PROGRAM), "cam1", QSize(1280, 720));
+    const QRect picture = user.map().videoRect();
+    QVERIFY(beginRecording(user));
+    QTest::qWait(2000);
+    QVERIFY(user.pressWhenReady(WindowMap::RecordingScreen, "MovieStop"));
+    QVERIFY(user.waitForPressable(WindowMap::MovieScreen, {"Live", "MoviePlay", "List", "Close"}));
+    QCOMPARE(movies(user).size(), 1);
+    const QString still = QString(movies(user).first()).replace(".mov", "tmp.png");
+    const int first = LabPattern::counterOf(QImage(still));
+    QVERIFY(first >= 0);
+    QTRY_COMPARE_WITH_TIMEOUT(user.counterAt(picture), first, kPatienceMs);
+    user.press(WindowMap::MovieScreen, "MoviePlay");
+    QTRY_VERIFY_WITH_TIMEOUT(user.counterAt(picture) > first + 15, kPatienceMs);
+    QVERIFY(
+        user.waitForPressable(WindowMap::PlayingScreen, {"Live", "MoviePause", "List", "Close"}));
+    QTRY_COMPARE_WITH_TIMEOUT(user.counterAt(picture), first, kPatienceMs);
+    QVERIFY(user.waitForPressable(WindowMap::MovieScreen, {"Live", "MoviePlay", "List", "Close"}));
+}
+
+void MoviesTest::rubbishInPlaceOfAMovieHangsNothing()
+{
+    Session user(QStringLiteral(ORVANTA_PROGRAM), "cam1", QSize(1280, 720));
+    const WindowMap &map = user.map();
+    const QString stem = user.program().temporaryArea() + "/movie20240229101500";
+    QVERIFY(QDir().mkpath(user.program().temporaryArea()));
+    QFile rubbish(stem + ".mov");
+    QVERIFY(rubbish.open(QIODevice::WriteOnly) && rubbish.write(QByteArray(50000, 'x')) > 0);
+    rubbish.close();
+    QVERIFY(LabPattern::frame(1280, 720, 500, user.ground()).save(stem + "tmp.png"));
+    QVERIFY(user.startLive());
+    const auto showTheMovie = [&](WindowMap::Screen list) {
+        user.desktop().click(map.thumbnail(0).center());
+        return user.pressWhenReady(list, "Show")
+            && user.waitForPressable(WindowMap::MovieScreen,
+                                     {"Live", "MoviePlay", "List", "Close"});
+    };
+    QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "List"));
+    QVERIFY(user.pressWhenReady(WindowMap::ListScreen, "SwitchMovie"));
+    QVERIFY(user.waitForPressable(WindowMap::MovieListScreen, {"Live", "SwitchPhoto", "Close"}));
+    QVERIFY(showTheMovie(WindowMap::MovieListScreen));
+    for (int press = 0; press < 2; ++press) {
+        QVERIFY(user.pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
+        QVERIFY(user.pressWhenReady(WindowMap::PlayingScreen, "MoviePause"));
+    }
+    QVERIFY(user.pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
+    QVERIFY(user.pressWhenReady(WindowMap::PlayingScreen, "List"));
+    QVERIFY(user.waitForPressable(WindowMap::MovieListScreen, {"Live", "SwitchPhoto", "Close"}));
+    QVERIFY(showTheMovie(WindowMap::MovieListScreen));
+    QVERIFY(user.pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
+    QVERIFY(user.pressWhenReady(WindowMap::PlayingScreen, "Live"));
+    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(map.videoRect()), kPatienceMs);
+    QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "Movie")); // and a real one can be made
+    QVERIFY(user.waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
 }
 
 void MoviesTest::aMovieSurvivesTheEndOfTheProgram_data()

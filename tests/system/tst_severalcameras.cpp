@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include <QTest>
+#include <QWidget>
 
 #include <memory>
 
@@ -11,6 +12,7 @@ class TestSeveralCameras : public QObject {
 private slots:
     void theChosenCameraIsShown_data();
     void theChosenCameraIsShown();
+    void afterTheChoiceTheWindowComesBackInFront();
     void closingTheChooserEndsTheProgram();
 };
 
@@ -35,6 +37,33 @@ void TestSeveralCameras::theChosenCameraIsShown()
     user.chooseCamera(position);
     QVERIFY(user.waitForMainWindow());
     QTRY_VERIFY(user.isLiveAt(user.map().videoRect()));
+}
+
+void TestSeveralCameras::afterTheChoiceTheWindowComesBackInFront()
+{
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    user.program().start();
+    QTRY_VERIFY_WITH_TIMEOUT(user.dialog().isActive, 15000);
+    user.chooseCamera(0);
+    QVERIFY(user.waitForMainWindow());
+    QTRY_VERIFY(user.isLiveAt(user.map().videoRect()));
+
+    QWidget other;
+    other.setStyleSheet("background: #308040");
+    other.setGeometry(300, 250, 300, 200);
+    const auto isCovered = [&] {
+        return user.desktop().pixel(QPoint(450, 350)) == QColor("#308040");
+    };
+    // The program may come back sooner than anyone can look.
+    bool wasCovered = false;
+    for (int attempt = 0; attempt < 10 && !wasCovered; ++attempt) {
+        other.show();
+        other.raise();
+        other.activateWindow();
+        wasCovered = QTest::qWaitFor(isCovered, 400);
+    }
+    QVERIFY(wasCovered);
+    QTRY_VERIFY(!isCovered());
 }
 
 void TestSeveralCameras::closingTheChooserEndsTheProgram()

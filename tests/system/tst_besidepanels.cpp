@@ -1,0 +1,68 @@
+#include "Session.h"
+
+#include <QGuiApplication>
+#include <QProcess>
+#include <QScreen>
+#include <QTest>
+#include <QWidget>
+
+#include <memory>
+
+// A desktop with a panel along its top and a dock at its left: the window fills what they leave.
+class TestBesidePanels : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void theWindowFillsTheFreeAreaAndCoversNoPanel();
+
+private:
+    static std::unique_ptr<QWidget> panel(QRect place, const QString &strut);
+
+    const QRect m_free{90, 40, 1190, 760};
+    std::unique_ptr<QWidget> m_top;
+    std::unique_ptr<QWidget> m_left;
+};
+
+// A panel of the desktop keeps its edge of the screen free by telling the window manager.
+std::unique_ptr<QWidget> TestBesidePanels::panel(QRect place, const QString &strut)
+{
+    auto panel = std::make_unique<QWidget>(nullptr, Qt::FramelessWindowHint);
+    panel->setAttribute(Qt::WA_X11NetWmWindowTypeDock);
+    panel->setStyleSheet("background: #308040");
+    panel->setGeometry(place);
+    const bool told =
+        QProcess::execute("xprop",
+                          {"-id", QString::number(panel->winId()), "-f", "_NET_WM_STRUT_PARTIAL",
+                           "32c", "-set", "_NET_WM_STRUT_PARTIAL", strut})
+        == 0;
+    panel->show();
+    return told ? std::move(panel) : nullptr;
+}
+
+void TestBesidePanels::initTestCase()
+{
+    m_top = panel({0, 0, 1280, 40}, "0, 0, 40, 0, 0, 0, 0, 0, 0, 1279, 0, 0");
+    m_left = panel({0, 40, 90, 760}, "90, 0, 0, 0, 40, 799, 0, 0, 0, 0, 0, 0");
+    QVERIFY(m_top && m_left);
+    QTRY_COMPARE(QGuiApplication::primaryScreen()->availableGeometry(), m_free);
+}
+
+void TestBesidePanels::theWindowFillsTheFreeAreaAndCoversNoPanel()
+{
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720), m_free);
+    QVERIFY(user.startLive());
+    QCOMPARE(user.mainWindow().geometry, m_free);
+    QVERIFY(user.waitForPressable(
+        WindowMap::LiveScreen,
+        {"Live", "Photo", "PhotoMulti", "Movie", "List", "Settings", "Close"}));
+    const QColor green("#308040");
+    for (const QPoint onPanel :
+         {QPoint(640, 20), QPoint(45, 400), QPoint(89, 799), QPoint(1279, 39)})
+        QCOMPARE(user.desktop().pixel(onPanel), green);
+    QVERIFY(user.takePhotoForPreview());
+    QTRY_VERIFY(user.isStillAt(user.map().previewPhotoRect()));
+}
+
+QTEST_MAIN(TestBesidePanels)
+#include "tst_besidepanels.moc"
