@@ -60,6 +60,8 @@ int main(int argc, char *argv[])
 {
     LayoutScale::apply(); // as the program does it, for the twins of its buttons
     const QApplication application(argc, argv);
+    qunsetenv("QT_SCALE_FACTOR"); // the program finds it out by itself
+    qunsetenv("QT_FONT_DPI");
     TestLargeScreen test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -29,6 +29,7 @@ private:
 void TestTakingPhotos::init()
 {
     m_user = std::make_unique<Session>(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    m_user->program().setEnvironment("QT_LOGGING_RULES", "orvanta.engine.info=true");
     QVERIFY(m_user->startLive());
 }
 
@@ -130,6 +131,8 @@ void TestTakingPhotos::liveWhileLiveDisturbsNothing()
         }(),
         10000);
     QVERIFY2(seen >= goal, qPrintable(QString::number(seen)));
+    // Each opening of the camera says in which mode.
+    QCOMPARE(m_user->program().output().count(QRegularExpression("cam1.* in .*1280")), 1);
     QVERIFY(m_user->waitForPressable(
         WindowMap::LiveScreen,
         {"Live", "Photo", "PhotoMulti", "Movie", "List", "Settings", "Close"}));
