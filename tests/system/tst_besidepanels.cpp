@@ -15,9 +15,11 @@ class TestBesidePanels : public QObject {
 private slots:
     void initTestCase();
     void theWindowFillsTheFreeAreaAndCoversNoPanel();
+    void theWindowGoesThereByItself();
 
 private:
     static std::unique_ptr<QWidget> panel(QRect place, const QString &strut);
+    static QString rootProperty(const QString &name);
 
     const QRect m_free{90, 40, 1190, 760};
     std::unique_ptr<QWidget> m_top;
@@ -38,6 +40,14 @@ std::unique_ptr<QWidget> TestBesidePanels::panel(QRect place, const QString &str
         == 0;
     panel->show();
     return told ? std::move(panel) : nullptr;
+}
+
+QString TestBesidePanels::rootProperty(const QString &name)
+{
+    QProcess xprop;
+    xprop.start("xprop", {"-root", name});
+    xprop.waitForFinished(5000);
+    return QString::fromUtf8(xprop.readAll());
 }
 
 void TestBesidePanels::initTestCase()
@@ -62,6 +72,22 @@ void TestBesidePanels::theWindowFillsTheFreeAreaAndCoversNoPanel()
         QCOMPARE(user.desktop().pixel(onPanel), green);
     QVERIFY(user.takePhotoForPreview());
     QTRY_VERIFY(user.isStillAt(user.map().previewPhotoRect()));
+}
+
+// A window manager would put a window of that size there in any case, so this one ends and leaves
+// only the word of where the free area is.
+void TestBesidePanels::theWindowGoesThereByItself()
+{
+    const QString itsWindow = rootProperty("_NET_SUPPORTING_WM_CHECK").section('#', 1).trimmed();
+    QCOMPARE(QProcess::execute("openbox", {"--exit"}), 0);
+    QTRY_VERIFY(QProcess::execute("xprop", {"-id", itsWindow}) != 0);
+    QCOMPARE(QProcess::execute("xprop",
+                               {"-root", "-f", "_NET_WORKAREA", "32c", "-set", "_NET_WORKAREA",
+                                "90, 40, 1190, 760"}),
+             0);
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720), m_free);
+    user.program().start();
+    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(user.map().videoRect()), 15000);
 }
 
 QTEST_MAIN(TestBesidePanels)
