@@ -86,10 +86,13 @@ void film(Tour *tour, Session *user)
                    && user->waitForPressable(WindowMap::RecordingScreen, {"MovieStop"})
                    && QTest::qWaitFor([=] { return user->isLiveAt(picture); }));
     QTest::qWait(3000);
-    tour->stop("playing", "The movie played",
+    tour->stop("movie", "The movie, ready to be played",
                user->pressWhenReady(WindowMap::RecordingScreen, "MovieStop")
-                   && user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay")
-                   && QTest::qWaitFor([=] { return user->counterAt(picture) >= 0; }));
+                   && QTest::qWaitFor([=] { return user->isStillAt(picture); }));
+    const int first = user->counterAt(picture);
+    tour->stop("playing", "The movie played",
+               user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay")
+                   && QTest::qWaitFor([=] { return user->counterAt(picture) > first + 15; }));
     tour->stop("paused", "The movie paused",
                user->pressWhenReady(WindowMap::PlayingScreen, "MoviePause")
                    && user->waitForPressable(WindowMap::MovieScreen,
