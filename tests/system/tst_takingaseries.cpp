@@ -27,6 +27,8 @@ private slots:
     void cleanup();
     void timedPhotosComeOnTimeAndTheNextSeriesFollowsNewSettings();
     void liveDuringASeriesKeepsItsPhotos();
+    void closingDuringATimedSeriesKeepsItsPhotos_data();
+    void closingDuringATimedSeriesKeepsItsPhotos();
 
 private:
     bool startWith(const QByteArray &settings);
@@ -40,6 +42,8 @@ private:
 
 void TestTakingASeries::cleanup()
 {
+    if (!m_user)
+        return; // the program has ended as it should
     QVERIFY2(m_user->program().isRunning(), qPrintable(m_user->program().output()));
     m_user.reset();
 }
@@ -134,6 +138,33 @@ void TestTakingASeries::liveDuringASeriesKeepsItsPhotos()
         WindowMap::LiveScreen,
         {"Live", "Photo", "PhotoMulti", "Movie", "List", "Settings", "Close"}));
     QCOMPARE(photos(), taken);
+}
+
+void TestTakingASeries::closingDuringATimedSeriesKeepsItsPhotos_data()
+{
+    QTest::addColumn<bool>("byTheSession");
+    QTest::newRow("by the window system") << false;
+    QTest::newRow("by the session") << true;
+}
+
+void TestTakingASeries::closingDuringATimedSeriesKeepsItsPhotos()
+{
+    QFETCH(bool, byTheSession);
+    QVERIFY(startWith("AutoShoot=1\nAutoShootTime=1\nContinuShootCount=9\n"));
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti"));
+    QTRY_VERIFY_WITH_TIMEOUT(photos().size() >= 2, 15000);
+    if (byTheSession)
+        m_user->program().terminate();
+    else
+        m_user->desktop().closeWindow(m_user->mainWindow().id);
+    QVERIFY(m_user->program().hasEndedWithin(8000));
+    QVERIFY(!m_user->program().hasCrashed());
+    QCOMPARE(m_user->program().exitStatus(), 0);
+    const QStringList kept = photos();
+    QVERIFY(kept.size() >= 2 && kept.size() < 9);
+    for (const QString &photo : kept)
+        QVERIFY2(counterInFile(photo) >= 0, qPrintable(photo));
+    m_user.reset();
 }
 
 QTEST_MAIN(TestTakingASeries)
