@@ -7,6 +7,7 @@ static const qint64 second = 1000000000; // ns
 static const int remembered = 20; // frames
 static const double tolerance = 0.75; // frame periods that picture and clock may differ
 static const double longestDelay = 8; // frame periods that a busy machine may hold frames up
+static const double farAhead = 2.5; // frame periods; what held up frames is over when they come
 static const double longInterval = 1.5; // frame periods
 static const int slowAfter = 8; // long intervals in a row; frames that were held up come in a burst
 
@@ -19,6 +20,11 @@ FramePacer::FramePacer(int numerator, int denominator)
 qint64 FramePacer::timeOf(qint64 place) const
 {
     return place * second * m_denominator / m_numerator;
+}
+
+qint64 FramePacer::placeAt(qint64 time) const
+{
+    return qMax(qint64(0), time - m_begin) / m_denominator * m_numerator / second;
 }
 
 qint64 FramePacer::skip(qint64 places)
@@ -39,6 +45,8 @@ qint64 FramePacer::placeOf(qint64 captured)
     const double lag = double(captured - m_begin) / period - double(m_next);
     if (lag > longestDelay || (m_longIntervals >= slowAfter && lag > tolerance))
         return skip(std::lround(lag));
+    if (m_begun && lag < -farAhead)
+        return -1;
 
     m_lags.append(lag);
     if (m_lags.size() < remembered)

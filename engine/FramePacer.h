@@ -31,6 +31,9 @@ public:
     /// When the frame at @p place begins, from the movie's begin; the end of the one before.
     qint64 timeOf(qint64 place) const;
 
+    /// The place that stands for @p time (by the camera's time, not before the begin).
+    qint64 placeAt(qint64 time) const;
+
     /// The first place that is still free: as many frames long is the movie.
     qint64 nextPlace() const { return m_next; }
 

@@ -13,6 +13,7 @@
 struct MovieCoding {
     QByteArray video; ///< empty when this machine has no coder for the picture
     QByteArray sound; ///< likewise
+    int divisor = 1; ///< the picture is this much smaller than the camera's, on each side
 
     bool isComplete() const { return !video.isEmpty() && !sound.isEmpty(); }
 };

@@ -1,46 +1,110 @@
 #include "MovieRecorder.h"
 
+#include "BoundedTask.h"
 #include "EngineLog.h"
+#include "MovieCompletion.h"
 #include "NewFile.h"
+#include "PatientWait.h"
 
 #include <QFile>
 
+#include <gst/video/gstvideoencoder.h>
+
+#include <atomic>
+#include <sys/resource.h>
+#include <sys/syscall.h>
 #include <unistd.h>
+#include <utility>
 
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 static const milliseconds firstFrameLimit(1000);
-static const GstClockTime soundDelay = GST_SECOND; // before it counts as missing
+static const milliseconds
+    stallLimit(2000); // of a file that is being completed, while it is awaited
+static const milliseconds abandonLimit(20000); // likewise, when nobody waits for it any more
+static const qint64 second = GST_SECOND;
+static const qint64 soundDelay = 3 * second; // before it counts as missing
+static const qint64 soundAhead = 10 * second; // before the picture counts as gone
+static const qint64 standstill = second; // that a last frame may stand for, when none follows it
 // Every sound coder begins with a frame of its own, which players do not know and play.
 static const qint64 soundRunUp = 1024; // samples
 static const int usualRate = 30; // frames a second, for cameras that do not know theirs
+static const int politeness = 4; // added to the nice value of what converts and encodes
 
-/// How far the chain has come, told by its bus on any of its threads.
+/// How far the pipeline has come, told by its bus and its pads on any of its threads.
 struct MovieRecorder::Progress {
-    std::mutex mutex; ///< guards ended and failed
+    std::mutex mutex; ///< guards everything up to the counts
     std::condition_variable changed;
+    std::function<void()> onFailure; ///< null once it was called, or nobody wants to know
     bool ended = false;
     bool failed = false;
+    bool encoderFailed = false;
 
+    std::atomic<int> written{0}; ///< pieces of the file
+    std::atomic<int> encoded{0}; ///< frames
+
+    /// Grows as long as anything goes on.
+    int steps() const { return written + encoded; }
+    bool waitForEnd(); ///< true when the file is whole
+    void fail(GstMessage *message);
+    void end();
     static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, gpointer shared);
 };
+
+void MovieRecorder::Progress::fail(GstMessage *message)
+{
+    GError *reason = nullptr;
+    gst_message_parse_error(message, &reason, nullptr);
+    const GlibErrorHandle error(reason);
+    const GlibString name(gst_object_get_name(GST_MESSAGE_SRC(message)));
+    qCInfo(engineLog) << "the movie ends here:" << name.get() << error->message;
+    const std::lock_guard<std::mutex> lock(mutex);
+    failed = ended = true;
+    encoderFailed = encoderFailed || GST_IS_VIDEO_ENCODER(GST_MESSAGE_SRC(message));
+    changed.notify_all();
+    if (const auto tell = std::exchange(onFailure, nullptr))
+        tell();
+}
+
+void MovieRecorder::Progress::end()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    ended = true;
+    changed.notify_all();
+}
+
+// Converting and encoding can wait a moment; the live picture and the buttons should not.
+static void workPolitely(GstMessage *message)
+{
+    GstStreamStatusType type = GST_STREAM_STATUS_TYPE_CREATE;
+    GstElement *owner = nullptr; // borrowed
+    gst_message_parse_stream_status(message, &type, &owner);
+    if (type != GST_STREAM_STATUS_TYPE_ENTER || !owner)
+        return;
+    const GlibString name(gst_element_get_name(owner));
+    if (qstrcmp(name.get(), "frames") != 0 && qstrcmp(name.get(), "converted") != 0)
+        return;
+    // Of this thread alone, and of those that an encoder starts from it.
+    const auto thread = id_t(syscall(SYS_gettid));
+    setpriority(PRIO_PROCESS, thread, getpriority(PRIO_PROCESS, thread) + politeness);
+}
 
 GstBusSyncReply MovieRecorder::Progress::onMessage(GstBus *, GstMessage *message, gpointer shared)
 {
     Progress &progress = **static_cast<std::shared_ptr<Progress> *>(shared);
-    const GstMessageType type = GST_MESSAGE_TYPE(message);
-    if (type == GST_MESSAGE_ERROR) {
-        GError *reason = nullptr;
-        gst_message_parse_error(message, &reason, nullptr);
-        const GlibErrorHandle error(reason);
-        qCInfo(engineLog) << "the movie ends here:" << error->message;
-    }
-    if (type == GST_MESSAGE_ERROR || type == GST_MESSAGE_EOS) {
-        const std::lock_guard<std::mutex> lock(progress.mutex);
-        progress.ended = true;
-        progress.failed = progress.failed || type == GST_MESSAGE_ERROR;
-        progress.changed.notify_all();
+    switch (GST_MESSAGE_TYPE(message)) {
+    case GST_MESSAGE_ERROR:
+        progress.fail(message);
+        break;
+    case GST_MESSAGE_EOS:
+        progress.end();
+        break;
+    case GST_MESSAGE_STREAM_STATUS:
+        workPolitely(message);
+        break;
+    default:
+        break;
     }
     gst_message_unref(message);
     return GST_BUS_DROP;
@@ -79,36 +143,67 @@ MovieRecorder::~MovieRecorder()
 }
 
 std::shared_ptr<MovieRecorder> MovieRecorder::start(const QString &path, const GstVideoInfo &format,
-                                                    const MovieCoding &coding)
+                                                    const MovieCoding &coding,
+                                                    std::function<void()> failed)
 {
     std::shared_ptr<MovieRecorder> recorder(new MovieRecorder(path, format));
+    recorder->m_progress->onFailure = std::move(failed);
     return recorder->build(format, coding) ? recorder : nullptr;
 }
 
-// The queue before the coder takes up what a busy machine delays; the muxer waits for the sound, so
-// there is a second one behind it, of coded frames, which are small.
+// Frames of the camera wait in front of the source; behind it there is only the one that the
+// encoder needs next. Encoded frames and sound are small: they wait for as long as a disk stands
+// still, and sound waits for no picture.
 static QByteArray description(const GstVideoInfo &format, const MovieCoding &coding)
 {
-    const QByteArray rate = QByteArray::number(rateNumerator(format)) + '/'
-        + QByteArray::number(rateDenominator(format));
     const int perSecond = rateNumerator(format) / rateDenominator(format);
-    return "appsrc name=frames format=time max-buffers=15 max-bytes=0 leaky-type=downstream"
-           " ! videoconvertscale ! video/x-raw,format=I420,width="
-        + QByteArray::number(format.width & ~1) + ",height="
-        + QByteArray::number(format.height & ~1) + " ! videorate ! video/x-raw,framerate=" + rate
-        + " ! queue max-size-buffers=0 max-size-bytes=0 max-size-time=700000000 ! " + coding.video
-        + " ! queue max-size-buffers=0 max-size-bytes=0 max-size-time=3000000000 ! muxer."
-          " appsrc name=sound format=time max-bytes=0 "
+    return "appsrc name=frames format=time max-bytes=0"
+           " ! videoconvertscale ! video/x-raw,format=I420,pixel-aspect-ratio=1/1,width="
+        + QByteArray::number((format.width / coding.divisor) & ~1)
+        + ",height=" + QByteArray::number((format.height / coding.divisor) & ~1)
+        + " ! queue name=converted max-size-buffers=1 max-size-bytes=0 max-size-time=0 ! "
+        + coding.video
+        + " ! queue name=encoded max-size-buffers=0 max-size-bytes=64000000 max-size-time=0"
+          " ! muxer. appsrc name=sound format=time max-bytes=0 "
           "caps=audio/x-raw,format=S16LE,layout=interleaved,rate="
         + QByteArray::number(SoundTrack::rate) + ",channels="
         + QByteArray::number(SoundTrack::channels) + " ! audioconvert ! " + coding.sound
-        + " ! queue max-size-buffers=0 max-size-bytes=0 max-size-time=3000000000 ! muxer."
+        + " ! queue max-size-buffers=0 max-size-bytes=0 max-size-time=0 ! muxer."
           // Room for the index of a movie of eleven minutes, one more than the longest.
           " qtmux name=muxer reserved-max-duration=660000000000"
           " reserved-moov-update-period=500000000 reserved-bytes-per-sec="
         + QByteArray::number(qMax(550, perSecond * 20))
         // Written at once: what waits in the program is lost when it is killed.
         + " ! filesink name=file async=false buffer-mode=unbuffered";
+}
+
+static GstPadProbeReturn countOne(GstPad *, GstPadProbeInfo *, gpointer count)
+{
+    ++**static_cast<std::shared_ptr<std::atomic<int>> *>(count);
+    return GST_PAD_PROBE_OK;
+}
+
+// Counts what arrives at an element, for as long as that lives.
+static void countArrivals(GstElement *pipeline, const char *element,
+                          const std::shared_ptr<std::atomic<int>> &count)
+{
+    const GstObjectHandle<GstElement> found(gst_bin_get_by_name(GST_BIN(pipeline), element));
+    const GstObjectHandle<GstPad> pad(gst_element_get_static_pad(found.get(), "sink"));
+    gst_pad_add_probe(pad.get(), GST_PAD_PROBE_TYPE_BUFFER, countOne,
+                      new std::shared_ptr<std::atomic<int>>(count), [](gpointer shared) {
+                          delete static_cast<std::shared_ptr<std::atomic<int>> *>(shared);
+                      });
+}
+
+// Hears of everything that happens in the pipeline.
+void MovieRecorder::watch()
+{
+    countArrivals(m_pipeline.get(), "encoded", {m_progress, &m_progress->encoded});
+    countArrivals(m_pipeline.get(), "file", {m_progress, &m_progress->written});
+    const GstObjectHandle<GstBus> bus(gst_element_get_bus(m_pipeline.get()));
+    gst_bus_set_sync_handler(
+        bus.get(), Progress::onMessage, new std::shared_ptr<Progress>(m_progress),
+        [](gpointer shared) { delete static_cast<std::shared_ptr<Progress> *>(shared); });
 }
 
 bool MovieRecorder::build(const GstVideoInfo &format, const MovieCoding &coding)
@@ -118,7 +213,7 @@ bool MovieRecorder::build(const GstVideoInfo &format, const MovieCoding &coding)
         description(format, coding).constData(), nullptr, GST_PARSE_FLAG_FATAL_ERRORS, &reason));
     const GlibErrorHandle error(reason);
     if (!pipeline) {
-        qCWarning(engineLog, "a movie's chain cannot be built: %s", error->message);
+        qCWarning(engineLog, "a movie's pipeline cannot be built: %s", error->message);
         return false;
     }
     m_pipeline.reset(pipeline.release(), GstObjectUnref());
@@ -131,10 +226,9 @@ bool MovieRecorder::build(const GstVideoInfo &format, const MovieCoding &coding)
     steady.fps_d = rateDenominator(format);
     const GstMiniHandle<GstCaps> caps(gst_video_info_to_caps(&steady));
     g_object_set(m_frames.get(), "caps", caps.get(), nullptr);
-    const GstObjectHandle<GstBus> bus(gst_element_get_bus(m_pipeline.get()));
-    gst_bus_set_sync_handler(
-        bus.get(), Progress::onMessage, new std::shared_ptr<Progress>(m_progress),
-        [](gpointer shared) { delete static_cast<std::shared_ptr<Progress> *>(shared); });
+    m_feed = FrameFeed::attach(GST_APP_SRC(m_frames.get()), m_pacer.timeOf(1),
+                               qint64(GST_VIDEO_INFO_SIZE(&format)));
+    watch();
     // The sink writes to whatever has the name: an older movie, or where a link leads.
     const int made = createNewFile(m_path);
     if (made < 0) {
@@ -150,10 +244,16 @@ bool MovieRecorder::build(const GstVideoInfo &format, const MovieCoding &coding)
     return m_open;
 }
 
+static qint64 systemTime()
+{
+    const GstObjectHandle<GstClock> clock(gst_system_clock_obtain());
+    return qint64(gst_clock_get_time(clock.get()));
+}
+
 void MovieRecorder::addFrame(GstBuffer *frame, GstClockTime captured)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_open)
+    if (!m_open || hasFailed())
         return;
     const bool isFirst = m_pacer.begin() < 0;
     const qint64 place = m_pacer.placeOf(qint64(captured));
@@ -163,26 +263,36 @@ void MovieRecorder::addFrame(GstBuffer *frame, GstClockTime captured)
         m_begun.notify_all();
     if (place < 0)
         return;
-    GstBuffer *placed = m_copies ? gst_buffer_copy_deep(frame) : gst_buffer_copy(frame);
-    GST_BUFFER_PTS(placed) = GstClockTime(m_pacer.timeOf(place));
-    GST_BUFFER_DTS(placed) = GST_CLOCK_TIME_NONE;
-    GST_BUFFER_DURATION(placed) = GstClockTime(m_pacer.timeOf(place + 1)) - GST_BUFFER_PTS(placed);
-    gst_app_src_push_buffer(GST_APP_SRC(m_frames.get()), placed);
+    m_newest.reset(gst_buffer_ref(frame));
+    m_newestPlace = place;
+    m_newestCaptured = qint64(captured);
+    if (m_feed->wants(place))
+        m_feed->add(place, placed(frame, place, place + 1));
 
     const qint64 end = m_pacer.timeOf(m_pacer.nextPlace());
-    m_track.coverUntil(SoundTrack::positionAt(qMax(qint64(0), end - qint64(soundDelay))));
+    m_track.coverUntil(SoundTrack::positionAt(qMax(qint64(0), end - soundDelay)));
     pushSound(SoundTrack::positionAt(end));
+}
+
+// A frame that has to wait is copied: the camera has few to go round.
+GstMiniHandle<GstBuffer> MovieRecorder::placed(GstBuffer *frame, qint64 place, qint64 end) const
+{
+    const bool copies = m_copies || !m_feed->isHungry();
+    GstMiniHandle<GstBuffer> copy(copies ? gst_buffer_copy_deep(frame) : gst_buffer_copy(frame));
+    GST_BUFFER_PTS(copy.get()) = GstClockTime(m_pacer.timeOf(place));
+    GST_BUFFER_DTS(copy.get()) = GST_CLOCK_TIME_NONE;
+    GST_BUFFER_DURATION(copy.get()) = GstClockTime(m_pacer.timeOf(end) - m_pacer.timeOf(place));
+    return copy;
 }
 
 void MovieRecorder::addSound(const char *samples, qint64 count, GstClockTime captured)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_open || m_pacer.begin() < 0)
+    if (!m_open || hasFailed() || m_pacer.begin() < 0)
         return;
     const qint64 time = qint64(captured) - m_pacer.begin();
     // A microphone without a camera is not listened to for long: the picture has stopped.
-    const qint64 limit = m_pacer.timeOf(m_pacer.nextPlace()) + 2 * qint64(GST_SECOND);
-    if (time < limit)
+    if (time < m_pacer.timeOf(m_pacer.nextPlace()) + soundAhead)
         m_track.add(samples, count, SoundTrack::positionAt(time) - soundRunUp);
 }
 
@@ -200,38 +310,112 @@ void MovieRecorder::pushSound(qint64 position)
     gst_app_src_push_buffer(GST_APP_SRC(m_sound.get()), buffer);
 }
 
-void MovieRecorder::finish(milliseconds limit)
+bool MovieRecorder::hasFailed() const
 {
-    const auto deadline = steady_clock::now() + limit;
+    const std::lock_guard<std::mutex> lock(m_progress->mutex);
+    return m_progress->failed;
+}
+
+bool MovieRecorder::encoderFailed() const
+{
+    const std::lock_guard<std::mutex> lock(m_progress->mutex);
+    return m_progress->encoderFailed;
+}
+
+// The place behind the last one: up to now, unless the camera has stopped.
+qint64 MovieRecorder::endOfMovie() const
+{
+    const qint64 shown = qMin(systemTime(), m_newestCaptured + standstill);
+    return qMax(m_pacer.nextPlace(), m_pacer.placeAt(shown));
+}
+
+// The last frame was left out, or stands for longer than a frame does: the movie ends with it all
+// the same.
+void MovieRecorder::endPicture(qint64 end)
+{
+    const qint64 kept = m_feed->newestKept();
+    if (!m_newest || kept >= end - 1) {
+        m_feed->end(-1, nullptr);
+        return;
+    }
+    const qint64 place = m_newestPlace > kept ? m_newestPlace : end - 1;
+    m_feed->end(place, placed(m_newest.get(), place, end));
+}
+
+bool MovieRecorder::finish(milliseconds limit)
+{
     std::unique_lock<std::mutex> lock(m_mutex);
     if (!m_open)
-        return;
-    m_begun.wait_for(lock, qMin(limit, firstFrameLimit), [this] { return m_pacer.begin() >= 0; });
-    const bool empty = m_pacer.begin() < 0;
+        return true;
+    const auto deadline = steady_clock::now() + limit;
+    waitPatiently(
+        qMin(deadline, steady_clock::now() + firstFrameLimit), [&](steady_clock::time_point until) {
+            return m_begun.wait_until(lock, until, [this] { return m_pacer.begin() >= 0; });
+        });
     m_open = false;
-    qCInfo(engineLog) << m_arrived << "frames came for" << m_pacer.nextPlace() << "places,"
-                      << m_leftOut << "were left out";
-    const qint64 end = SoundTrack::positionAt(m_pacer.timeOf(m_pacer.nextPlace()));
-    m_track.coverUntil(end);
-    pushSound(end);
-    lock.unlock();
-
-    gst_app_src_end_of_stream(GST_APP_SRC(m_frames.get()));
-    gst_app_src_end_of_stream(GST_APP_SRC(m_sound.get()));
-    bool complete = false;
-    {
-        std::unique_lock<std::mutex> progress(m_progress->mutex);
-        complete = m_progress->changed.wait_until(progress, deadline, [this] {
-            return m_progress->ended;
-        }) && !m_progress->failed;
+    if (m_pacer.begin() >= 0) {
+        const qint64 end = endOfMovie();
+        endPicture(end);
+        m_track.coverUntil(SoundTrack::positionAt(m_pacer.timeOf(end)));
+        pushSound(SoundTrack::positionAt(m_pacer.timeOf(end)));
+        qCInfo(engineLog) << m_arrived << "frames came for" << end << "places," << m_leftOut
+                          << "were left out by their times";
+    } else {
+        m_feed->end(-1, nullptr);
     }
-    const BoundedTask closing([pipeline = std::move(m_pipeline)] {
-        gst_element_set_state(pipeline.get(), GST_STATE_NULL);
-    });
-    if (!closing.waitUntil(qMax(deadline, steady_clock::now() + milliseconds(200))))
-        qCWarning(engineLog, "a movie's chain does not close; it is left behind");
-    if (empty)
-        QFile::remove(m_path);
-    else if (!complete)
-        qCWarning(engineLog) << "could not be completed, its last moment may miss:" << m_path;
+    m_newest.reset();
+    lock.unlock();
+    gst_app_src_end_of_stream(GST_APP_SRC(m_sound.get()));
+    {
+        const std::lock_guard<std::mutex> told(m_progress->mutex);
+        m_progress->onFailure = nullptr;
+    }
+    return complete(deadline);
+}
+
+// Waits for the end of the stream, for as long as the file grows.
+bool MovieRecorder::Progress::waitForEnd()
+{
+    std::unique_lock<std::mutex> lock(mutex);
+    int before = -1;
+    while (!ended && steps() != before) {
+        before = steps();
+        changed.wait_for(lock, abandonLimit, [this] { return ended; });
+    }
+    return ended && !failed;
+}
+
+// On the side: nothing of it may make anybody wait for ever.
+BoundedTask MovieRecorder::completing()
+{
+    m_frames.reset();
+    m_sound.reset();
+    return BoundedTask(
+        [pipeline = std::move(m_pipeline), feed = m_feed, progress = m_progress, path = m_path] {
+            const bool whole = progress->waitForEnd();
+            feed->stop();
+            gst_element_set_state(pipeline.get(), GST_STATE_NULL);
+            qCInfo(engineLog) << feed->fed() << "frames were encoded," << progress->encoded
+                              << "are in the file";
+            if (progress->encoded == 0)
+                QFile::remove(path); // no player opens a movie without a picture
+            else if (!whole)
+                qCWarning(engineLog) << "could not be completed, its last moment may miss:" << path;
+        });
+}
+
+bool MovieRecorder::complete(steady_clock::time_point deadline)
+{
+    const BoundedTask task = completing();
+    int before = -1;
+    bool done = task.waitUntil(steady_clock::now());
+    while (!done && steady_clock::now() < deadline && m_progress->steps() != before) {
+        before = m_progress->steps();
+        done = task.waitUntil(qMin(deadline, steady_clock::now() + stallLimit));
+    }
+    if (!done) {
+        qCInfo(engineLog) << "is completed on the side:" << m_path;
+        MovieCompletion::goesOnWith(task);
+    }
+    return done;
 }

@@ -2,6 +2,7 @@
 #define MOVIERECORDER_H
 
 #include "BoundedTask.h"
+#include "FrameFeed.h"
 #include "FramePacer.h"
 #include "GstHandles.h"
 #include "MovieCoding.h"
@@ -12,7 +13,9 @@
 
 #include <QString>
 
+#include <chrono>
 #include <condition_variable>
+#include <functional>
 #include <memory>
 #include <mutex>
 
@@ -22,29 +25,36 @@ GstClockTime capturedAt(GstElement *element, GstBuffer *buffer);
 /**
  * One movie being written:
  *
- *   frames ! 4:2:0 ! constant rate ! queue ! coder ! queue \
- *                                              sound ! coder ! QuickTime muxer ! file
+ *   waiting frames ! 4:2:0 ! queue ! encoder ! queue \
+ *                                   sound ! encoder ! QuickTime muxer ! file
  *
- * A chain of its own, apart from the camera's and the microphone's: whatever happens in it, a slow
- * coder, a full disk, stays in it, and the live picture goes on. Frames and sound are handed over
- * with the times at which they were captured, by one clock; the movie begins with the first frame.
- * Sound never runs ahead of the picture and is replaced by silence when it stays away.
+ * A pipeline of its own, apart from the camera's and the microphone's: whatever happens in it, a
+ * slow encoder, a full disk, stays in it, and the live picture goes on. Frames and sound are handed
+ * over with the times at which they were captured, by one clock; the movie begins with the first
+ * frame and lasts until finish(). Sound never runs ahead of the picture and is replaced by silence
+ * when it stays away.
+ *
+ * An encoder that is too slow gets fewer frames (FrameQueue); the ones before them are shown for
+ * longer. The sound stays complete, and so does the time that the movie spans.
  *
  * The file can be played at any moment: space for its index is kept at the beginning and the index
  * is brought up to date twice a second, so a movie survives a crash or a full disk but for its last
  * moment.
  *
- * States: recording from start(); failed, when the chain reports an error, or finished, after
- * finish(): what arrives then is ignored.
+ * States: recording from start(); failed, when the pipeline reports an error; finished, after
+ * finish(). What arrives then is ignored.
  *
- * Threads: addFrame() on the camera's thread, addSound() on the microphone's, all else on the GUI
- * thread. Both return at once: frames that the chain cannot take are dropped, oldest first.
+ * Threads: addFrame() on the camera's thread, addSound() on the microphone's, start() on any, all
+ * else on the GUI thread. addFrame() and addSound() return at once.
  */
 class MovieRecorder {
 public:
-    /// Begins a movie of frames like @p format in @p path. Null when the file cannot be made.
+    /// Begins a movie of frames like @p format in @p path. Null when the file cannot be made. May
+    /// hang in the driver of an encoder or of a disk. @p failed is called once, on a thread of the
+    /// pipeline's and not after finish(), when the movie cannot go on.
     static std::shared_ptr<MovieRecorder> start(const QString &path, const GstVideoInfo &format,
-                                                const MovieCoding &coding);
+                                                const MovieCoding &coding,
+                                                std::function<void()> failed = nullptr);
     ~MovieRecorder(); ///< finishes the movie
     MovieRecorder(const MovieRecorder &) = delete;
     MovieRecorder &operator=(const MovieRecorder &) = delete;
@@ -53,29 +63,45 @@ public:
     /// @p samples as SoundTrack has them.
     void addSound(const char *samples, qint64 count, GstClockTime captured);
 
-    /// Completes the file. When that takes longer than @p limit the file stays as it is, playable
-    /// up to its last moment. A movie without a single frame waits a moment for one; the file of
-    /// one that stays empty is removed. Further calls do nothing.
-    void finish(std::chrono::milliseconds limit);
+    /// Completes the file. Waits for that up to @p limit, and no longer when nothing goes on; the
+    /// file is then completed on the side, see MovieCompletion, and can be played up to its last
+    /// moment meanwhile. A movie without a single frame waits a moment for one; the file of one
+    /// that stays empty is removed. True when the file is complete. Further calls do nothing.
+    bool finish(std::chrono::milliseconds limit);
+
+    /// It was the encoder that made the movie fail, not the file.
+    bool encoderFailed() const;
 
 private:
     struct Progress;
 
-    explicit MovieRecorder(QString path, const GstVideoInfo &format);
+    MovieRecorder(QString path, const GstVideoInfo &format);
     bool build(const GstVideoInfo &format, const MovieCoding &coding);
+    void watch();
+    bool hasFailed() const;
+    GstMiniHandle<GstBuffer> placed(GstBuffer *frame, qint64 place, qint64 end) const;
     void pushSound(qint64 position);
+    qint64 endOfMovie() const;
+    void endPicture(qint64 end);
+    BoundedTask completing();
+    bool complete(std::chrono::steady_clock::time_point deadline);
 
     const QString m_path;
-    const std::shared_ptr<Progress> m_progress; ///< outlives the movie in a chain that hangs
+    const std::shared_ptr<Progress> m_progress; ///< outlives the movie in a pipeline that hangs
     std::shared_ptr<GstElement> m_pipeline;
     GstObjectHandle<GstElement> m_frames;
     GstObjectHandle<GstElement> m_sound;
-    bool m_copies; ///< frames would stay in the chain as they are, and the camera needs them back
+    std::shared_ptr<FrameFeed> m_feed;
+    /// Whether the pipeline would keep frames as they are, while the camera needs them back.
+    const bool m_copies;
 
     std::mutex m_mutex; ///< guards everything below
     std::condition_variable m_begun; ///< the first frame came
     bool m_open = false; ///< frames and sound are taken
     FramePacer m_pacer;
+    GstMiniHandle<GstBuffer> m_newest; ///< the newest frame with a place
+    qint64 m_newestPlace = -1;
+    qint64 m_newestCaptured = 0; ///< ns
     int m_arrived = 0; ///< frames
     int m_leftOut = 0; ///< of them, by the pacer
     SoundTrack m_track;

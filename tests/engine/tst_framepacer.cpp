@@ -38,6 +38,7 @@ private Q_SLOTS:
     void everyFrameOfASteadyCameraIsKept();
     void aFirstFrameThatWasHeldUpMovesTheBegin();
     void aBurstAfterADelayLosesNoFrame();
+    void aBurstAfterAGapDoesNotRunAhead();
     void aGapIsLeftAsLongAsItWas();
     void aSlightlyFastCameraLosesAFrameNowAndThen();
     void aSlightlySlowCameraSkipsAPlaceNowAndThen();
@@ -86,6 +87,16 @@ void TestFramePacer::aBurstAfterADelayLosesNoFrame()
         [](int i) { return i >= 100 && i < 105 ? 105 * period + (i - 100) : i * period; }, 300);
     for (int i = 0; i < places.size(); ++i)
         QCOMPARE(places[i], qint64(i));
+}
+
+void TestFramePacer::aBurstAfterAGapDoesNotRunAhead()
+{
+    // The machine stood still: of frames 100 to 190 the last ten come, all at once.
+    const QVector<qint64> places = placesOf(
+        [](int i) { return i < 100 ? i * period : (i < 110 ? 190 : i + 80) * period; }, 300);
+    for (int i = 100; i < places.size(); ++i)
+        QVERIFY2(places[i] <= qMax(190, i + 80) + 3, qPrintable(QString::number(places[i])));
+    QVERIFY2(qAbs(places.last() - 379) <= 1, qPrintable(QString::number(places.last())));
 }
 
 void TestFramePacer::aGapIsLeftAsLongAsItWas()

@@ -1,0 +1,52 @@
+#ifndef STANDINCAMERA_H
+#define STANDINCAMERA_H
+
+#include "FramePainter.h"
+#include "GstHandles.h"
+
+#include <gst/video/video.h>
+
+#include <QByteArray>
+#include <QThread>
+
+#include <functional>
+
+// The lab camera's picture and its beep without a lab: a thread that hands frames and sound to
+// whoever wants them, at the pace of a real camera and microphone.
+//
+// A tone of 100 ms begins with every marked frame.
+class StandInCamera : public QThread {
+    Q_OBJECT
+
+public:
+    using TakeFrame = std::function<void(GstBuffer *frame, GstClockTime captured)>;
+    using TakeSound = std::function<void(const char *samples, qint64 count, GstClockTime captured)>;
+
+    static constexpr int soundRate = 48000; // 16 bits, two channels
+
+    StandInCamera(QSize size, int rate);
+
+    const GstVideoInfo &format() const { return m_format; }
+
+    // Sends so many seconds of picture and sound, then ends; wait() for it.
+    void send(double seconds, TakeFrame takeFrame, TakeSound takeSound);
+    // How long handing a frame over took at most (ns).
+    qint64 longestCall() const { return m_longestCall; }
+
+protected:
+    void run() override;
+
+private:
+    void sendFrame(int number, GstClockTime captured);
+    void sendSound(qint64 from, qint64 count, GstClockTime captured) const;
+
+    const FramePainter m_painter;
+    const int m_rate;
+    GstVideoInfo m_format;
+    int m_frames = 0;
+    TakeFrame m_takeFrame;
+    TakeSound m_takeSound;
+    qint64 m_longestCall = 0;
+};
+
+#endif // STANDINCAMERA_H
