@@ -190,18 +190,28 @@ bool LiveVideoWidget::Record()
         return recordWithoutVideo();
     if (!m_engine.IsValidAudioDevice())
         return recordWithoutAudio();
+    if (!m_engine.IsRecording()) {
+        // Neither device is to blame, and the next try may succeed: nothing is noted.
+        WebcamUtil::WarningMessage(invalidVideoText(), this);
+        return false;
+    }
     QString stillPath = m_movieFileName;
     stillPath.replace(QLatin1String(".mov"), QLatin1String("tmp.png"));
     m_engine.SaveBitmap(stillPath); // a movie without its still picture is still a movie
     return true;
 }
 
+QString LiveVideoWidget::invalidVideoText()
+{
+    return tr("The video device is invalid. "
+              "Please confirm whether the device is correctly connected. ");
+}
+
 /// Always false, for Record() to return.
 bool LiveVideoWidget::recordWithoutVideo()
 {
     m_videoValid = false;
-    QString message = tr("The video device is invalid. "
-                         "Please confirm whether the device is correctly connected. ");
+    QString message = invalidVideoText();
     // Meant as it reads: a microphone that works is what makes the message name both devices.
     if (m_engine.IsValidAudioDevice()) {
         message = tr("The video device and the audio device are invalid. "

@@ -65,7 +65,8 @@ public:
     /**
      * Starts a movie and saves its first picture beside it. When a device is missing, says so and
      * returns false; the engine has then been told to record all the same, as it must be before
-     * it can answer for its devices.
+     * it can answer for its devices. A movie that does not begin although both devices work is
+     * refused in the words for the camera, and leaves everything as it was.
      */
     bool Record();
     void RecordStop();
@@ -101,6 +102,7 @@ private:
     void createVideoFrame();
     void createLiveLabel();
     void endBurst();
+    static QString invalidVideoText();
     bool recordWithoutVideo();
     bool recordWithoutAudio();
 

@@ -25,7 +25,8 @@ static const std::chrono::milliseconds soundCardLimit(1000);
 static const int openLimit = 4400; // ms, which leaves a moment for closing what sends nothing
 // The camera's frame is there; only the disk can make it late, and it is not given up for that.
 static const std::chrono::milliseconds stillLimit(30000);
-static const std::chrono::milliseconds quickListLimit(300); // when a movie waits for it
+static const std::chrono::milliseconds quickListLimit(200); // when a movie waits for it
+static const int soundCardMemory = 2000; // ms that a card which did not open is not asked again
 
 /// A listed camera and what opens it.
 struct Camera {
@@ -60,7 +61,8 @@ public:
     GrabThread *thread = nullptr; ///< null while there is none, or it is lost
     Camera camera;
     bool showing = false;
-    MovieMaker movie;
+    MovieMaker movie{[this] { Q_EMIT q->recordend(); }};
+    QElapsedTimer asked; ///< since the last movie was asked for
     SoundCard soundCard{[this] { movie.devicesChanged(); }}; ///< asked without a sound server only
 };
 
@@ -120,6 +122,8 @@ bool LiveVideoData::Private::open(const Camera &chosen, const QSize &size)
     camera = chosen;
     pipeline->setTap(movie.tap());
     const double rate = pipeline->mode().rate();
+    // While the camera opens there is time to find an encoder.
+    movie.prepare(pipeline->mode().size(), rate);
     thread = new GrabThread;
     connect(thread, &GrabThread::grabtrue, q, &LiveVideoData::grab);
     connect(thread, &GrabThread::deviceerr, q, &LiveVideoData::device);
@@ -231,6 +235,7 @@ void LiveVideoData::Create()
     const PatientCall call(PatientCall::longLimit);
     if (d->thread)
         return;
+    d->movie.devicesChanged();
     created = false;
     videoPresent = false;
     nativeWidth = 0;
@@ -279,6 +284,7 @@ void LiveVideoData::Release()
     created = false;
     d->showing = false;
     d->close();
+    d->movie.devicesChanged();
     if (wasOpen)
         Q_EMIT devicestop();
 }
@@ -301,11 +307,16 @@ bool LiveVideoData::SaveBitmap(QString path)
 void LiveVideoData::Record(const QString &path)
 {
     const PatientCall call;
+    d->asked.start();
     const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
-    if (!frame)
+    if (!frame) {
+        d->movie.refuse(MovieOutcome::NoCamera);
         return;
+    }
     DeviceProviders::start(quickListLimit);
-    if (!DeviceProviders::hasSoundServer() || DeviceProviders::hasMicrophone())
+    if (DeviceProviders::hasSoundServer() && !DeviceProviders::hasMicrophone())
+        d->movie.refuse(MovieOutcome::NoMicrophone);
+    else
         d->movie.record(path, frame->picture().info);
 }
 
@@ -315,10 +326,12 @@ void LiveVideoData::RecordStop()
     RecordMovie();
 }
 
+// What is asked right after Record() is asked about that: a camera or a server that changes in the
+// meantime must not make a movie that runs look like one that was refused, nor the other way round.
 bool LiveVideoData::IsValidVideoDevice()
 {
     const PatientCall call;
-    return d->thread && !d->thread->hasFailed() && d->movie.hasPicture();
+    return d->movie.outcome() == MovieOutcome::Begun || (d->thread && !d->thread->hasFailed());
 }
 
 bool LiveVideoData::IsValidAudioDevice()
@@ -326,16 +339,22 @@ bool LiveVideoData::IsValidAudioDevice()
     const PatientCall call;
     if (!gstreamerIsReady())
         return false;
+    if (d->movie.outcome() == MovieOutcome::Begun)
+        return true;
     DeviceProviders::start(listLimit);
-    if (DeviceProviders::hasSoundServer())
-        return DeviceProviders::hasMicrophone() && d->movie.hasSound();
-    return d->movie.isListening()
-        || (d->soundCard.canBeOpened(soundCardLimit) && d->movie.hasSound());
+    const bool hasServer = DeviceProviders::hasSoundServer();
+    // Nobody tells when a sound card can be opened again.
+    const bool isRefused = d->movie.outcome() == MovieOutcome::NoMicrophone
+        && (hasServer || !d->asked.hasExpired(soundCardMemory));
+    if (isRefused)
+        return false;
+    return hasServer ? DeviceProviders::hasMicrophone()
+                     : d->movie.isListening() || d->soundCard.canBeOpened(soundCardLimit);
 }
 
 bool LiveVideoData::IsRecording()
 {
-    return d->movie.isListening();
+    return d->movie.isRecording();
 }
 
 QStringList LiveVideoData::GetResoList()

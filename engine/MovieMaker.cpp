@@ -1,23 +1,90 @@
 #include "MovieMaker.h"
 
+#include "BoundedTask.h"
 #include "EngineLog.h"
+#include "MovieCompletion.h"
 #include "MovieRecorder.h"
 
+#include <QObject>
+
+#include <mutex>
+
 using std::chrono::milliseconds;
+using std::chrono::seconds;
 using std::chrono::steady_clock;
 
-static const milliseconds codingLimit(600);
+// A second each, so that no start takes more than three.
+static const milliseconds codingLimit(900);
 static const milliseconds microphoneLimit(1000);
+static const milliseconds startLimit(900);
 static const milliseconds finishLimit(4000); // and 1 s for the microphone
+static const seconds exitLimit(10);
 
-MovieMaker::MovieMaker()
+/// Brings the news of a failed movie from its pipeline's thread to the GUI's.
+class MovieMaker::Watch {
+public:
+    explicit Watch(std::function<void()> ended)
+        : m_ended(std::move(ended))
+        , m_address(std::make_shared<Address>())
+    {
+        m_address->watch = this;
+    }
+
+    ~Watch()
+    {
+        const std::lock_guard<std::mutex> lock(m_address->mutex);
+        m_address->watch = nullptr;
+    }
+
+    Q_DISABLE_COPY(Watch)
+
+    /// What the recorder of the next movie shall call. Any thread may, at any time.
+    std::function<void()> next()
+    {
+        return [address = m_address, movie = ++m_movie] {
+            const std::lock_guard<std::mutex> lock(address->mutex);
+            if (address->watch)
+                address->watch->post(movie);
+        };
+    }
+
+    void forget() { ++m_movie; } ///< the movie is over: news of it are none
+
+private:
+    /// Where the news go, which may come from a pipeline that hangs, long after.
+    struct Address {
+        std::mutex mutex; ///< guards watch
+        Watch *watch = nullptr;
+    };
+
+    void post(int movie)
+    {
+        QMetaObject::invokeMethod(
+            &m_here,
+            [this, movie] {
+                if (movie == m_movie)
+                    m_ended();
+            },
+            Qt::QueuedConnection);
+    }
+
+    const std::function<void()> m_ended;
+    const std::shared_ptr<Address> m_address;
+    int m_movie = 0; ///< number of the one that is watched
+    QObject m_here;
+};
+
+MovieMaker::MovieMaker(std::function<void()> ended)
     : m_tap(std::make_shared<FrameTap>())
+    , m_watch(std::make_unique<Watch>(std::move(ended)))
 {
 }
 
 MovieMaker::~MovieMaker()
 {
     stop();
+    if (!MovieCompletion::waitForAll(steady_clock::now() + exitLimit))
+        qCWarning(engineLog, "a movie is not completed; it can be played but for its last moment");
 }
 
 void MovieMaker::prepare(const QSize &size, double rate)
@@ -29,31 +96,55 @@ void MovieMaker::prepare(const QSize &size, double rate)
     m_search = std::make_unique<MovieCodingSearch>(size, rate);
 }
 
-MovieCoding MovieMaker::coding() const
-{
-    return m_search ? m_search->waitUntil(steady_clock::now() + codingLimit) : MovieCoding();
-}
-
 void MovieMaker::record(const QString &path, const GstVideoInfo &format)
 {
     if (m_recorder)
         return;
-    const MovieCoding found = coding();
-    m_pictureFailed = !found.isComplete();
-    if (m_pictureFailed)
-        return;
-    m_microphone = Microphone::open(microphoneLimit);
-    m_microphoneFailed = !m_microphone;
-    if (m_microphoneFailed)
-        return;
-    m_recorder = MovieRecorder::start(path, format, found);
-    m_pictureFailed = !m_recorder;
-    if (m_pictureFailed) {
+    m_outcome = begin(path, format);
+    if (m_outcome != MovieOutcome::Begun) {
+        qCInfo(engineLog) << "no movie begins, outcome" << int(m_outcome);
+        m_watch->forget();
         m_microphone.reset();
-        return;
+        m_recorder.reset();
     }
+}
+
+void MovieMaker::refuse(MovieOutcome why)
+{
+    if (!m_recorder)
+        m_outcome = why;
+}
+
+// An encoder's driver and a disk may hang: a movie that begins too late is ended by its last owner,
+// and its file goes with it.
+static std::shared_ptr<MovieRecorder> startWithin(milliseconds limit, const QString &path,
+                                                  const GstVideoInfo &format,
+                                                  const MovieCoding &coding,
+                                                  const std::function<void()> &failed)
+{
+    const auto started = std::make_shared<std::shared_ptr<MovieRecorder>>();
+    const BoundedTask starting([started, path, format, coding, failed] {
+        *started = MovieRecorder::start(path, format, coding, failed);
+    });
+    return starting.waitUntil(steady_clock::now() + limit) ? *started : nullptr;
+}
+
+MovieOutcome MovieMaker::begin(const QString &path, const GstVideoInfo &format)
+{
+    const MovieCoding coding =
+        m_search ? m_search->waitUntil(steady_clock::now() + codingLimit) : MovieCoding();
+    if (!coding.isComplete())
+        return MovieOutcome::NoEncoder;
+    m_microphone = Microphone::open(microphoneLimit);
+    if (!m_microphone)
+        return MovieOutcome::NoMicrophone;
+    m_recorder = startWithin(startLimit, path, format, coding, m_watch->next());
+    if (!m_recorder)
+        return MovieOutcome::NoFile;
+    m_encoder = coding.video;
     m_microphone->record(m_recorder);
     m_tap->record(m_recorder);
+    return MovieOutcome::Begun;
 }
 
 void MovieMaker::stop()
@@ -61,27 +152,16 @@ void MovieMaker::stop()
     if (!m_recorder)
         return;
     m_recorder->finish(finishLimit);
+    m_watch->forget();
+    if (m_recorder->encoderFailed())
+        m_search->reject(m_encoder);
     m_tap->record(nullptr);
     m_microphone.reset();
     m_recorder.reset();
-}
-
-bool MovieMaker::hasPicture() const
-{
-    return !m_pictureFailed && coding().isComplete();
-}
-
-bool MovieMaker::hasSound() const
-{
-    return !m_microphoneFailed;
-}
-
-bool MovieMaker::isListening() const
-{
-    return m_microphone != nullptr;
+    m_outcome = MovieOutcome::None;
 }
 
 void MovieMaker::devicesChanged()
 {
-    m_microphoneFailed = false;
+    m_outcome = MovieOutcome::None;
 }

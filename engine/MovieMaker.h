@@ -10,51 +10,71 @@
 #include <QSize>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
+/// How the last attempt to begin a movie ended.
+enum class MovieOutcome {
+    None, ///< there was none, or something has changed since
+    Begun,
+    NoCamera,
+    NoMicrophone,
+    NoEncoder, ///< for the picture or the sound
+    NoFile, ///< it cannot be made, or encoder or disk did not begin in time
+};
+
 /**
- * The movies of one engine: knows before a movie begins whether one can be made, and brings camera,
+ * The movies of one engine: finds out how they can be written before one begins, and brings camera,
  * microphone and file together while one is recorded.
  *
  * GUI thread only; nothing blocks without a limit.
  */
 class MovieMaker {
 public:
-    MovieMaker();
-    ~MovieMaker(); ///< completes a movie that is being recorded
+    /// @p ended is called on the GUI thread when a movie that is being recorded cannot go on, once
+    /// for each such movie and never from within an operation.
+    explicit MovieMaker(std::function<void()> ended);
+    /// Completes a movie that is being recorded, and waits a while for files that are still being
+    /// completed.
+    ~MovieMaker();
     MovieMaker(const MovieMaker &) = delete;
     MovieMaker &operator=(const MovieMaker &) = delete;
 
     /// For the chain of the next camera.
     std::shared_ptr<FrameTap> tap() const { return m_tap; }
 
-    /// A camera was opened: looks for a way to write its movies, on the side. What was found for a
+    /// A camera is opened: looks for a way to write its movies, on the side. What was found for a
     /// size (px) and rate (frames a second) holds as long as they do.
     void prepare(const QSize &size, double rate);
 
-    /// Begins a movie of frames like @p format, unless one is being recorded. Does nothing when
-    /// there is no way to write it or no microphone; leaves within 1.6 s.
+    /// Begins a movie of frames like @p format within 3 s, unless one is being recorded. Leaves no
+    /// file when it does not begin.
     void record(const QString &path, const GstVideoInfo &format);
+    /// A movie was asked for that cannot begin without having been tried.
+    void refuse(MovieOutcome why);
 
-    /// Completes the movie, within 5 s.
+    /// Completes the movie. Waits for it for 5 s at most; then it is completed on the side.
     void stop();
 
-    bool hasPicture() const; ///< frames can be written; false after a movie that could not begin
-    bool hasSound() const; ///< false after a microphone could not be opened
-    bool isListening() const; ///< a microphone is open
+    MovieOutcome outcome() const { return m_outcome; }
+    bool isRecording() const { return m_recorder != nullptr; }
+    bool isListening() const { return m_microphone != nullptr; }
     void devicesChanged(); ///< what could not be opened may work now
 
 private:
-    MovieCoding coding() const;
+    class Watch;
+
+    MovieOutcome begin(const QString &path, const GstVideoInfo &format);
 
     const std::shared_ptr<FrameTap> m_tap;
     std::unique_ptr<MovieCodingSearch> m_search; ///< null until the first camera
     QSize m_searchedSize;
     double m_searchedRate = 0;
+    const std::unique_ptr<Watch> m_watch;
     std::shared_ptr<MovieRecorder> m_recorder; ///< null while no movie is recorded
     std::unique_ptr<Microphone> m_microphone; ///< likewise
-    bool m_pictureFailed = false; ///< no coder was known in time, or no file could be made
-    bool m_microphoneFailed = false;
+    QByteArray m_encoder; ///< of the picture of the last movie
+    MovieOutcome m_outcome = MovieOutcome::None;
 };
 
 #endif

@@ -19,8 +19,9 @@ class QWidget;
  * Every operation is called on the GUI thread, in any state and in any order; none throws. One that
  * waits for a camera or a server shows the wait cursor after 0.3 s, keeps the windows painted and
  * handles no event meanwhile. It returns within 3 s, whatever the camera or the server does;
- * opening a camera and ending a movie may take 5 s. The very first call in a session may take
- * longer while GStreamer indexes its plug-ins.
+ * opening a camera and ending a movie may take 5 s, and the engine's end waits 10 s more for a movie
+ * that is still being completed. The very first call in a session may take longer while GStreamer
+ * indexes its plug-ins.
  *
  * What an operation does in which state ("-" is nothing at all):
  *
@@ -38,7 +39,7 @@ class QWidget;
  *   Record                -                  begins a movie     begins a movie     -
  *   RecordStop            -                  ends the movie     ends the movie     -
  *   IsRecording           false              a movie began?     a movie began?     false
- *   IsValidVideoDevice    false              movies possible?   movies possible?   false
+ *   IsValidVideoDevice    false              works?             works?             false
  *   IsValidAudioDevice    microphone?        microphone?        microphone?        microphone?
  *   GetResoList           empty              the camera's      the camera's       empty
  *   SetResolution         -                  reopens           reopens, shows on  -
@@ -95,21 +96,27 @@ public:
     /// format is unknown or the file cannot be written. A slow disk is waited for, for up to 30 s.
     bool SaveBitmap(QString path);
 
-    /// Begins a movie with sound in @p path. Leaves no file when the camera, the microphone or a
-    /// coder is missing; ask the two queries below. Does nothing while a movie is recorded.
+    /// Begins a movie with sound in @p path. Leaves no file when the camera, the microphone or an
+    /// encoder is missing; ask the queries below. Does nothing while a movie is recorded.
     void Record(const QString &path);
 
-    /// Completes the movie, which can then be played at once. When the disk is too slow for that
-    /// the file stays as it is, playable but for its last moment.
+    /// Completes the movie, which can then be played at once. When encoder or disk are too slow for
+    /// that, the file is completed in the background; it can be played up to its last moment
+    /// meanwhile. A movie that never had a picture leaves no file.
     void RecordStop();
 
-    /// The camera is open, movies of it can be coded, and the last one asked for could begin.
+    // Right after Record() the three answers below are about that: they say whether the movie
+    // began and which device it was that was missing, until the next Record(), Create() or
+    // Release(), or until devices change. When both are valid and there is still no recording,
+    // there is no encoder or the file cannot be made; nothing of such a movie is left.
+
+    /// The camera is open and works.
     bool IsValidVideoDevice();
     /// A sound source that is no loudspeaker's monitor is there, and opened when last asked to. On
     /// a machine without a sound server it is the sound system's own, and must be free.
     bool IsValidAudioDevice();
 
-    /// A movie is being recorded. Right after Record(): whether it began.
+    /// A movie is being recorded, also one that cannot go on until RecordStop() has completed it.
     bool IsRecording();
 
     /// The sizes the open camera can deliver, "1280x720", largest first.

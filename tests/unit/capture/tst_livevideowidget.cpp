@@ -96,6 +96,7 @@ private Q_SLOTS:
     void aRecordingNeedsNoStillPicture();
     void aRecordingWithAMissingDeviceSaysWhich_data();
     void aRecordingWithAMissingDeviceSaysWhich();
+    void aRecordingThatDoesNotBeginIsRefusedAndLeavesNothing();
     void recordStopFinishesTheMovie();
     void theMicrophoneIsPresentWhenNothingSpeaksAgainstIt_data();
     void theMicrophoneIsPresentWhenNothingSpeaksAgainstIt();
@@ -411,7 +412,7 @@ void LiveVideoWidgetTest::aRecordingLeavesAMovieAndItsStillPicture()
     QVERIFY(!QImage(still).isNull());
     QCOMPARE(FakeEngine::script().calls,
              (QStringList{"Record(" + movie + ')', "IsValidVideoDevice()", "IsValidAudioDevice()",
-                          "SaveBitmap(" + still + ')'}));
+                          "IsRecording()", "SaveBitmap(" + still + ')'}));
 }
 
 void LiveVideoWidgetTest::aRecordingNeedsNoStillPicture()
@@ -463,6 +464,27 @@ void LiveVideoWidgetTest::aRecordingWithAMissingDeviceSaysWhich()
     QCOMPARE(callsOf("Record"), QStringList{"Record(" + widget.movieFileName() + ')'});
     QCOMPARE(FakeEngine::callCount("RecordStop"), 0);
     QCOMPARE(FakeEngine::callCount("SaveBitmap"), 0);
+}
+
+void LiveVideoWidgetTest::aRecordingThatDoesNotBeginIsRefusedAndLeavesNothing()
+{
+    FakeEngine::script().movieBegins = false;
+    MessageReader reader;
+    LiveVideoWidget widget;
+    widget.Create();
+    QVERIFY(!widget.Record());
+    QCOMPARE(reader.texts(),
+             QStringList{"The video device is invalid. "
+                         "Please confirm whether the device is correctly connected. "});
+    QCOMPARE(reader.messages().constFirst().icon, QMessageBox::Warning);
+    QVERIFY(widget.isVideoValid());
+    QVERIFY(widget.isAudioValid());
+    QCOMPARE(FakeEngine::callCount("SaveBitmap"), 0);
+    QCOMPARE(FakeEngine::callCount("RecordStop"), 0);
+
+    FakeEngine::script().movieBegins = true;
+    QVERIFY(widget.Record());
+    QCOMPARE(reader.texts().size(), 1);
 }
 
 void LiveVideoWidgetTest::recordStopFinishesTheMovie()
