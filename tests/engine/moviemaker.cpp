@@ -2,7 +2,7 @@
 //
 //   moviemaker CAMERA PATH   records until its input ends, then says what the stop took in ms
 //
-// Says "recording" as soon as it does.
+// Says "recording" as soon as it does, and "ended" when the movie cannot go on.
 
 #include "LiveVideoData.h"
 
@@ -13,6 +13,12 @@
 #include <cstdio>
 #include <unistd.h>
 
+static void say(const char *word)
+{
+    std::printf("%s\n", word);
+    std::fflush(stdout);
+}
+
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
@@ -20,15 +26,13 @@ int main(int argc, char *argv[])
     LiveVideoData engine;
     engine.SetVideoDevice(engine.GetVideoDeviceList().indexOf(arguments.value(1)));
     engine.Create();
-    // Each question waits a moment for the coder, which slow machines need some time to find.
-    for (int i = 0; i < 20 && !engine.IsValidVideoDevice(); ++i) { }
+    QObject::connect(&engine, &LiveVideoData::recordend, &application, [] { say("ended"); });
     engine.Record(arguments.value(2));
-    if (!engine.created || !engine.IsValidVideoDevice() || !engine.IsValidAudioDevice()) {
+    if (!engine.IsRecording()) {
         std::fprintf(stderr, "moviemaker: cannot record\n");
         return 1;
     }
-    std::printf("recording\n");
-    std::fflush(stdout);
+    say("recording");
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
     QObject::connect(&input, &QSocketNotifier::activated, &application, &QApplication::quit);
     QApplication::exec();

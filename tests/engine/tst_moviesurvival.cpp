@@ -1,83 +1,25 @@
 #include "LabCommands.h"
 #include "MovieFile.h"
 #include "MovieProbe.h"
+#include "Recording.h"
+#include "SmallDisk.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
-#include <QStorageInfo>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QVector>
 
 #include <phonon/mediaobject.h>
 #include <phonon/videoplayer.h>
 
 #include <memory>
-#include <sys/mount.h>
 #include <vector>
 
 namespace {
 
 constexpr int patience = 10000; // ms
-
-/// Another program, which records a movie until it is ended in some way.
-class Recording {
-public:
-    explicit Recording(const QString &path, const QString &launcher = QString())
-        : m_path(path)
-    {
-        QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process, [this] {
-            if (m_process.readAllStandardOutput().startsWith("recording"))
-                begin();
-        });
-        const QStringList command{QStringLiteral(MOVIEMAKER), QStringLiteral("beeper"), path};
-        if (launcher.isEmpty())
-            m_process.start(command.first(), command.mid(1));
-        else
-            m_process.start(QStringLiteral("sh"),
-                            QStringList{QStringLiteral("-c"), launcher, QStringLiteral("sh")}
-                                + command);
-    }
-
-    /// Kills it as soon as the movie is @p moment ms old.
-    void killAt(int moment) { m_moment = moment; }
-
-    QString path() const { return m_path; }
-    bool hasBegun() const { return m_begun; }
-    bool isRunning() const { return m_process.state() == QProcess::Running; }
-    bool hasEnded() const { return m_begun && m_process.state() == QProcess::NotRunning; }
-    /// In seconds, how old the movie was when it was killed.
-    double length() const { return m_length; }
-
-    bool stop()
-    {
-        m_process.closeWriteChannel();
-        return m_process.waitForFinished(patience) && m_process.exitCode() == 0;
-    }
-
-private:
-    void begin()
-    {
-        m_begun = true;
-        if (m_moment <= 0)
-            return;
-        m_timer.start();
-        QTimer::singleShot(m_moment, Qt::PreciseTimer, &m_process, [this] {
-            m_length = double(m_timer.elapsed()) / 1000;
-            m_process.kill();
-        });
-    }
-
-    const QString m_path;
-    QProcess m_process;
-    bool m_begun = false;
-    int m_moment = 0; ///< ms
-    QElapsedTimer m_timer;
-    double m_length = 0;
-};
 
 } // namespace
 
@@ -87,11 +29,11 @@ class TestMovieSurvival : public QObject {
 
 private Q_SLOTS:
     void initTestCase();
-    void cleanupTestCase();
     void aKilledProgramLeavesAMovie_data();
     void aKilledProgramLeavesAMovie();
     void aFullDiskEndsTheMovieAndLeavesItPlayable();
     void aFileThatMayNotGrowIsPlayable();
+    void aMovieOfAProgramThatStoodStillSpansTheWholeTime();
 
 private:
     QString newPath();
@@ -108,11 +50,6 @@ void TestMovieSurvival::initTestCase()
     qputenv("PHONON_GST_VIDEOMODE", "software");
     QVERIFY2(!qEnvironmentVariableIsEmpty("ORVANTA_LAB"), "this test must be run by tests/lab/lab");
     QVERIFY(labctl({"plug", "beeper", "1280x720", "--beep", "micfeed"}));
-}
-
-void TestMovieSurvival::cleanupTestCase()
-{
-    umount2(QFile::encodeName(m_folder.filePath("small")).constData(), MNT_DETACH);
 }
 
 QString TestMovieSurvival::newPath()
@@ -146,7 +83,9 @@ void TestMovieSurvival::verifyEveryPlayerTakes(const QString &path, double from,
     QCOMPARE(probe.soundCodec(), QString("aac"));
     QVERIFY2(probe.duration() >= from && probe.duration() <= to,
              qPrintable(QString::number(probe.duration())));
-    QVERIFY2(qAbs(probe.frames() - probe.videoDuration() * 30) <= 2,
+    // A busy machine leaves some out.
+    QVERIFY2(probe.frames() <= probe.videoDuration() * 30 + 2
+                 && probe.frames() >= probe.videoDuration() * 5,
              qPrintable(QString::number(probe.frames())));
 }
 
@@ -165,7 +104,7 @@ void TestMovieSurvival::aKilledProgramLeavesAMovie()
     QFETCH(QVector<int>, moments);
     std::vector<std::unique_ptr<Recording>> recordings;
     for (const int moment : qAsConst(moments)) {
-        recordings.push_back(std::make_unique<Recording>(newPath()));
+        recordings.push_back(std::make_unique<Recording>("beeper", newPath()));
         recordings.back()->killAt(moment);
     }
     for (const auto &recording : recordings) {
@@ -197,21 +136,21 @@ bool TestMovieSurvival::hasStoppedGrowing(const QString &path)
 
 void TestMovieSurvival::aFullDiskEndsTheMovieAndLeavesItPlayable()
 {
-    // Only the administrator can make a small disk; for others the next test alone must do.
-    const QString disk = m_folder.filePath("small");
-    QVERIFY(QDir().mkpath(disk));
-    if (mount("none", QFile::encodeName(disk).constData(), "tmpfs", 0, "size=64k") != 0)
-        QSKIP("a small disk can be made by root only");
-    const QString path = disk + "/movie.mov";
-    Recording recording(path);
+    SmallDisk disk(m_folder.filePath("small"), 64);
+    QVERIFY2(disk.isThere(), "no small disk can be made here, not even in a name space of its own");
+    Recording recording("beeper", disk.path() + "/movie.mov", disk.entrance());
     QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
-    QVERIFY(hasStoppedGrowing(path));
-    QCOMPARE(QStorageInfo(disk).bytesAvailable(), qint64(0));
+    QVERIFY(hasStoppedGrowing(disk.seenFromOutside() + "/movie.mov"));
+    QCOMPARE(disk.bytesAvailable(), qint64(0));
     QVERIFY2(recording.isRunning(), "the camera must go on when the disk is full");
+    QTRY_COMPARE(recording.failures(), 1);
     QVERIFY(recording.stop());
+    QCOMPARE(recording.failures(), 1);
+    const QString path = newPath();
+    QVERIFY(QFile::copy(disk.seenFromOutside() + "/movie.mov", path));
     playAndSeek(path, 1, 8);
     verifyEveryPlayerTakes(path, 1, 8);
-    QVERIFY(MovieFile(path).frames().size() > 25);
+    QVERIFY(MovieFile(path).frames().size() > 10);
 }
 
 void TestMovieSurvival::aFileThatMayNotGrowIsPlayable()
@@ -219,14 +158,44 @@ void TestMovieSurvival::aFileThatMayNotGrowIsPlayable()
     const QString path = newPath();
     // A write beyond the limit fails; the signal that comes with it would end the program. In
     // blocks of 512 bytes; the index takes 3100 of them.
-    Recording recording(path, "trap '' XFSZ; ulimit -f 3200; exec \"$@\"");
+    Recording recording("beeper", path,
+                        {"sh", "-c", "trap '' XFSZ; ulimit -f 3200; exec \"$@\"", "sh"});
     QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
     QVERIFY(hasStoppedGrowing(path));
     QCOMPARE(QFileInfo(path).size(), qint64(3200 * 512));
     QVERIFY2(recording.isRunning(), "the camera must go on when the file is full");
+    QTRY_COMPARE(recording.failures(), 1);
     QVERIFY(recording.stop());
+    QCOMPARE(recording.failures(), 1);
     playAndSeek(path, 1, 8);
     verifyEveryPlayerTakes(path, 1, 8);
+}
+
+void TestMovieSurvival::aMovieOfAProgramThatStoodStillSpansTheWholeTime()
+{
+    Recording recording("beeper", newPath());
+    QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
+    QTest::qWait(1500);
+    recording.halt();
+    QTest::qWait(3000);
+    recording.goOn();
+    QTest::qWait(2500);
+    const double length = recording.age();
+    QVERIFY(recording.stop());
+    QCOMPARE(recording.failures(), 0);
+    verifyEveryPlayerTakes(recording.path(), length - 0.4, length + 0.2);
+    const MovieFile movie(recording.path());
+    QVERIFY2(qAbs(movie.soundDuration() - movie.duration()) < 0.1,
+             qPrintable(QString::number(movie.soundDuration())));
+    // There are pictures from both sides of the gap.
+    const QVector<MovieFile::Frame> &frames = movie.frames();
+    QVERIFY(frames.first().time < 0.3 && frames.last().time > length - 1);
+    const int missed = frames.last().counter - frames.first().counter + 1 - frames.size();
+    QVERIFY2(missed > 60, "the program did not stand still");
+    // Shown when it was taken, by the camera's own count.
+    const double taken = (frames.last().counter - frames.first().counter) / 30.0;
+    QVERIFY2(qAbs(frames.last().time - frames.first().time - taken) < 0.3,
+             qPrintable(QString::number(taken)));
 }
 
 QTEST_MAIN(TestMovieSurvival)

@@ -1,0 +1,121 @@
+#include "LabCommands.h"
+#include "LabPattern.h"
+#include "MovieFile.h"
+#include "MovieProbe.h"
+#include "Recording.h"
+
+#include <QSize>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+// Movies of a program that the machine lets run for a part of the time only.
+class TestMovieThrottle : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+    void theMovieSpansTheWholeTime_data();
+    void theMovieSpansTheWholeTime();
+
+private:
+    void verifySound(const MovieFile &movie, int rate) const;
+    void verifyFrames(const MovieFile &movie, int rate) const;
+
+    QTemporaryDir m_folder;
+};
+
+static const int patience = 30000; // ms
+static const int length = 6000; // ms
+
+void TestMovieThrottle::initTestCase()
+{
+    QVERIFY2(!qEnvironmentVariableIsEmpty("ORVANTA_LAB"), "this test must be run by tests/lab/lab");
+}
+
+void TestMovieThrottle::cleanup()
+{
+    QVERIFY(labctl({"unplug", "beeper"}));
+}
+
+void TestMovieThrottle::theMovieSpansTheWholeTime_data()
+{
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<int>("rate");
+    QTest::addColumn<int>("percent"); // of the time
+    for (const char *size : {"640x480", "1920x1080"})
+        for (const int percent : {10, 25, 50})
+            QTest::addRow("%s, %d %%", size, percent) << size << 30 << percent;
+    QTest::newRow("60 frames a second, 25 %") << "640x480" << 60 << 25;
+}
+
+// Every tone is there and none is elsewhere; the last may be cut. A microphone that the sound
+// server could not serve in time may crackle, which makes two tones of one.
+void TestMovieThrottle::verifySound(const MovieFile &movie, int rate) const
+{
+    QVERIFY2(qAbs(movie.soundDuration() - movie.duration()) < 0.1,
+             qPrintable(QString::number(movie.soundDuration())));
+    const double beat = double(LabPattern::beatFrames) / rate;
+    QVector<double> tones;
+    for (const double tone : movie.tones())
+        if (tones.isEmpty() || tone - tones.last() > 0.3)
+            tones.append(tone);
+    const int whole = int(movie.duration() / beat);
+    QVERIFY2(tones.size() >= whole - 1 && tones.size() <= whole + 1,
+             qPrintable(QString::number(tones.size())));
+    for (int i = 1; i < tones.size(); ++i)
+        QVERIFY2(qAbs(tones[i] - tones[i - 1] - beat) < 0.15,
+                 qPrintable(QString::number(tones[i] - tones[i - 1])));
+    QVERIFY2(movie.loudness() > 0.5 * 0.1 / beat, qPrintable(QString::number(movie.loudness())));
+}
+
+void TestMovieThrottle::verifyFrames(const MovieFile &movie, int rate) const
+{
+    const QVector<MovieFile::Frame> &frames = movie.frames();
+    QVERIFY(!movie.counters().contains(-1));
+    QVERIFY(frames.size() >= 5);
+    double longest = movie.duration() - frames.last().time;
+    double latest = -1;
+    double earliest = 1000;
+    for (int i = 0; i < frames.size(); ++i) {
+        const double delay = frames[i].time - double(frames[i].counter) / rate;
+        latest = qMax(latest, delay);
+        earliest = qMin(earliest, delay);
+        if (i > 0)
+            longest = qMax(longest, frames[i].time - frames[i - 1].time);
+    }
+    const double usual = movie.duration() / frames.size();
+    qInfo("%d frames in %.2f s, one every %.0f ms, %.0f ms at most; delays differ by %.0f ms",
+          int(frames.size()), movie.duration(), usual * 1000, longest * 1000,
+          (latest - earliest) * 1000);
+    QVERIFY2(longest < 4 * usual + 0.2, qPrintable(QString::number(longest)));
+}
+
+void TestMovieThrottle::theMovieSpansTheWholeTime()
+{
+    QFETCH(QString, size);
+    QFETCH(int, rate);
+    QFETCH(int, percent);
+    QVERIFY(labctl({"plug", "beeper", size, "--rate", QString::number(rate), "--beep", "micfeed"}));
+    Recording recording("beeper", m_folder.filePath("movie.mov"));
+    QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
+    recording.throttle(percent);
+    QTest::qWait(length);
+    const double age = recording.age();
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(recording.stop());
+    qInfo("recorded for %.2f s, the end of the program took %lld ms", age, timer.elapsed());
+    const MovieProbe probe(recording.path());
+    QCOMPARE(probe.complaints(), QString());
+    QVERIFY2(probe.duration() > age - 0.4 && probe.duration() < age + 0.4,
+             qPrintable(QStringLiteral("%1 of %2").arg(probe.duration()).arg(age)));
+    const MovieFile movie(recording.path());
+    verifySound(movie, rate);
+    verifyFrames(movie, rate);
+}
+
+QTEST_MAIN(TestMovieThrottle)
+#include "tst_moviethrottle.moc"
