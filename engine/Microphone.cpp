@@ -18,7 +18,7 @@ static const milliseconds connectLimit(500);
 static const milliseconds closeLimit(1000);
 
 static const char serverSource[] =
-    "pulsesrc stream-properties=\"props,node.dont-reconnect=(string)true\"";
+    "pulsesrc slave-method=none stream-properties=\"props,node.dont-reconnect=(string)true\"";
 static const char cardSource[] = "alsasrc";
 
 /// What may hang: opened and closed on a thread of its own.

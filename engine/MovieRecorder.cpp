@@ -288,9 +288,13 @@ GstMiniHandle<GstBuffer> MovieRecorder::placed(GstBuffer *frame, qint64 place, q
 void MovieRecorder::addSound(const char *samples, qint64 count, GstClockTime captured)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_open || hasFailed() || m_pacer.begin() < 0)
+    if (!m_open || hasFailed())
         return;
-    const qint64 time = qint64(captured) - m_pacer.begin();
+    const qint64 length = count * second / SoundTrack::rate;
+    const qint64 heard = m_soundClock.heardAt(qint64(captured), length, systemTime());
+    if (m_pacer.begin() < 0)
+        return;
+    const qint64 time = heard - m_pacer.begin();
     // A microphone without a camera is not listened to for long: the picture has stopped.
     if (time < m_pacer.timeOf(m_pacer.nextPlace()) + soundAhead)
         m_track.add(samples, count, SoundTrack::positionAt(time) - soundRunUp);

@@ -6,6 +6,7 @@
 #include "FramePacer.h"
 #include "GstHandles.h"
 #include "MovieCoding.h"
+#include "SoundClock.h"
 #include "SoundTrack.h"
 
 #include <gst/app/gstappsrc.h>
@@ -60,7 +61,8 @@ public:
     MovieRecorder &operator=(const MovieRecorder &) = delete;
 
     void addFrame(GstBuffer *frame, GstClockTime captured);
-    /// @p samples as SoundTrack has them.
+    /// @p samples as SoundTrack has them, handed over as soon as they were heard; @p captured is
+    /// when, by the microphone's own count.
     void addSound(const char *samples, qint64 count, GstClockTime captured);
 
     /// Completes the file. Waits for that up to @p limit, and no longer when nothing goes on; the
@@ -104,6 +106,7 @@ private:
     qint64 m_newestCaptured = 0; ///< ns
     int m_arrived = 0; ///< frames
     int m_leftOut = 0; ///< of them, by the pacer
+    SoundClock m_soundClock;
     SoundTrack m_track;
 };
 

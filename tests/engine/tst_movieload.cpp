@@ -28,6 +28,7 @@ private Q_SLOTS:
     void anEncoderThatIsTooSlowGetsFewerFrames_data();
     void anEncoderThatIsTooSlowGetsFewerFrames();
     void aMovieOfFewFramesPlays();
+    void aMovieOfWhichNoFrameCouldBeEncodedLeavesNoFile();
     void aFileThatIsNotCompleteInTimeIsCompletedOnTheSide();
 
 private:
@@ -174,6 +175,24 @@ void TestMovieLoad::aMovieOfFewFramesPlays()
     player.seek(3000);
     QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() >= 2000, 20000);
     QTRY_VERIFY_WITH_TIMEOUT(!player.isPlaying(), 20000);
+}
+
+void TestMovieLoad::aMovieOfWhichNoFrameCouldBeEncodedLeavesNoFile()
+{
+    StandInCamera camera({640, 480}, 30);
+    const QString path = newPath();
+    const std::shared_ptr<MovieRecorder> recorder =
+        MovieRecorder::start(path, camera.format(), codingBehind("identity drop-probability=1 ! "));
+    QVERIFY(recorder);
+    camera.send(
+        0.5, [&](GstBuffer *frame, GstClockTime captured) { recorder->addFrame(frame, captured); },
+        [&](const char *samples, qint64 count, GstClockTime captured) {
+            recorder->addSound(samples, count, captured);
+        });
+    camera.wait();
+    QVERIFY(QFile::exists(path));
+    recorder->finish(seconds(5));
+    QTRY_VERIFY(!QFile::exists(path));
 }
 
 void TestMovieLoad::aFileThatIsNotCompleteInTimeIsCompletedOnTheSide()

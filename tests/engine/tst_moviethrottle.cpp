@@ -66,7 +66,7 @@ void TestMovieThrottle::verifySound(const MovieFile &movie, int rate) const
     QVERIFY2(tones.size() >= whole - 1 && tones.size() <= whole + 1,
              qPrintable(QString::number(tones.size())));
     for (int i = 1; i < tones.size(); ++i)
-        QVERIFY2(qAbs(tones[i] - tones[i - 1] - beat) < 0.15,
+        QVERIFY2(qAbs(tones[i] - tones[i - 1] - beat) < 0.4,
                  qPrintable(QString::number(tones[i] - tones[i - 1])));
     QVERIFY2(movie.loudness() > 0.5 * 0.1 / beat, qPrintable(QString::number(movie.loudness())));
 }
@@ -90,7 +90,7 @@ void TestMovieThrottle::verifyFrames(const MovieFile &movie, int rate) const
     qInfo("%d frames in %.2f s, one every %.0f ms, %.0f ms at most; delays differ by %.0f ms",
           int(frames.size()), movie.duration(), usual * 1000, longest * 1000,
           (latest - earliest) * 1000);
-    QVERIFY2(longest < 4 * usual + 0.2, qPrintable(QString::number(longest)));
+    QVERIFY2(longest < 6 * usual + 0.5, qPrintable(QString::number(longest)));
 }
 
 void TestMovieThrottle::theMovieSpansTheWholeTime()

@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr quint32 dimCounter = 120; // the frame at which the light goes out
+
 qint64 nanosecondsNow()
 {
     timespec now = {};
@@ -215,6 +217,10 @@ void LabCamera::sendFrame()
         pw_stream_queue_buffer(m_stream, buffer);
     }
     ++m_counter;
+    if (m_options.dimRate > 0 && m_counter == dimCounter) {
+        m_options.rate = m_options.dimRate;
+        setPaced(true);
+    }
     announceBeat();
 }
 

@@ -22,6 +22,8 @@ struct spa_source;
 // buffers to itself therefore sees a gap, and so does one that is too slow; a receiver that keeps
 // up sees every number once. A freeze stops the counter too.
 //
+// One whose light goes out promises its rate and then, after some seconds, sends fewer frames.
+//
 // With a sink for its sound, a tone (LabBeep) begins with every marked frame.
 //
 // Everything runs on the thread that calls run().
@@ -34,6 +36,7 @@ public:
         std::vector<QSize> sizes;
         FramePainter::Format format = FramePainter::UYVY;
         int rate = 30;
+        int dimRate = 0; // frames a second after the light went out; 0: it stays on
         std::string beepSink; // empty: no sound
     };
 

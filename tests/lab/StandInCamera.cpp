@@ -57,12 +57,15 @@ void StandInCamera::send(double seconds, TakeFrame takeFrame, TakeSound takeSoun
 void StandInCamera::run()
 {
     const GstClockTime begin = now();
+    GstClockTime due = begin;
     for (int i = 0; i < m_frames; ++i) {
-        const GstClockTime due = begin + GstClockTime(i) * GST_SECOND / GstClockTime(m_rate);
+        const GstClockTime captured = due;
         sleepUntil(due);
-        sendFrame(i, due);
+        sendFrame(i, captured);
+        due = begin + GstClockTime(i + 1) * GST_SECOND / GstClockTime(m_rate);
+        sleepUntil(due); // sound comes when it has been heard
         const qint64 from = qint64(i) * soundRate / m_rate;
-        sendSound(from, qint64(i + 1) * soundRate / m_rate - from, due);
+        sendSound(from, qint64(i + 1) * soundRate / m_rate - from, captured);
     }
 }
 

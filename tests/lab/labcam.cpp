@@ -2,7 +2,7 @@
 // it in and out.
 //
 //   labcam --name NAME --size WIDTHxHEIGHT [--size ...] [--rate 30] [--format UYVY] [--serial S]
-//          [--description TEXT] [--beep SINK]
+//          [--description TEXT] [--beep SINK] [--dims-to RATE]
 
 #include "LabCamera.h"
 
@@ -25,10 +25,10 @@ bool addSize(const std::string &text, LabCamera::Options *options)
     return size.width() > 0 && size.height() > 0 && size.width() % 2 == 0 && size.height() % 2 == 0;
 }
 
-bool setRate(const std::string &text, LabCamera::Options *options)
+bool setRate(const std::string &text, int *rate)
 {
-    options->rate = QString::fromStdString(text).toInt();
-    return options->rate >= 2 && options->rate <= 120;
+    *rate = QString::fromStdString(text).toInt();
+    return *rate >= 2 && *rate <= 120;
 }
 
 bool setOption(const std::string &option, const std::string &value, LabCamera::Options *options)
@@ -44,7 +44,9 @@ bool setOption(const std::string &option, const std::string &value, LabCamera::O
     else if (option == "--size")
         return addSize(value, options);
     else if (option == "--rate")
-        return setRate(value, options);
+        return setRate(value, &options->rate);
+    else if (option == "--dims-to")
+        return setRate(value, &options->dimRate);
     else if (option == "--format")
         return FramePainter::formatFromName(value, &options->format);
     else
