@@ -359,7 +359,7 @@ bool MovieCodingSearch::hasEnded(steady_clock::time_point deadline) const
 MovieCoding MovieCodingSearch::waitUntil(steady_clock::time_point deadline) const
 {
     m_state->waitUntilDecided(deadline);
-    const MovieCoding coding = m_state->best();
+    MovieCoding coding = m_state->best();
     qCInfo(engineLog) << "movies are written with" << coding.video << "and" << coding.sound
                       << "smaller by" << coding.divisor;
     return coding;

@@ -5,6 +5,8 @@
 #include "MovieCompletion.h"
 #include "MovieRecorder.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QObject>
 
 #include <mutex>
@@ -20,8 +22,24 @@ static const milliseconds startLimit(900);
 static const milliseconds finishLimit(4000); // and 1 s for the microphone
 static const seconds exitLimit(10);
 
+namespace {
+
+/// A movie cannot go on.
+class MovieEndedEvent : public QEvent {
+public:
+    explicit MovieEndedEvent(int number)
+        : QEvent(QEvent::User)
+        , movie(number)
+    {
+    }
+
+    const int movie;
+};
+
+} // namespace
+
 /// Brings the news of a failed movie from its pipeline's thread to the GUI's.
-class MovieMaker::Watch {
+class MovieMaker::Watch : public QObject {
 public:
     explicit Watch(std::function<void()> ended)
         : m_ended(std::move(ended))
@@ -30,7 +48,7 @@ public:
         m_address->watch = this;
     }
 
-    ~Watch()
+    ~Watch() override
     {
         const std::lock_guard<std::mutex> lock(m_address->mutex);
         m_address->watch = nullptr;
@@ -44,11 +62,22 @@ public:
         return [address = m_address, movie = ++m_movie] {
             const std::lock_guard<std::mutex> lock(address->mutex);
             if (address->watch)
-                address->watch->post(movie);
+                QCoreApplication::postEvent(address->watch, new MovieEndedEvent(movie));
         };
     }
 
     void forget() { ++m_movie; } ///< the movie is over: news of it are none
+
+protected:
+    bool event(QEvent *event) override
+    {
+        const auto *news = dynamic_cast<MovieEndedEvent *>(event);
+        if (!news)
+            return QObject::event(event);
+        if (news->movie == m_movie)
+            m_ended();
+        return true;
+    }
 
 private:
     /// Where the news go, which may come from a pipeline that hangs, long after.
@@ -57,21 +86,9 @@ private:
         Watch *watch = nullptr;
     };
 
-    void post(int movie)
-    {
-        QMetaObject::invokeMethod(
-            &m_here,
-            [this, movie] {
-                if (movie == m_movie)
-                    m_ended();
-            },
-            Qt::QueuedConnection);
-    }
-
     const std::function<void()> m_ended;
     const std::shared_ptr<Address> m_address;
     int m_movie = 0; ///< number of the one that is watched
-    QObject m_here;
 };
 
 MovieMaker::MovieMaker(std::function<void()> ended)
