@@ -38,6 +38,7 @@ void TestMovieThrottle::initTestCase()
 void TestMovieThrottle::cleanup()
 {
     QVERIFY(labctl({"unplug", "beeper"}));
+    QFile::remove(m_folder.filePath("movie.mov")); // no movie is written over another
 }
 
 void TestMovieThrottle::theMovieSpansTheWholeTime_data()
