@@ -19,6 +19,22 @@ constexpr std::chrono::milliseconds endLimit(20000); // the leak checker looks t
 constexpr std::chrono::milliseconds endLimit(700);
 #endif
 
+// From the window's construction to its destruction; the status of the process.
+int runWindow()
+{
+    CVistrelDlg dialog;
+    if (!dialog.isDeviceSelected())
+        return -1;
+    const SignalWatcher watcher(&dialog);
+    LiveVideoWidget::setInterruption(SignalWatcher::hasCome);
+
+    dialog.SetPluginPath(QCoreApplication::applicationDirPath());
+    dialog.setVisible(true);
+    dialog.raise();
+    dialog.chkdevice();
+    return QtSingleApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -46,18 +62,8 @@ int main(int argc, char **argv)
     QApplication::setStyle(new PlainButtons);
 
     // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the style is the application's now
-    CVistrelDlg dialog;
-    if (!dialog.isDeviceSelected())
-        return -1;
-    const SignalWatcher watcher(&dialog);
-    LiveVideoWidget::setInterruption(SignalWatcher::hasCome);
-
-    dialog.SetPluginPath(QCoreApplication::applicationDirPath());
-    dialog.setVisible(true);
-    dialog.raise();
-    dialog.chkdevice();
-    const int status = QtSingleApplication::exec();
-    // The window has closed: the camera is let go and all that was captured is on the disk.
+    const int status = runWindow();
+    // The window is gone: the camera is closed and all that was captured is on the disk.
     PromptEnd::within(endLimit, status);
     return status;
 }

@@ -237,6 +237,11 @@ void LiveVideoWidget::RecordStop()
     m_engine.RecordStop();
 }
 
+bool LiveVideoWidget::completeMovies()
+{
+    return m_engine.CompleteMovies();
+}
+
 bool LiveVideoWidget::isAudioDeviceValid()
 {
     return m_engine.IsValidAudioDevice();

@@ -70,6 +70,8 @@ public:
      */
     bool Record();
     void RecordStop();
+    /// Waits for movies whose files are still being completed; false when one is not in time.
+    bool completeMovies();
     /// Full path of the movie that Record() began last.
     QString movieFileName() const { return m_movieFileName; }
 

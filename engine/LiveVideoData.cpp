@@ -11,6 +11,7 @@
 #include "GrabThread.h"
 #include "GstStart.h"
 #include "ModeChooser.h"
+#include "MovieCompletion.h"
 #include "MovieMaker.h"
 #include "PatientWait.h"
 #include "PictureConverter.h"
@@ -25,6 +26,7 @@ static const std::chrono::milliseconds soundCardLimit(1000);
 static const int openLimit = 4400; // ms, which leaves a moment for closing what sends nothing
 // The camera's frame is there; only the disk can make it late, and it is not given up for that.
 static const std::chrono::milliseconds stillLimit(30000);
+static const std::chrono::seconds completionLimit(10);
 static const std::chrono::milliseconds quickListLimit(200); // when a movie waits for it
 static const int soundCardMemory = 2000; // ms that a card which did not open is not asked again
 
@@ -324,6 +326,12 @@ void LiveVideoData::RecordStop()
 {
     const PatientCall call(PatientCall::longLimit);
     RecordMovie();
+}
+
+bool LiveVideoData::CompleteMovies()
+{
+    const PatientCall call(completionLimit);
+    return MovieCompletion::waitForAll(std::chrono::steady_clock::now() + completionLimit);
 }
 
 // What is asked right after Record() is asked about that: a camera or a server that changes in the

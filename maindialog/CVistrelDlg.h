@@ -151,6 +151,7 @@ private:
     /// a box, and every slot that needs the camera, asks first.
     bool isClosed() const { return m_liveView == nullptr; }
     void releaseLiveView();
+    void save();
 
     // --- CVistrelDlg.cpp: construction -----------------------------------------------------
     enum Button {

@@ -21,13 +21,21 @@ void CVistrelDlg::OnClose()
         const int answer = question.exec();
         if (answer == QDialog::Rejected)
             return;
-        if (answer != QDialog::Accepted)
+        if (answer == QDialog::Accepted)
+            save();
+        else
             WebcamUtil::deleteData();
-        else if (!WebcamUtil::saveData(m_saveDirectory))
-            // What could not be moved stays in the temporary area; the program closes all the same.
-            WebcamUtil::WarningMessage(tr("Save failed."), this);
     }
     close();
+}
+
+// What could not be moved stays in the temporary area; the program closes all the same.
+void CVistrelDlg::save()
+{
+    if (m_liveView)
+        m_liveView->completeMovies(); // or half of one would be copied
+    if (!WebcamUtil::saveData(m_saveDirectory))
+        WebcamUtil::WarningMessage(tr("Save failed."), this);
 }
 
 void CVistrelDlg::releaseLiveView()

@@ -19,9 +19,9 @@ class QWidget;
  * Every operation is called on the GUI thread, in any state and in any order; none throws. One that
  * waits for a camera or a server shows the wait cursor after 0.3 s, keeps the windows painted and
  * handles no event meanwhile. It returns within 3 s, whatever the camera or the server does;
- * opening a camera and ending a movie may take 5 s, and the engine's end waits 10 s more for a movie
- * that is still being completed. The very first call in a session may take longer while GStreamer
- * indexes its plug-ins.
+ * opening a camera and ending a movie may take 5 s, and the engine's end waits 10 s more for a
+ * movie that is still being completed. The very first call in a session may take longer while
+ * GStreamer indexes its plug-ins.
  *
  * What an operation does in which state ("-" is nothing at all):
  *
@@ -104,6 +104,10 @@ public:
     /// that, the file is completed in the background; it can be played up to its last moment
     /// meanwhile. A movie that never had a picture leaves no file.
     void RecordStop();
+
+    /// Waits for movies that RecordStop() has left to be completed in the background; false when
+    /// one is not complete after 10 s.
+    bool CompleteMovies();
 
     // Right after Record() the three answers below are about that: they say whether the movie
     // began and which device it was that was missing, until the next Record(), Create() or

@@ -150,7 +150,18 @@ void LiveVideoData::Record(const QString &path)
 void LiveVideoData::RecordStop()
 {
     note(QStringLiteral("RecordStop()"));
-    FakeEngine::script().recording.clear();
+    FakeEngine &script = FakeEngine::script();
+    if (!script.movieHasFrames)
+        QFile::remove(script.recording);
+    script.recording.clear();
+}
+
+bool LiveVideoData::CompleteMovies()
+{
+    note(QStringLiteral("CompleteMovies()"));
+    if (FakeEngine::script().completion)
+        FakeEngine::script().completion();
+    return true;
 }
 
 bool LiveVideoData::IsValidVideoDevice()

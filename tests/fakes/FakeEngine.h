@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
+
 /**
  * The script of the engine that stands in for the real one: what its operations shall find and
  * answer, and what was asked of it.
@@ -37,10 +39,14 @@ struct FakeEngine {
     // What the engine answers.
     bool videoDeviceValid = true;
     bool audioDeviceValid = true;
+    bool movieHasFrames = true; ///< when false, RecordStop() leaves no file
     bool movieBegins = true; ///< when false, Record() does nothing although both devices are valid
     bool saveBitmapSucceeds = true; ///< when false, nothing is written
     QImage picture; ///< what SaveBitmap() writes; null: a plain picture of nativeSize
     QByteArray movie = QByteArrayLiteral("a movie"); ///< what a movie holds after Record()
+
+    /// What CompleteMovies() does, while the caller waits; null for nothing.
+    std::function<void()> completion;
 
     // What was asked of it.
     QStringList calls; ///< in order, with arguments, as in "SetResolution(640, 480)"

@@ -62,6 +62,7 @@ class ClosingFlowTest : public QObject {
 private Q_SLOTS:
     void anEmptyTemporaryAreaClosesAtOnceWithNoQuestion();
     void yesMovesThePhotoIntoTheDatedFolder();
+    void aMovieThatIsStillBeingCompletedIsSavedWhole();
     void noDeletesWhatWasCaptured();
     void cancelKeepsTheProgramOpenWithAllDataInPlace();
     void aStrayFileIsAskedAboutAndYesReportsAFailure();
@@ -101,6 +102,20 @@ void ClosingFlowTest::yesMovesThePhotoIntoTheDatedFolder()
     QVERIFY(!dialog.isVisible());
     QCOMPARE(fixture.captures(), QStringList());
     QCOMPARE(QDir(datedFolder(fixture.home())).entryList(QDir::Files), photos);
+}
+
+// On a slow machine its file may grow for some seconds after "Stop".
+void ClosingFlowTest::aMovieThatIsStillBeingCompletedIsSavedWhole()
+{
+    DialogFixture fixture;
+    fixture.build();
+    const QString movie = fixture.temporaryArea() + QStringLiteral("/movie20240229101500.mov");
+    writeFile(movie, "half of it");
+    FakeEngine::script().completion = [movie] { writeFile(movie, "half of it and the rest"); };
+    DialogFixture::boxDuring([&] { fixture.click("Close"); }, QStringLiteral("Yes"));
+    QFile saved(datedFolder(fixture.home()) + QStringLiteral("/movie20240229101500.mov"));
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    QCOMPARE(saved.readAll(), QByteArrayLiteral("half of it and the rest"));
 }
 
 void ClosingFlowTest::noDeletesWhatWasCaptured()

@@ -135,7 +135,7 @@ void PlaybackTest::aMovieThatCannotBePlayedLeavesTheScreenUsable()
     QFETCH(bool, isThere);
     QFETCH(QByteArray, content);
     DialogFixture fixture;
-    FakeEngine::script().movieBegins = isThere;
+    FakeEngine::script().movieHasFrames = isThere;
     FakeEngine::script().movie = content;
     CVistrelDlg &dialog = fixture.build();
     fixture.click("Movie");
@@ -162,7 +162,7 @@ void PlaybackTest::aMovieThatCannotBePlayedLeavesTheScreenUsable()
     // The next one can be made, and plays.
     const QString second = WebcamUtil::CurrentSecondString();
     QTRY_VERIFY(WebcamUtil::CurrentSecondString() != second); // movies are named by it
-    FakeEngine::script().movieBegins = true;
+    FakeEngine::script().movieHasFrames = true;
     FakeEngine::script().movie = DialogFixture::movieOf(20);
     fixture.click("Movie");
     fixture.click("MovieStop");
