@@ -41,8 +41,9 @@ static QByteArray originOf(const QByteArray &element)
 
 QByteArray MovieCodingCache::keyOf(const QSize &size, double rate, const QByteArrayList &encoders)
 {
+    const GlibString gstreamer(gst_version_string());
     QByteArrayList facts{"1",
-                         gst_version_string(),
+                         gstreamer.get(),
                          QSysInfo::kernelVersion().toUtf8(),
                          QSysInfo::machineUniqueId(),
                          QByteArray::number(QThread::idealThreadCount()),

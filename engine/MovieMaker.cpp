@@ -4,6 +4,7 @@
 #include "EngineLog.h"
 #include "MovieCompletion.h"
 #include "MovieRecorder.h"
+#include "PatientWait.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -15,10 +16,9 @@ using std::chrono::milliseconds;
 using std::chrono::seconds;
 using std::chrono::steady_clock;
 
-// A second each, so that no start takes more than three.
-static const milliseconds codingLimit(900);
-static const milliseconds microphoneLimit(1000);
-static const milliseconds startLimit(900);
+// For each step of a start; all of them together end with the operation that they are part of, so
+// that on a slow machine one may take the time that the others leave.
+static const milliseconds startLimit = PatientCall::usualLimit;
 static const milliseconds finishLimit(4000); // and 1 s for the microphone
 static const seconds exitLimit(10);
 
@@ -149,10 +149,10 @@ static std::shared_ptr<MovieRecorder> startWithin(milliseconds limit, const QStr
 MovieOutcome MovieMaker::begin(const QString &path, const GstVideoInfo &format)
 {
     const MovieCoding coding =
-        m_search ? m_search->waitUntil(steady_clock::now() + codingLimit) : MovieCoding();
+        m_search ? m_search->waitUntil(steady_clock::now() + startLimit) : MovieCoding();
     if (!coding.isComplete())
         return MovieOutcome::NoEncoder;
-    m_microphone = Microphone::open(microphoneLimit);
+    m_microphone = Microphone::open(startLimit);
     if (!m_microphone)
         return MovieOutcome::NoMicrophone;
     m_recorder = startWithin(startLimit, path, format, coding, m_watch->next());

@@ -27,7 +27,12 @@ int main(int argc, char *argv[])
     engine.SetVideoDevice(engine.GetVideoDeviceList().indexOf(arguments.value(1)));
     engine.Create();
     QObject::connect(&engine, &LiveVideoData::recordend, &application, [] { say("ended"); });
-    engine.Record(arguments.value(2));
+    QElapsedTimer sinceFirstTry;
+    sinceFirstTry.start();
+    // As a person does on a slow machine: the encoder may not be known at the first press.
+    do
+        engine.Record(arguments.value(2));
+    while (!engine.IsRecording() && sinceFirstTry.elapsed() < 30000);
     if (!engine.IsRecording()) {
         std::fprintf(stderr, "moviemaker: cannot record\n");
         return 1;
