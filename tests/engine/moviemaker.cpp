@@ -13,6 +13,8 @@
 #include <cstdio>
 #include <unistd.h>
 
+static const int patience = 30000; // ms
+
 static void say(const char *word)
 {
     std::printf("%s\n", word);
@@ -24,15 +26,18 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     LiveVideoData engine;
-    engine.SetVideoDevice(engine.GetVideoDeviceList().indexOf(arguments.value(1)));
-    engine.Create();
-    QObject::connect(&engine, &LiveVideoData::recordend, &application, [] { say("ended"); });
     QElapsedTimer sinceFirstTry;
     sinceFirstTry.start();
-    // As a person does on a slow machine: the encoder may not be known at the first press.
+    // As a person does on a slow machine: servers may not answer and the encoder may not be known
+    // at the first press.
+    while (!engine.created && sinceFirstTry.elapsed() < patience) {
+        engine.SetVideoDevice(engine.GetVideoDeviceList().indexOf(arguments.value(1)));
+        engine.Create();
+    }
+    QObject::connect(&engine, &LiveVideoData::recordend, &application, [] { say("ended"); });
     do
         engine.Record(arguments.value(2));
-    while (!engine.IsRecording() && sinceFirstTry.elapsed() < 30000);
+    while (!engine.IsRecording() && sinceFirstTry.elapsed() < patience);
     if (!engine.IsRecording()) {
         std::fprintf(stderr, "moviemaker: cannot record\n");
         return 1;
