@@ -80,6 +80,7 @@ void photograph(Tour *tour, Session *user)
 void film(Tour *tour, Session *user)
 {
     const QRect picture = user->map().videoRect();
+    const QStringList toPlay{"Live", "MoviePlay", "List", "Close"};
     tour->stop("recording", "A movie being recorded",
                user->pressWhenReady(WindowMap::PhotoScreen, "Live")
                    && user->pressWhenReady(WindowMap::LiveScreen, "Movie")
@@ -88,6 +89,7 @@ void film(Tour *tour, Session *user)
     QTest::qWait(3000);
     tour->stop("movie", "The movie, ready to be played",
                user->pressWhenReady(WindowMap::RecordingScreen, "MovieStop")
+                   && user->waitForPressable(WindowMap::MovieScreen, toPlay)
                    && QTest::qWaitFor([=] { return user->isStillAt(picture); }));
     const int first = user->counterAt(picture);
     tour->stop("playing", "The movie played",
@@ -95,8 +97,7 @@ void film(Tour *tour, Session *user)
                    && QTest::qWaitFor([=] { return user->counterAt(picture) > first + 15; }));
     tour->stop("paused", "The movie paused",
                user->pressWhenReady(WindowMap::PlayingScreen, "MoviePause")
-                   && user->waitForPressable(WindowMap::MovieScreen,
-                                             {"Live", "MoviePlay", "List", "Close"}));
+                   && user->waitForPressable(WindowMap::MovieScreen, toPlay));
 }
 
 void photographASeries(Tour *tour, Session *user)
