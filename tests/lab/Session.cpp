@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int startLimit = 15000;
-constexpr int reactionLimit = 4000;
+constexpr int reactionLimit = 15000; // also of a busy machine
 // Colours that went through the camera's luma and chroma, and through scaling.
 constexpr int colourTolerance = 16;
 
