@@ -21,7 +21,9 @@
 
 #include <QElapsedTimer>
 
-static const std::chrono::milliseconds listLimit(1900); // the promise is 2 s
+// On a slow machine every moment that a person will wait counts: a camera that is listed late is
+// one that was not there.
+static const std::chrono::milliseconds listLimit = PatientCall::usualLimit;
 static const std::chrono::milliseconds soundCardLimit(1000);
 static const int openLimit = 4400; // ms, which leaves a moment for closing what sends nothing
 // The camera's frame is there; only the disk can make it late, and it is not given up for that.

@@ -73,7 +73,7 @@ public:
     void SetTarget(QWidget *target);
 
     /// The cameras' names; the position is the index for SetVideoDevice(). Cameras of one name are
-    /// numbered. Answers within 2 s with what has been found by then.
+    /// numbered. Answers within 3 s with what has been found by then.
     QStringList GetVideoDeviceList();
 
     /// Chooses a camera of the last list for the next Create(). The camera is remembered by what it

@@ -70,7 +70,7 @@ void TestHangingServer::theListComesInTimeAndTheCamerasLater()
         QElapsedTimer timer;
         timer.start();
         QCOMPARE(engine.GetVideoDeviceList(), QStringList{"Demonstration Camera"});
-        QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY2(timer.elapsed() < 3500, qPrintable(QString::number(timer.elapsed())));
     }
     qunsetenv("ORVANTA_DEMO_CAMERA");
     engine.Create();
@@ -108,7 +108,7 @@ void TestHangingServer::loseToHangingServer(LiveVideoData &engine)
     const qint64 again = timeOf([&] { engine.GetVideoDeviceList(); });
     qInfo() << "listed in" << listing << again << "ms, asked in" << asking << "ms, closed in"
             << closing << "ms, opened in" << opening << "ms";
-    QVERIFY(listing < 2000 && again < 2000 && asking < 2000);
+    QVERIFY(listing < 3500 && again < 3500 && asking < 3500);
     QVERIFY(closing < 2500);
     QVERIFY(opening < 7500);
     QVERIFY(labctl({"wake-media-server"}));

@@ -105,7 +105,7 @@ void TestEnding::endsInTime(int limit)
     qInfo("ended after %lld ms", elapsed);
     QVERIFY2(elapsed < limit + busy, qPrintable(QString::number(elapsed)));
     QVERIFY2(!m_user->program().hasCrashed(), qPrintable(m_user->program().output()));
-    QCOMPARE(m_user->program().exitStatus(), 0);
+    QVERIFY2(m_user->program().exitStatus() == 0, qPrintable(m_user->program().output()));
 }
 
 void TestEnding::theEndOfTheSessionEndsTheProgramInEveryState_data()
