@@ -112,7 +112,7 @@ void TestFrameQueue::anEncoderThatFallsBehindGetsAsManyAsItHasTimeFor()
     QFETCH(int, rate);
     QFETCH(int, percent);
     Machine machine(rate, small);
-    machine.setWork(second * 100 / (rate * percent));
+    machine.setWork(second * 100 / (qint64(rate) * percent));
     machine.run(30);
     const double possible = 30.0 * rate * percent / 100;
     const int encoded = machine.encoded().size();
