@@ -1,17 +1,10 @@
 #include "LabCommands.h"
 
-#include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QProcess>
 
 #include <csignal>
-
-static QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 bool labctl(const QStringList &arguments)
 {
@@ -28,18 +21,10 @@ bool labctl(const QStringList &arguments)
     return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
-// It was started with the lab's environment.
 qint64 labServer(const QByteArray &name)
 {
-    const QByteArray mark = "ORVANTA_LAB=" + qgetenv("ORVANTA_LAB") + '\0';
-    const QStringList processes = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
-    for (const QString &process : processes) {
-        const QString folder = QStringLiteral("/proc/%1/").arg(process);
-        if (process.toLongLong() > 0 && contentsOf(folder + "comm").trimmed() == name
-            && contentsOf(folder + "environ").contains(mark))
-            return process.toLongLong();
-    }
-    return 0;
+    QFile file(QFile::decodeName(qgetenv("ORVANTA_LAB") + "/run/servers/" + name + ".pid"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toLongLong() : 0;
 }
 
 StoppedServer::StoppedServer(const QByteArray &name)

@@ -1,11 +1,8 @@
+#include "Footprint.h"
 #include "LiveVideoData.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFrame>
 #include <QTest>
-
-#include <unistd.h>
 
 // A classroom computer runs the program all day.
 class TestEngineWear : public QObject {
@@ -14,22 +11,6 @@ class TestEngineWear : public QObject {
 private slots:
     void aHundredOpeningsLeaveNothingBehind();
 };
-
-static int entriesOf(const char *folder)
-{
-    return int(QDir(QLatin1String(folder))
-                   .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System | QDir::Hidden)
-                   .size());
-}
-
-// Memory in use, in MB.
-static double residentMemory()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    return file.readAll().split(' ').value(1).toDouble() * double(sysconf(_SC_PAGESIZE)) / 1048576;
-}
 
 static void openAndClose(LiveVideoData &engine)
 {
@@ -51,21 +32,21 @@ void TestEngineWear::aHundredOpeningsLeaveNothingBehind()
     engine.SetTarget(&target);
     for (int i = 0; i < 20 && !QTest::currentTestFailed(); ++i)
         openAndClose(engine);
-    const int threads = entriesOf("/proc/self/task");
-    const int descriptors = entriesOf("/proc/self/fd");
-    const double memory = residentMemory();
-    QVERIFY(threads > 0 && descriptors > 0 && memory > 0);
+    const Footprint before = Footprint::now();
+    QVERIFY(before.threads > 0 && before.descriptors > 0 && before.memory > 0);
     for (int i = 0; i < 100 && !QTest::currentTestFailed(); ++i)
         openAndClose(engine);
+    const auto more = [](const char *what, int count) {
+        return QString("%1 %2 more").arg(count).arg(what).toLatin1();
+    };
+    QTRY_VERIFY2(Footprint::now().threads <= before.threads,
+                 more("threads", Footprint::now().threads - before.threads).constData());
     QTRY_VERIFY2(
-        entriesOf("/proc/self/task") <= threads,
-        qPrintable(QString("%1 threads more").arg(entriesOf("/proc/self/task") - threads)));
-    QTRY_VERIFY2(
-        entriesOf("/proc/self/fd") <= descriptors,
-        qPrintable(QString("%1 descriptors more").arg(entriesOf("/proc/self/fd") - descriptors)));
-    const double growth = residentMemory() - memory;
-    qInfo("%.1f MB more after 100 openings, %d threads, %d descriptors", growth, threads,
-          descriptors);
+        Footprint::now().descriptors <= before.descriptors,
+        more("descriptors", Footprint::now().descriptors - before.descriptors).constData());
+    const double growth = Footprint::now().memory - before.memory;
+    qInfo("%.1f MB more after 100 openings, %d threads, %d descriptors", growth, before.threads,
+          before.descriptors);
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__) // these keep freed memory
     QVERIFY2(growth < 4, qPrintable(QString("%1 MB more").arg(growth)));
 #endif

@@ -2,9 +2,7 @@
 #include "LabCommands.h"
 #include "LiveVideoData.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -27,31 +25,11 @@ private:
     qint64 m_server = 0;
 };
 
-static QByteArray contentsOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// The media server of this lab: the one that was started with the lab's environment.
-static qint64 findServer()
-{
-    const QByteArray mark = "ORVANTA_LAB=" + qgetenv("ORVANTA_LAB") + '\0';
-    const QStringList processes = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
-    for (const QString &process : processes) {
-        const QString folder = QStringLiteral("/proc/%1/").arg(process);
-        if (process.toLongLong() > 0 && contentsOf(folder + "comm").trimmed() == "pipewire"
-            && contentsOf(folder + "environ").contains(mark))
-            return process.toLongLong();
-    }
-    return 0;
-}
-
 void TestHangingServer::initTestCase()
 {
     QVERIFY2(!qEnvironmentVariableIsEmpty("ORVANTA_LAB"), "this test must be run by tests/lab/lab");
     gst_init(nullptr, nullptr); // indexes its plug-ins, which is not to be measured
-    m_server = findServer();
+    m_server = labServer("pipewire");
     QVERIFY(m_server > 0);
 }
 

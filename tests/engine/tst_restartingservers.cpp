@@ -46,12 +46,6 @@ private:
 
 static const int foundLimit = 3000; // ms after a server is up again
 
-static pid_t mediaServer()
-{
-    QFile file(QFile::decodeName(qgetenv("ORVANTA_LAB")) + "/run/servers/pipewire.pid");
-    return file.open(QIODevice::ReadOnly) ? pid_t(file.readAll().trimmed().toInt()) : 0;
-}
-
 static QString footprint(const Footprint &before, const Footprint &now)
 {
     return QStringLiteral("%1 threads, %2 descriptors and %3 MB more")
@@ -120,7 +114,7 @@ void TestRestartingServers::loseServer()
 {
     QElapsedTimer timer;
     timer.start();
-    QCOMPARE(::kill(mediaServer(), SIGKILL), 0);
+    QCOMPARE(::kill(pid_t(labServer("pipewire")), SIGKILL), 0);
     QTRY_COMPARE(m_losses->count(), 1);
     m_soonestLoss = std::min(m_soonestLoss, timer.elapsed());
     QVERIFY(labctl({"stop-media-server"}));
