@@ -42,6 +42,7 @@ private Q_SLOTS:
     void aGapIsLeftAsLongAsItWas();
     void aSlightlyFastCameraLosesAFrameNowAndThen();
     void aSlightlySlowCameraSkipsAPlaceNowAndThen();
+    void aFrameThatNeverCameLeavesItsPlaceEmpty();
     void aCameraAtHalfItsRateTakesEverySecondPlace();
     void placesBeginAtTheirExactTimes();
 };
@@ -121,6 +122,15 @@ void TestFramePacer::aSlightlySlowCameraSkipsAPlaceNowAndThen()
     QVERIFY(!places.contains(-1));
     QVERIFY2(qAbs(places.last() - qRound(2999 * 1.01)) <= 1,
              qPrintable(QString::number(places.last())));
+}
+
+// One place, as soon as all of the latest frames say so: picture and sound stay together.
+void TestFramePacer::aFrameThatNeverCameLeavesItsPlaceEmpty()
+{
+    const QVector<qint64> places =
+        placesOf([](int frame) { return (frame + (frame >= 60 ? 1 : 0)) * period; }, 120);
+    QCOMPARE(places.at(59), qint64(59));
+    QCOMPARE(places.last(), qint64(120));
 }
 
 void TestFramePacer::aCameraAtHalfItsRateTakesEverySecondPlace()
