@@ -20,9 +20,9 @@ using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 static const milliseconds firstFrameLimit(1000);
-static const milliseconds
-    stallLimit(2000); // of a file that is being completed, while it is awaited
-static const milliseconds abandonLimit(20000); // likewise, when nobody waits for it any more
+// How long a file that is being completed may not grow: while it is awaited, and afterwards.
+static const milliseconds stallLimit(2000);
+static const milliseconds abandonLimit(20000);
 static const qint64 second = GST_SECOND;
 static const qint64 soundDelay = 3 * second; // before it counts as missing
 static const qint64 soundAhead = 10 * second; // before the picture counts as gone
