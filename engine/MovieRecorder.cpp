@@ -290,14 +290,22 @@ void MovieRecorder::addSound(const char *samples, qint64 count, GstClockTime cap
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (!m_open || hasFailed())
         return;
-    const qint64 length = count * second / SoundTrack::rate;
-    const qint64 heard = m_soundClock.heardAt(qint64(captured), length, systemTime());
+    m_soundClock.add(QByteArray(samples, int(count * SoundTrack::bytesOfSample)), qint64(captured),
+                     count * second / SoundTrack::rate, systemTime());
+    layIn(m_soundClock.take());
+}
+
+void MovieRecorder::layIn(const QVector<SoundClock::Piece> &sound)
+{
     if (m_pacer.begin() < 0)
         return;
-    const qint64 time = heard - m_pacer.begin();
-    // A microphone without a camera is not listened to for long: the picture has stopped.
-    if (time < m_pacer.timeOf(m_pacer.nextPlace()) + soundAhead)
-        m_track.add(samples, count, SoundTrack::positionAt(time) - soundRunUp);
+    for (const SoundClock::Piece &piece : sound) {
+        const qint64 time = piece.heard - m_pacer.begin();
+        // A microphone without a camera is not listened to for long: the picture has stopped.
+        if (time < m_pacer.timeOf(m_pacer.nextPlace()) + soundAhead)
+            m_track.add(piece.samples.constData(), piece.samples.size() / SoundTrack::bytesOfSample,
+                        SoundTrack::positionAt(time) - soundRunUp);
+    }
 }
 
 void MovieRecorder::pushSound(qint64 position)
@@ -360,6 +368,7 @@ bool MovieRecorder::finish(milliseconds limit)
     if (m_pacer.begin() >= 0) {
         const qint64 end = endOfMovie();
         endPicture(end);
+        layIn(m_soundClock.takeAll());
         m_track.coverUntil(SoundTrack::positionAt(m_pacer.timeOf(end)));
         pushSound(SoundTrack::positionAt(m_pacer.timeOf(end)));
         qCInfo(engineLog) << m_arrived << "frames came for" << end << "places," << m_leftOut

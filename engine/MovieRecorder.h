@@ -82,6 +82,7 @@ private:
     void watch();
     bool hasFailed() const;
     GstMiniHandle<GstBuffer> placed(GstBuffer *frame, qint64 place, qint64 end) const;
+    void layIn(const QVector<SoundClock::Piece> &sound);
     void pushSound(qint64 position);
     qint64 endOfMovie() const;
     void endPicture(qint64 end);

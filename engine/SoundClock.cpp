@@ -3,20 +3,53 @@
 #include <algorithm>
 
 static const qint64 millisecond = 1000000; // ns
-static const qint64 remembered = 2000 * millisecond;
+// What arrives late for longer than this is taken for sound with a gap before it.
+static const qint64 patience = 1000 * millisecond;
 static const qint64 inaudible = 15 * millisecond;
 
-qint64 SoundClock::heardAt(qint64 counted, qint64 length, qint64 arrived)
+void SoundClock::add(const QByteArray &samples, qint64 counted, qint64 length, qint64 arrived)
 {
-    const bool isFirst = m_delays.empty();
-    m_delays.push_back({arrived, arrived - counted - length});
-    while (m_delays.front().arrived < arrived - remembered)
-        m_delays.pop_front();
-    const qint64 least =
-        std::min_element(m_delays.cbegin(), m_delays.cend(), [](const Delay &a, const Delay &b) {
-            return a.delay < b.delay;
-        })->delay;
-    if (isFirst || qAbs(least - m_offset) > inaudible)
+    m_waiting.push_back({samples, counted, arrived, arrived - counted - length});
+}
+
+qint64 SoundClock::leastDelay() const
+{
+    return std::min_element(
+               m_waiting.cbegin(), m_waiting.cend(),
+               [](const Arrival &a, const Arrival &b) { return a.delay < b.delay; })
+        ->delay;
+}
+
+// Later arrivals can only say that a piece was heard earlier.
+bool SoundClock::isPlaced(qint64 delay) const
+{
+    return (m_begun && delay <= m_offset + inaudible)
+        || m_waiting.back().arrived - m_waiting.front().arrived >= patience;
+}
+
+SoundClock::Piece SoundClock::takeFirst()
+{
+    const qint64 least = leastDelay();
+    if (!m_begun || qAbs(least - m_offset) > inaudible)
         m_offset = least;
-    return counted + m_offset;
+    m_begun = true;
+    Piece piece{m_waiting.front().samples, m_waiting.front().counted + m_offset};
+    m_waiting.pop_front();
+    return piece;
+}
+
+QVector<SoundClock::Piece> SoundClock::take()
+{
+    QVector<Piece> pieces;
+    while (!m_waiting.empty() && isPlaced(leastDelay()))
+        pieces.append(takeFirst());
+    return pieces;
+}
+
+QVector<SoundClock::Piece> SoundClock::takeAll()
+{
+    QVector<Piece> pieces;
+    while (!m_waiting.empty())
+        pieces.append(takeFirst());
+    return pieces;
 }

@@ -1,35 +1,57 @@
 #ifndef SOUNDCLOCK_H
 #define SOUNDCLOCK_H
 
-#include <QtGlobal>
+#include <QByteArray>
+#include <QVector>
 
 #include <deque>
 
 /**
  * When pieces of sound were heard, told from what the microphone says and from when they arrive.
  *
- * A microphone counts its samples exactly, but by a clock of its own that begins somewhere and
- * drifts. Arrivals go by the right clock, but late by varying amounts when the machine is busy. The
- * piece that was delayed least among those of the last seconds tells how the two clocks lie; a
- * correction is made only when that has changed, so that sound stays in one piece however late it
- * arrives.
+ * A microphone counts its samples exactly, but by a clock of its own that begins somewhere, drifts,
+ * and knows nothing of samples that were lost on a busy machine. Arrivals go by the right clock,
+ * but late by varying amounts. A piece cannot have been lost before it was heard, nor arrive before
+ * that: of a piece and those that come after it, the one that was delayed least tells how the two
+ * clocks lay when it was heard. So a piece that seems late waits for a moment, until it is known
+ * whether it was, or whether samples before it are missing. A correction is made only when it would
+ * be heard, so that sound stays in one piece however late it arrives.
  *
  * Times are nanoseconds. One thread at a time.
  */
 class SoundClock {
 public:
-    /// When a piece was heard that by the microphone's count began at @p counted and is @p length
-    /// long, and that has arrived at @p arrived.
-    qint64 heardAt(qint64 counted, qint64 length, qint64 arrived);
-
-private:
-    struct Delay {
-        qint64 arrived;
-        qint64 delay;
+    struct Piece {
+        QByteArray samples;
+        qint64 heard; ///< when it began
     };
 
-    std::deque<Delay> m_delays; ///< of the last seconds
-    qint64 m_offset = 0; ///< of the system's clock before the microphone's
+    /// Takes @p samples that by the microphone's count began at @p counted and last @p length, and
+    /// that have just arrived, at @p arrived.
+    void add(const QByteArray &samples, qint64 counted, qint64 length, qint64 arrived);
+
+    /// The pieces, oldest first, of which is known by now when they were heard. None waits for
+    /// longer than a second of arrivals.
+    QVector<Piece> take();
+
+    /// All that wait, placed by what is known: nothing more will come.
+    QVector<Piece> takeAll();
+
+private:
+    struct Arrival {
+        QByteArray samples;
+        qint64 counted;
+        qint64 arrived;
+        qint64 delay; ///< of the system's clock before the microphone's, as this piece has it
+    };
+
+    bool isPlaced(qint64 delay) const;
+    qint64 leastDelay() const;
+    Piece takeFirst();
+
+    std::deque<Arrival> m_waiting;
+    bool m_begun = false;
+    qint64 m_offset = 0; ///< of the system's clock before the microphone's, once begun
 };
 
 #endif
