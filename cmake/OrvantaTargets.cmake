@@ -20,9 +20,15 @@ endif()
 
 # orvanta_room(NAME SOURCES file... [USES target...])
 # One folder of the house: the static library orvanta_NAME. Its own folder is the only include
-# path it adds, so including a room that is not named under USES is a build error.
+# path it adds, so including a room that is not named under USES is a build error; so is a room that
+# is not built yet, which keeps two of them from using each other.
 function(orvanta_room name)
     cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+    foreach(used ${ROOM_USES})
+        if(used MATCHES "^orvanta_" AND NOT TARGET ${used})
+            message(FATAL_ERROR "The room ${name} stands below ${used}")
+        endif()
+    endforeach()
     add_library(orvanta_${name} STATIC ${ROOM_SOURCES})
     target_include_directories(orvanta_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(orvanta_${name} PUBLIC ${ROOM_USES} PRIVATE orvanta_options)
