@@ -6,13 +6,13 @@
 #include <mutex>
 #include <thread>
 
-struct BoundedTask::Progress {
+struct BoundedTask<void>::Progress {
     std::mutex mutex; ///< guards done
     std::condition_variable ended;
     bool done = false;
 };
 
-BoundedTask::BoundedTask(std::function<void()> work)
+BoundedTask<void>::BoundedTask(std::function<void()> work)
     : m_progress(std::make_shared<Progress>())
 {
     std::thread([progress = m_progress, work = std::move(work)]() mutable {
@@ -24,7 +24,7 @@ BoundedTask::BoundedTask(std::function<void()> work)
     }).detach();
 }
 
-bool BoundedTask::waitUntil(std::chrono::steady_clock::time_point deadline) const
+bool BoundedTask<void>::waitUntil(std::chrono::steady_clock::time_point deadline) const
 {
     return waitPatiently(
         deadline,

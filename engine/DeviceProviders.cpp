@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <optional>
 
 using std::chrono::steady_clock;
 
@@ -41,8 +42,6 @@ static GstBusSyncReply onMessage(GstBus *, GstMessage *message, gpointer)
     gst_message_unref(message);
     return GST_BUS_DROP;
 }
-
-using ProviderHandle = std::shared_ptr<GstDeviceProvider>;
 
 // Only after the end of its server.
 namespace {
@@ -95,8 +94,7 @@ struct Source {
     std::shared_ptr<MediaConnection> connection; ///< the media server's only
     std::unique_ptr<QSocketNotifier> end; ///< of the connection
     ProviderHandle provider; ///< null until it runs
-    std::shared_ptr<ProviderHandle> answer; ///< where the task leaves it
-    std::unique_ptr<BoundedTask> task; ///< while it is being started
+    std::optional<BoundedTask<ProviderHandle>> task; ///< while it is being started
 };
 
 // Never destroyed: some may hang, and what ends with the process need not be taken down before.
@@ -123,7 +121,6 @@ static void letGo(Source &source)
 {
     source.end.reset();
     source.task.reset();
-    source.answer.reset();
     source.provider.reset();
     source.connection.reset();
 }
@@ -154,24 +151,24 @@ static void beginToStart(Source &source)
 {
     if (source.provider || source.task)
         return;
-    source.answer = std::make_shared<ProviderHandle>();
-    source.task = std::make_unique<BoundedTask>(
-        [answer = source.answer, name = source.name, connection = source.connection] {
-            *answer = startProvider(name, connection.get());
-            if (connection)
-                connection->keep(*answer);
-        });
+    source.task.emplace([name = source.name, connection = source.connection] {
+        ProviderHandle provider = startProvider(name, connection.get());
+        if (connection)
+            connection->keep(provider);
+        return provider;
+    });
 }
 
 static void awaitStart(Source &source, steady_clock::time_point deadline)
 {
     if (!source.task)
         return;
-    if (!source.task->waitUntil(deadline)) {
+    std::optional<ProviderHandle> started = source.task->waitUntil(deadline);
+    if (!started) {
         qCWarning(engineLog, "%s does not answer", source.name);
         return;
     }
-    source.provider = std::move(*source.answer);
+    source.provider = std::move(*started);
     source.task.reset();
     if (!source.provider)
         letGo(source); // what was said on the connection cannot be said twice

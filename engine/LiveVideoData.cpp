@@ -300,12 +300,11 @@ bool LiveVideoData::SaveBitmap(QString path)
     const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
     if (!frame)
         return false;
-    const auto written = std::make_shared<bool>(false);
-    const BoundedTask writing([frame, path, written] {
+    const BoundedTask writing([frame, path] {
         PictureConverter converter(QImage::Format_RGB888);
-        *written = writeStill(converter.convert(*frame, frame->size()), path);
+        return writeStill(converter.convert(*frame, frame->size()), path);
     });
-    return writing.waitUntil(std::chrono::steady_clock::now() + stillLimit) && *written;
+    return writing.waitUntil(std::chrono::steady_clock::now() + stillLimit).value_or(false);
 }
 
 void LiveVideoData::Record(const QString &path)

@@ -126,25 +126,23 @@ bool Microphone::Chain::listen()
 
 std::unique_ptr<Microphone> Microphone::open(milliseconds limit)
 {
-    struct Attempt {
-        std::shared_ptr<Chain> chain;
-    };
-    const auto attempt = std::make_shared<Attempt>();
     const bool hasServer = DeviceProviders::hasSoundServer();
     const QByteArray device = DeviceProviders::microphone();
-    const BoundedTask opening([attempt, hasServer, device] {
+    const BoundedTask opening([hasServer, device]() -> std::shared_ptr<Chain> {
         // A sound server without a microphone has the last word.
         if (hasServer && device.isEmpty())
-            return;
-        const auto chain = std::make_shared<Chain>();
-        if (chain->connect(hasServer ? serverSource : cardSource, device) && chain->listen())
-            attempt->chain = chain;
+            return nullptr;
+        auto chain = std::make_shared<Chain>();
+        if (!chain->connect(hasServer ? serverSource : cardSource, device) || !chain->listen())
+            return nullptr;
+        return chain;
     });
-    if (!opening.waitUntil(steady_clock::now() + limit) || !attempt->chain) {
+    std::shared_ptr<Chain> chain = opening.waitUntil(steady_clock::now() + limit).value_or(nullptr);
+    if (!chain) {
         qCInfo(engineLog, "no microphone can be opened");
         return nullptr;
     }
-    return std::unique_ptr<Microphone>(new Microphone(std::move(attempt->chain)));
+    return std::unique_ptr<Microphone>(new Microphone(std::move(chain)));
 }
 
 Microphone::Microphone(std::shared_ptr<Chain> chain)

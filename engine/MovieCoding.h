@@ -55,7 +55,7 @@ public:
 private:
     class State;
     std::shared_ptr<State> m_state; ///< outlives the search in a driver that hangs
-    BoundedTask m_searching;
+    BoundedTask<void> m_searching;
 };
 
 #endif

@@ -5,9 +5,9 @@
 #include <vector>
 
 static std::mutex mutex; // guards tasks
-static std::vector<BoundedTask> tasks; // not known to be done
+static std::vector<BoundedTask<void>> tasks; // not known to be done
 
-void MovieCompletion::goesOnWith(const BoundedTask &completing)
+void MovieCompletion::goesOnWith(const BoundedTask<void> &completing)
 {
     const std::lock_guard<std::mutex> lock(mutex);
     tasks.push_back(completing);
@@ -15,13 +15,13 @@ void MovieCompletion::goesOnWith(const BoundedTask &completing)
 
 bool MovieCompletion::waitForAll(std::chrono::steady_clock::time_point deadline)
 {
-    std::vector<BoundedTask> open;
+    std::vector<BoundedTask<void>> open;
     {
         const std::lock_guard<std::mutex> lock(mutex);
         open = std::exchange(tasks, {});
     }
     bool all = true;
-    for (const BoundedTask &task : open) {
+    for (const BoundedTask<void> &task : open) {
         if (!task.waitUntil(deadline)) {
             goesOnWith(task);
             all = false;

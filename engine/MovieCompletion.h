@@ -11,7 +11,7 @@
  */
 namespace MovieCompletion {
 
-void goesOnWith(const BoundedTask &completing);
+void goesOnWith(const BoundedTask<void> &completing);
 
 /// True when all files are complete at @p deadline, or earlier.
 bool waitForAll(std::chrono::steady_clock::time_point deadline);

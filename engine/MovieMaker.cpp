@@ -139,11 +139,10 @@ static std::shared_ptr<MovieRecorder> startWithin(milliseconds limit, const QStr
                                                   const MovieCoding &coding,
                                                   const std::function<void()> &failed)
 {
-    const auto started = std::make_shared<std::shared_ptr<MovieRecorder>>();
-    const BoundedTask starting([started, path, format, coding, failed] {
-        *started = MovieRecorder::start(path, format, coding, failed);
+    const BoundedTask starting([path, format, coding, failed] {
+        return MovieRecorder::start(path, format, coding, failed);
     });
-    return starting.waitUntil(steady_clock::now() + limit) ? *started : nullptr;
+    return starting.waitUntil(steady_clock::now() + limit).value_or(nullptr);
 }
 
 MovieOutcome MovieMaker::begin(const QString &path, const GstVideoInfo &format)

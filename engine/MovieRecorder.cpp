@@ -399,7 +399,7 @@ bool MovieRecorder::Progress::waitForEnd()
 }
 
 // On the side: nothing of it may make anybody wait for ever.
-BoundedTask MovieRecorder::completing()
+BoundedTask<void> MovieRecorder::completing()
 {
     m_frames.reset();
     m_sound.reset();
@@ -419,7 +419,7 @@ BoundedTask MovieRecorder::completing()
 
 bool MovieRecorder::complete(steady_clock::time_point deadline)
 {
-    const BoundedTask task = completing();
+    const BoundedTask<void> task = completing();
     int before = -1;
     bool done = task.waitUntil(steady_clock::now());
     while (!done && steady_clock::now() < deadline && m_progress->steps() != before) {

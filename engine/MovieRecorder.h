@@ -86,7 +86,7 @@ private:
     void pushSound(qint64 position);
     qint64 endOfMovie() const;
     void endPicture(qint64 end);
-    BoundedTask completing();
+    BoundedTask<void> completing();
     bool complete(std::chrono::steady_clock::time_point deadline);
 
     const QString m_path;

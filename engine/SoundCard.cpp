@@ -30,19 +30,18 @@ bool SoundCard::canBeOpened(milliseconds limit)
     const auto now = steady_clock::now();
     if (!m_trial && m_tried && now < m_triedAt + remembered)
         return m_opened;
-    if (!m_trial) {
-        m_outcome = std::make_shared<bool>(false);
-        m_trial = std::make_unique<BoundedTask>([outcome = m_outcome] { *outcome = opens(); });
-    }
-    if (!m_trial->waitUntil(now + limit)) {
+    if (!m_trial)
+        m_trial.emplace(opens);
+    const std::optional<bool> opened = m_trial->waitUntil(now + limit);
+    if (!opened) {
         qCWarning(engineLog, "the sound card does not answer");
         return false;
     }
     m_trial.reset();
-    const bool isOther = m_tried && *m_outcome != m_opened;
+    const bool isOther = m_tried && *opened != m_opened;
     m_tried = true;
     m_triedAt = steady_clock::now();
-    m_opened = *m_outcome;
+    m_opened = *opened;
     qCInfo(engineLog, m_opened ? "the sound card can be opened" : "no sound card can be opened");
     if (isOther)
         m_changed();

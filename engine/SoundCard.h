@@ -5,7 +5,7 @@
 
 #include <chrono>
 #include <functional>
-#include <memory>
+#include <optional>
 
 /**
  * The sound system's own default source: the microphone of a machine without a sound server.
@@ -26,8 +26,7 @@ public:
 
 private:
     std::function<void()> m_changed;
-    std::shared_ptr<bool> m_outcome; ///< where the trial leaves it
-    std::unique_ptr<BoundedTask> m_trial; ///< while one is under way
+    std::optional<BoundedTask<bool>> m_trial; ///< while one is under way
     bool m_tried = false;
     bool m_opened = false; ///< in the last trial
     std::chrono::steady_clock::time_point m_triedAt;

@@ -7,8 +7,6 @@
 #include <functional>
 #include <memory>
 
-class BoundedTask;
-
 /**
  * The sound server as far as microphones go: whether it is there, and which of its sources is the
  * microphone. Once connected it is told of every source that comes and goes, and of the server's

@@ -4,6 +4,8 @@
 #include <QTest>
 
 #include <future>
+#include <optional>
+#include <thread>
 
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
@@ -11,19 +13,52 @@ using std::chrono::steady_clock;
 class TestBoundedTask : public QObject {
     Q_OBJECT
 
-private slots:
-    void finishedWorkIsReported();
+private Q_SLOTS:
+    void theResultOfFinishedWorkIsReported();
+    void workInTheMiddleHasNoResult();
+    void aResultThatNobodyWaitsForGoesOnTheThreadThatMadeIt();
     void hangingWorkIsNotWaitedForLongerThanAsked();
     void whatTheWorkOwnsIsGoneWhenItIsDone();
     void hangingWorkOutlivesWhoeverAskedForIt();
 };
 
-void TestBoundedTask::finishedWorkIsReported()
+void TestBoundedTask::theResultOfFinishedWorkIsReported()
 {
-    auto result = std::make_shared<int>(0);
-    const BoundedTask task([result] { *result = 7; });
-    QVERIFY(task.waitUntil(steady_clock::now() + milliseconds(5000)));
-    QCOMPARE(*result, 7);
+    const BoundedTask task([] { return 7; });
+    QCOMPARE(task.waitUntil(steady_clock::now() + milliseconds(5000)), std::optional<int>(7));
+}
+
+void TestBoundedTask::workInTheMiddleHasNoResult()
+{
+    auto release = std::make_shared<std::promise<void>>();
+    const BoundedTask task([release] {
+        release->get_future().wait();
+        return false;
+    });
+    QVERIFY(!task.waitUntil(steady_clock::now() + milliseconds(20)).has_value());
+    release->set_value();
+    QCOMPARE(task.waitUntil(steady_clock::now() + milliseconds(5000)), std::optional<bool>(false));
+}
+
+void TestBoundedTask::aResultThatNobodyWaitsForGoesOnTheThreadThatMadeIt()
+{
+    auto release = std::make_shared<std::promise<void>>();
+    auto ended = std::make_shared<std::promise<std::thread::id>>();
+    std::future<std::thread::id> end = ended->get_future();
+    {
+        const BoundedTask task([release, ended] {
+            release->get_future().wait();
+            return std::shared_ptr<int>(
+                new int(1),
+                [ended](const int *result) {
+                    delete result;
+                    ended->set_value(std::this_thread::get_id());
+                });
+        });
+    }
+    release->set_value();
+    QCOMPARE(end.wait_for(milliseconds(5000)), std::future_status::ready);
+    QVERIFY(end.get() != std::this_thread::get_id());
 }
 
 void TestBoundedTask::hangingWorkIsNotWaitedForLongerThanAsked()
