@@ -1,36 +1,21 @@
 #include "DeviceProviders.h"
 
 #include "BoundedTask.h"
+#include "ChangeListeners.h"
 #include "EngineLog.h"
 #include "MediaConnection.h"
-#include "SoundServer.h"
 
 #include <QSocketNotifier>
 
 #include <algorithm>
-#include <mutex>
 #include <optional>
 
 using std::chrono::steady_clock;
 
-// Whom a change is told. Never destroyed, because a provider may speak until the process ends.
-namespace {
-struct Listeners {
-    std::mutex mutex; ///< guards all
-    QVector<const std::function<void()> *> all;
-
-    void tell()
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        for (const std::function<void()> *listener : qAsConst(all))
-            (*listener)();
-    }
-};
-} // namespace
-
-static Listeners &listeners()
+// Never destroyed, because a provider may speak until the process ends.
+static ChangeListeners &listeners()
 {
-    static auto *const shared = new Listeners;
+    static auto *const shared = new ChangeListeners;
     return *shared;
 }
 
@@ -101,7 +86,6 @@ struct Source {
 struct Sources {
     Source videoNodes;
     Source mediaServer;
-    SoundServer soundServer{[] { listeners().tell(); }};
 };
 } // namespace
 
@@ -177,24 +161,20 @@ static void awaitStart(Source &source, steady_clock::time_point deadline)
 DeviceProviders::DeviceProviders(std::function<void()> changed)
     : m_changed(std::move(changed))
 {
-    const std::lock_guard<std::mutex> lock(listeners().mutex);
-    listeners().all.append(&m_changed);
+    listeners().add(&m_changed);
 }
 
 DeviceProviders::~DeviceProviders()
 {
-    const std::lock_guard<std::mutex> lock(listeners().mutex);
-    listeners().all.removeOne(&m_changed);
+    listeners().remove(&m_changed);
 }
 
-void DeviceProviders::start(std::chrono::milliseconds limit)
+void DeviceProviders::start(steady_clock::time_point deadline)
 {
-    const auto deadline = steady_clock::now() + limit;
     Sources &all = sources();
     beginToStart(all.videoNodes);
     if (connectMediaServer(all.mediaServer))
         beginToStart(all.mediaServer);
-    all.soundServer.start(deadline);
     awaitStart(all.videoNodes, deadline);
     awaitStart(all.mediaServer, deadline);
 }
@@ -224,19 +204,4 @@ bool DeviceProviders::contains(const CameraDevice &camera)
     return std::any_of(all.begin(), all.end(), [&camera](const CameraDeviceHandle &listed) {
         return listed->isSameAs(camera);
     });
-}
-
-bool DeviceProviders::hasSoundServer()
-{
-    return sources().soundServer.isThere();
-}
-
-bool DeviceProviders::hasMicrophone()
-{
-    return !microphone().isEmpty();
-}
-
-QByteArray DeviceProviders::microphone()
-{
-    return sources().soundServer.microphone();
 }

@@ -3,19 +3,18 @@
 
 #include "CameraDevice.h"
 
-#include <QByteArray>
 #include <QVector>
 
 #include <chrono>
 #include <functional>
 
 /**
- * The sources of cameras and microphones: the system's video nodes, the media server and the sound
- * server, each asked directly. (The common monitor over all of them hides one behind the other and
- * reports devices twice.) Once started they know of every device that comes and goes.
+ * The sources of cameras: the system's video nodes and the media server, each asked directly. (The
+ * common monitor over both hides one behind the other and reports devices twice.) Once started they
+ * know of every camera that comes and goes.
  *
  * All engines of a process share one set of them. A server may be started anew at any time: its end
- * is noticed at once and counts as the removal of all its devices, and the next start() finds the
+ * is noticed at once and counts as the removal of all its cameras, and the next start() finds the
  * new one. The media server's provider is let go only then; it frees memory twice when it is
  * stopped while its server is still answering.
  *
@@ -28,30 +27,21 @@
  */
 class DeviceProviders {
 public:
-    /// @p changed is called, on any thread, when a device came or went.
+    /// @p changed is called, on any thread, when a camera came or went.
     explicit DeviceProviders(std::function<void()> changed);
     ~DeviceProviders();
     Q_DISABLE_COPY(DeviceProviders)
 
-    /// Starts every provider that does not run yet; waits for at most @p limit.
-    static void start(std::chrono::milliseconds limit);
+    /// Starts every provider that does not run yet; waits for them until @p deadline at most.
+    static void start(std::chrono::steady_clock::time_point deadline);
 
     static QVector<CameraDeviceHandle> cameras();
 
     /// Whether the very device that was listed before is still there.
     static bool contains(const CameraDevice &camera);
 
-    /// Whether there is a sound server; one that does not answer counts.
-    static bool hasSoundServer();
-
-    /// Whether the sound server has a source other than a loudspeaker's monitor.
-    static bool hasMicrophone();
-
-    /// The sound server's name for the microphone to listen to, empty when there is none.
-    static QByteArray microphone();
-
 private:
-    std::function<void()> m_changed;
+    const std::function<void()> m_changed;
 };
 
 #endif

@@ -10,27 +10,26 @@
 #include "EngineLog.h"
 #include "GrabThread.h"
 #include "GstStart.h"
+#include "MicrophoneFinder.h"
 #include "ModeChooser.h"
 #include "MovieCompletion.h"
 #include "MovieMaker.h"
 #include "PatientWait.h"
 #include "PictureConverter.h"
-#include "SoundCard.h"
 #include "StillWriter.h"
 #include "TargetPainter.h"
 
-#include <QElapsedTimer>
+using std::chrono::steady_clock;
 
 // On a slow machine every moment that a person will wait counts: a camera that is listed late is
 // one that was not there.
 static const std::chrono::milliseconds listLimit = PatientCall::usualLimit;
-static const std::chrono::milliseconds soundCardLimit(1000);
 static const int openLimit = 4400; // ms, which leaves a moment for closing what sends nothing
 // The camera's frame is there; only the disk can make it late, and it is not given up for that.
 static const std::chrono::milliseconds stillLimit(30000);
 static const std::chrono::seconds completionLimit(10);
-static const std::chrono::milliseconds quickListLimit(200); // when a movie waits for it
-static const int soundCardMemory = 2000; // ms that a card which did not open is not asked again
+static const std::chrono::milliseconds
+    quickListLimit(200); // when a movie waits for the sound server
 
 /// A listed camera and what opens it.
 struct Camera {
@@ -42,10 +41,12 @@ class LiveVideoData::Private {
 public:
     explicit Private(LiveVideoData *engine)
         : q(engine)
-        , providers([engine] { QMetaObject::invokeMethod(engine, "device", Qt::QueuedConnection); })
+        , providers(lookAgain(engine))
+        , microphones(lookAgain(engine))
     {
     }
 
+    static std::function<void()> lookAgain(LiveVideoData *engine);
     static QVector<Camera> listCameras();
     bool open(const Camera &camera, const QSize &size);
     void close();
@@ -57,6 +58,7 @@ public:
 
     LiveVideoData *q;
     DeviceProviders providers;
+    MicrophoneFinder microphones;
     TargetPainter painter;
     QVector<ListedDevice> lastList; ///< what the indices of SetVideoDevice() mean
     DeviceChoice choice;
@@ -65,9 +67,7 @@ public:
     GrabThread *thread = nullptr; ///< null while there is none, or it is lost
     Camera camera;
     bool showing = false;
-    MovieMaker movie{[this] { Q_EMIT q->recordend(); }};
-    QElapsedTimer asked; ///< since the last movie was asked for
-    SoundCard soundCard{[this] { movie.devicesChanged(); }}; ///< asked without a sound server only
+    MovieMaker movie{microphones, [this] { Q_EMIT q->recordend(); }};
 };
 
 static QVector<ListedDevice> devicesOf(const QVector<Camera> &cameras)
@@ -78,11 +78,20 @@ static QVector<ListedDevice> devicesOf(const QVector<Camera> &cameras)
     return devices;
 }
 
+// What any thread calls when a device came or went.
+std::function<void()> LiveVideoData::Private::lookAgain(LiveVideoData *engine)
+{
+    return [engine] { QMetaObject::invokeMethod(engine, "device", Qt::QueuedConnection); };
+}
+
 QVector<Camera> LiveVideoData::Private::listCameras()
 {
     if (!gstreamerIsReady())
         return {};
-    DeviceProviders::start(listLimit);
+    const auto deadline = steady_clock::now() + listLimit;
+    MicrophoneFinder::begin(); // so that all servers think at the same time
+    DeviceProviders::start(deadline);
+    MicrophoneFinder::waitUntil(deadline);
     QVector<DeviceRecord> records;
     QVector<CameraDeviceHandle> handles = DeviceProviders::cameras();
     for (const CameraDeviceHandle &known : qAsConst(handles))
@@ -304,23 +313,20 @@ bool LiveVideoData::SaveBitmap(QString path)
         PictureConverter converter(QImage::Format_RGB888);
         return writeStill(converter.convert(*frame, frame->size()), path);
     });
-    return writing.waitUntil(std::chrono::steady_clock::now() + stillLimit).value_or(false);
+    return writing.waitUntil(steady_clock::now() + stillLimit).value_or(false);
 }
 
 void LiveVideoData::Record(const QString &path)
 {
     const PatientCall call;
-    d->asked.start();
     const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
     if (!frame) {
         d->movie.refuse(MovieOutcome::NoCamera);
         return;
     }
-    DeviceProviders::start(quickListLimit);
-    if (DeviceProviders::hasSoundServer() && !DeviceProviders::hasMicrophone())
-        d->movie.refuse(MovieOutcome::NoMicrophone);
-    else
-        d->movie.record(path, frame->picture().info);
+    MicrophoneFinder::begin();
+    MicrophoneFinder::waitUntil(steady_clock::now() + quickListLimit);
+    d->movie.record(path, frame->picture().info);
 }
 
 void LiveVideoData::RecordStop()
@@ -332,7 +338,7 @@ void LiveVideoData::RecordStop()
 bool LiveVideoData::CompleteMovies()
 {
     const PatientCall call(completionLimit);
-    return MovieCompletion::waitForAll(std::chrono::steady_clock::now() + completionLimit);
+    return MovieCompletion::waitForAll(steady_clock::now() + completionLimit);
 }
 
 // What is asked right after Record() is asked about that: a camera or a server that changes in the
@@ -350,15 +356,9 @@ bool LiveVideoData::IsValidAudioDevice()
         return false;
     if (d->movie.outcome() == MovieOutcome::Begun)
         return true;
-    DeviceProviders::start(listLimit);
-    const bool hasServer = DeviceProviders::hasSoundServer();
-    // Nobody tells when a sound card can be opened again.
-    const bool isRefused = d->movie.outcome() == MovieOutcome::NoMicrophone
-        && (hasServer || !d->asked.hasExpired(soundCardMemory));
-    if (isRefused)
-        return false;
-    return hasServer ? DeviceProviders::hasMicrophone()
-                     : d->movie.isListening() || d->soundCard.canBeOpened(soundCardLimit);
+    MicrophoneFinder::begin();
+    MicrophoneFinder::waitUntil(steady_clock::now() + listLimit);
+    return d->microphones.canBeUsed();
 }
 
 bool LiveVideoData::IsRecording()

@@ -1,7 +1,6 @@
 #include "Microphone.h"
 
 #include "BoundedTask.h"
-#include "DeviceProviders.h"
 #include "EngineLog.h"
 #include "MovieRecorder.h"
 #include "SoundTrack.h"
@@ -25,8 +24,7 @@ static const char cardSource[] = "alsasrc";
 class Microphone::Chain {
 public:
     ~Chain();
-    /// @p device is the source's name, or empty. False when there is nothing behind it.
-    bool connect(const char *element, const QByteArray &device);
+    bool connect(const SoundSource &source); ///< false when there is nothing behind it
     bool listen(); ///< false when there is no microphone behind it
 
     std::mutex mutex; ///< guards recorder
@@ -92,9 +90,10 @@ bool Microphone::Chain::isRefused()
     return GstMiniHandle<GstMessage>(gst_bus_pop_filtered(bus.get(), GST_MESSAGE_ERROR)) != nullptr;
 }
 
-bool Microphone::Chain::connect(const char *element, const QByteArray &device)
+bool Microphone::Chain::connect(const SoundSource &source)
 {
-    const QByteArray description = QByteArray(element)
+    const QByteArray description =
+        QByteArray(source.kind == SoundSource::Kind::Server ? serverSource : cardSource)
         + " name=source provide-clock=false ! audioconvert ! audioresample !"
           " audio/x-raw,format=S16LE,layout=interleaved,rate="
         + QByteArray::number(SoundTrack::rate) + ",channels="
@@ -112,8 +111,8 @@ bool Microphone::Chain::connect(const char *element, const QByteArray &device)
     gst_app_sink_set_callbacks(GST_APP_SINK(sink.get()), &callbacks, this, nullptr);
     const GstObjectHandle<GstElement> microphone(
         gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "source"));
-    if (!device.isEmpty())
-        g_object_set(microphone.get(), "device", device.constData(), nullptr);
+    if (!source.name.isEmpty())
+        g_object_set(microphone.get(), "device", source.name.constData(), nullptr);
     g_signal_connect(microphone.get(), "notify::current-device", G_CALLBACK(onConnected), this);
     return gst_element_set_state(m_pipeline.get(), GST_STATE_READY) != GST_STATE_CHANGE_FAILURE;
 }
@@ -124,25 +123,18 @@ bool Microphone::Chain::listen()
         && !isRefused();
 }
 
-std::unique_ptr<Microphone> Microphone::open(milliseconds limit)
+std::shared_ptr<Microphone> Microphone::open(const SoundSource &source, milliseconds limit)
 {
-    const bool hasServer = DeviceProviders::hasSoundServer();
-    const QByteArray device = DeviceProviders::microphone();
-    const BoundedTask opening([hasServer, device]() -> std::shared_ptr<Chain> {
-        // A sound server without a microphone has the last word.
-        if (hasServer && device.isEmpty())
-            return nullptr;
+    const BoundedTask opening([source]() -> std::shared_ptr<Chain> {
         auto chain = std::make_shared<Chain>();
-        if (!chain->connect(hasServer ? serverSource : cardSource, device) || !chain->listen())
-            return nullptr;
-        return chain;
+        return chain->connect(source) && chain->listen() ? chain : nullptr;
     });
     std::shared_ptr<Chain> chain = opening.waitUntil(steady_clock::now() + limit).value_or(nullptr);
     if (!chain) {
         qCInfo(engineLog, "no microphone can be opened");
         return nullptr;
     }
-    return std::unique_ptr<Microphone>(new Microphone(std::move(chain)));
+    return std::shared_ptr<Microphone>(new Microphone(std::move(chain)));
 }
 
 Microphone::Microphone(std::shared_ptr<Chain> chain)

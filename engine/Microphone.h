@@ -3,14 +3,27 @@
 
 #include "GstHandles.h"
 
+#include <QByteArray>
+
 #include <chrono>
 #include <memory>
 
 class MovieRecorder;
 
+/// What can be listened to.
+struct SoundSource {
+    enum class Kind {
+        Server, ///< a source of the sound server
+        Card, ///< the sound system's own default source
+    };
+
+    Kind kind = Kind::Card;
+    QByteArray name; ///< the server's for it; empty for a card
+};
+
 /**
- * The microphone while a movie is recorded: the source that the sound server was last heard to have
- * for one, or without a sound server the sound system's own. Nothing listens between movies.
+ * The microphone while a movie is recorded. Nothing listens between movies. Which source it is, and
+ * whether there is one, is for MicrophoneFinder to say.
  *
  * A microphone that is lost just falls silent; no other one takes its place in the middle of a
  * movie.
@@ -20,8 +33,9 @@ class MovieRecorder;
  */
 class Microphone {
 public:
-    /// Null when there is none, or it does not open within @p limit.
-    static std::unique_ptr<Microphone> open(std::chrono::milliseconds limit);
+    /// Null when @p source does not open within @p limit.
+    static std::shared_ptr<Microphone> open(const SoundSource &source,
+                                            std::chrono::milliseconds limit);
     ~Microphone();
     Microphone(const Microphone &) = delete;
     Microphone &operator=(const Microphone &) = delete;

@@ -91,8 +91,9 @@ private:
     int m_movie = 0; ///< number of the one that is watched
 };
 
-MovieMaker::MovieMaker(std::function<void()> ended)
-    : m_tap(std::make_shared<FrameTap>())
+MovieMaker::MovieMaker(MicrophoneFinder &microphones, std::function<void()> ended)
+    : m_microphones(microphones)
+    , m_tap(std::make_shared<FrameTap>())
     , m_watch(std::make_unique<Watch>(std::move(ended)))
 {
 }
@@ -117,6 +118,7 @@ void MovieMaker::record(const QString &path, const GstVideoInfo &format)
 {
     if (m_recorder)
         return;
+    devicesChanged(); // from now on the question is about this movie
     m_outcome = begin(path, format);
     if (m_outcome != MovieOutcome::Begun) {
         qCInfo(engineLog) << "no movie begins, outcome" << int(m_outcome);
@@ -124,12 +126,16 @@ void MovieMaker::record(const QString &path, const GstVideoInfo &format)
         m_microphone.reset();
         m_recorder.reset();
     }
+    if (m_outcome == MovieOutcome::NoMicrophone)
+        m_microphones.refuse();
 }
 
 void MovieMaker::refuse(MovieOutcome why)
 {
-    if (!m_recorder)
-        m_outcome = why;
+    if (m_recorder)
+        return;
+    devicesChanged();
+    m_outcome = why;
 }
 
 // An encoder's driver and a disk may hang: a movie that begins too late is ended by its last owner,
@@ -147,11 +153,13 @@ static std::shared_ptr<MovieRecorder> startWithin(milliseconds limit, const QStr
 
 MovieOutcome MovieMaker::begin(const QString &path, const GstVideoInfo &format)
 {
+    if (!MicrophoneFinder::source())
+        return MovieOutcome::NoMicrophone;
     const MovieCoding coding =
         m_search ? m_search->waitUntil(steady_clock::now() + startLimit) : MovieCoding();
     if (!coding.isComplete())
         return MovieOutcome::NoEncoder;
-    m_microphone = Microphone::open(startLimit);
+    m_microphone = m_microphones.open(startLimit);
     if (!m_microphone)
         return MovieOutcome::NoMicrophone;
     m_recorder = startWithin(startLimit, path, format, coding, m_watch->next());
@@ -180,4 +188,5 @@ void MovieMaker::stop()
 void MovieMaker::devicesChanged()
 {
     m_outcome = MovieOutcome::None;
+    m_microphones.forgetRefusal();
 }

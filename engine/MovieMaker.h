@@ -2,7 +2,7 @@
 #define MOVIEMAKER_H
 
 #include "FrameTap.h"
-#include "Microphone.h"
+#include "MicrophoneFinder.h"
 #include "MovieCoding.h"
 
 #include <gst/video/video.h>
@@ -33,7 +33,8 @@ class MovieMaker {
 public:
     /// @p ended is called on the GUI thread when a movie that is being recorded cannot go on, once
     /// for each such movie and never from within an operation.
-    explicit MovieMaker(std::function<void()> ended);
+    /// @p microphones must outlive this.
+    MovieMaker(MicrophoneFinder &microphones, std::function<void()> ended);
     /// Completes a movie that is being recorded, and waits a while for files that are still being
     /// completed.
     ~MovieMaker();
@@ -66,13 +67,14 @@ private:
 
     MovieOutcome begin(const QString &path, const GstVideoInfo &format);
 
+    MicrophoneFinder &m_microphones;
     const std::shared_ptr<FrameTap> m_tap;
     std::unique_ptr<MovieCodingSearch> m_search; ///< null until the first camera
     QSize m_searchedSize;
     double m_searchedRate = 0;
     const std::unique_ptr<Watch> m_watch;
     std::shared_ptr<MovieRecorder> m_recorder; ///< null while no movie is recorded
-    std::unique_ptr<Microphone> m_microphone; ///< likewise
+    std::shared_ptr<Microphone> m_microphone; ///< likewise
     QByteArray m_encoder; ///< of the picture of the last movie
     MovieOutcome m_outcome = MovieOutcome::None;
 };

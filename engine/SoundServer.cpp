@@ -201,7 +201,7 @@ void SoundServer::end()
     m_client.reset();
 }
 
-void SoundServer::start(steady_clock::time_point deadline)
+void SoundServer::begin()
 {
     if (m_client && m_client->state() == Client::State::Ended)
         end();
@@ -209,6 +209,10 @@ void SoundServer::start(steady_clock::time_point deadline)
         m_client = std::make_shared<Client>(m_changed);
         const BoundedTask connecting([client = m_client] { client->connect(); });
     }
+}
+
+void SoundServer::waitUntil(steady_clock::time_point deadline) const
+{
     if (!m_client->waitUntil(deadline))
         qCWarning(engineLog, "the sound server does not answer");
 }

@@ -10,7 +10,7 @@
 /**
  * The sound server as far as microphones go: whether it is there, and which of its sources is the
  * microphone. Once connected it is told of every source that comes and goes, and of the server's
- * end; a server that was started anew is connected to by the next start().
+ * end; a server that was started anew is connected to by the next begin().
  *
  * A server that hangs cannot hang its caller: all questions are answered from what was heard last.
  *
@@ -25,8 +25,12 @@ public:
     SoundServer(const SoundServer &) = delete;
     SoundServer &operator=(const SoundServer &) = delete;
 
-    /// Connects, unless that is done; waits for the list of sources until @p deadline at most.
-    void start(std::chrono::steady_clock::time_point deadline);
+    /// Connects, unless that is done; does not wait for the answer.
+    void begin();
+
+    /// Waits until @p deadline at most for the list of sources, or to hear that there is no server.
+    /// Only after begin().
+    void waitUntil(std::chrono::steady_clock::time_point deadline) const;
 
     /// One that does not answer counts.
     bool isThere() const;
@@ -41,7 +45,7 @@ private:
     void end();
 
     std::function<void()> m_changed;
-    std::shared_ptr<Client> m_client; ///< null before the first start, and when no server answered
+    std::shared_ptr<Client> m_client; ///< null before begin(), and when its server has ended
 };
 
 #endif

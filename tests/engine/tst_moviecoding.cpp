@@ -259,7 +259,8 @@ void TestMovieCoding::aDriverThatHangsKeepsNoMovieFromBeginning()
     GstVideoInfo format;
     gst_video_info_set_format(&format, GST_VIDEO_FORMAT_I420, 640, 480);
     const QTemporaryDir folder;
-    MovieMaker maker([] {});
+    MicrophoneFinder microphones([] {});
+    MovieMaker maker(microphones, [] {});
     maker.prepare({640, 480}, 30);
     QElapsedTimer timer;
     timer.start();
@@ -392,7 +393,8 @@ void TestMovieCoding::withoutACoderForThePictureTheCodingIsIncomplete()
     const QTemporaryDir folder;
     GstVideoInfo format;
     gst_video_info_set_format(&format, GST_VIDEO_FORMAT_I420, 640, 480);
-    MovieMaker maker([] {});
+    MicrophoneFinder microphones([] {});
+    MovieMaker maker(microphones, [] {});
     maker.prepare({640, 480}, 30);
     maker.record(folder.filePath("movie.mov"), format);
     QVERIFY(maker.outcome() == MovieOutcome::NoEncoder);

@@ -24,7 +24,7 @@ private Q_SLOTS:
     void theEndOfTheServerIsToldAndTheNextStartFindsTheNewOne();
 
 private:
-    void start() { m_server->start(steady_clock::now() + std::chrono::seconds(5)); }
+    void start();
     QByteArray plugIn(const QString &name);
 
     QList<QByteArray> m_plugged; ///< the server's numbers for what plugIn() made
@@ -66,6 +66,12 @@ void TestSoundServer::cleanup()
         pactl({"unload-module", module});
     m_plugged.clear();
     QVERIFY(setDefault("labmic"));
+}
+
+void TestSoundServer::start()
+{
+    m_server->begin();
+    m_server->waitUntil(steady_clock::now() + std::chrono::seconds(5));
 }
 
 QByteArray TestSoundServer::plugIn(const QString &name)

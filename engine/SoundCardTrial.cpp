@@ -1,4 +1,4 @@
-#include "SoundCard.h"
+#include "SoundCardTrial.h"
 
 #include "EngineLog.h"
 #include "GstHandles.h"
@@ -6,7 +6,8 @@
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-static const milliseconds remembered(2000);
+static const milliseconds
+    remembered(2000); // a card plugged in is found the next time the user tries
 
 static bool opens()
 {
@@ -20,30 +21,20 @@ static bool opens()
     return opened;
 }
 
-SoundCard::SoundCard(std::function<void()> changed)
-    : m_changed(std::move(changed))
-{
-}
-
-bool SoundCard::canBeOpened(milliseconds limit)
+bool SoundCardTrial::canBeOpened(milliseconds limit)
 {
     const auto now = steady_clock::now();
-    if (!m_trial && m_tried && now < m_triedAt + remembered)
-        return m_opened;
+    if (!m_trial && m_opened && now < m_triedAt + remembered)
+        return *m_opened;
     if (!m_trial)
         m_trial.emplace(opens);
-    const std::optional<bool> opened = m_trial->waitUntil(now + limit);
-    if (!opened) {
+    m_opened = m_trial->waitUntil(now + limit);
+    if (!m_opened) {
         qCWarning(engineLog, "the sound card does not answer");
         return false;
     }
     m_trial.reset();
-    const bool isOther = m_tried && *opened != m_opened;
-    m_tried = true;
     m_triedAt = steady_clock::now();
-    m_opened = *opened;
-    qCInfo(engineLog, m_opened ? "the sound card can be opened" : "no sound card can be opened");
-    if (isOther)
-        m_changed();
-    return m_opened;
+    qCInfo(engineLog, *m_opened ? "the sound card can be opened" : "no sound card can be opened");
+    return *m_opened;
 }
