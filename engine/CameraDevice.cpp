@@ -20,7 +20,7 @@ static QString firstOf(const GstStructure *properties, std::initializer_list<con
     return {};
 }
 
-static DeviceRecord recordOf(GstDevice *device, const GstStructure *properties)
+static DeviceRecord recordOf(GstDevice *device)
 {
     DeviceRecord record;
     const GlibString name(gst_device_get_display_name(device));
@@ -31,6 +31,8 @@ static DeviceRecord recordOf(GstDevice *device, const GstStructure *properties)
     const QVector<CameraMode> modes = modesOf(caps.get());
     record.hasColour = std::any_of(modes.begin(), modes.end(),
                                    [](const CameraMode &mode) { return !mode.isGrey(); });
+    const GstStructureHandle owned(gst_device_get_properties(device));
+    const GstStructure *properties = owned.get();
     if (!properties)
         return record;
     record.nodeName = property(properties, "node.name");
@@ -51,7 +53,7 @@ static DeviceRecord recordOf(GstDevice *device, const GstStructure *properties)
 
 // The media server numbers what it has, a serial is never used twice. A video node has its path; a
 // camera that was pulled out and came back to it has failed in between.
-static QString presenceOf(const DeviceRecord &record, const GstStructure *properties)
+static QString markOf(const DeviceRecord &record, const GstStructure *properties)
 {
     QString number;
     if (properties)
@@ -60,18 +62,18 @@ static QString presenceOf(const DeviceRecord &record, const GstStructure *proper
         + QLatin1Char('|') + record.busPath + QLatin1Char('|') + record.serial;
 }
 
-CameraDevice::CameraDevice(GstDeviceHandle device, std::shared_ptr<MediaConnection> connection)
-    : m_device(std::move(device))
-    , m_connection(std::move(connection))
+static CameraPresence presenceOf(GstDevice *device, std::shared_ptr<const void> connection)
 {
-    const GstStructureHandle properties(gst_device_get_properties(m_device.get()));
-    m_record = recordOf(m_device.get(), properties.get());
-    m_presence = presenceOf(m_record, properties.get());
+    const GstStructureHandle properties(gst_device_get_properties(device));
+    return {std::move(connection), markOf(recordOf(device), properties.get())};
 }
 
-GstMiniHandle<GstCaps> CameraDevice::caps() const
+CameraDevice::CameraDevice(GstDeviceHandle device, std::shared_ptr<MediaConnection> connection)
+    : Camera(recordOf(device.get()), presenceOf(device.get(), connection),
+             GstMiniHandle<GstCaps>(gst_device_get_caps(device.get())))
+    , m_device(std::move(device))
+    , m_connection(std::move(connection))
 {
-    return GstMiniHandle<GstCaps>(gst_device_get_caps(m_device.get()));
 }
 
 static void letGo(gpointer connection)
@@ -89,9 +91,4 @@ GstObjectHandle<GstElement> CameraDevice::makeSource() const
                                new std::shared_ptr<MediaConnection>(m_connection), letGo);
     }
     return source;
-}
-
-bool CameraDevice::isSameAs(const CameraDevice &other) const
-{
-    return m_connection == other.m_connection && m_presence == other.m_presence;
 }

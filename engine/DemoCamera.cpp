@@ -14,12 +14,7 @@
 static const int pictureWidth = 1280;
 static const int pictureHeight = 720;
 
-bool demoCameraIsWanted()
-{
-    return qgetenv("ORVANTA_DEMO_CAMERA") == "1";
-}
-
-DeviceRecord demoCameraRecord()
+static DeviceRecord description()
 {
     DeviceRecord record;
     record.origin = DeviceRecord::Origin::Demonstration;
@@ -29,9 +24,21 @@ DeviceRecord demoCameraRecord()
     return record;
 }
 
-CameraMode demoCameraMode()
+static GstMiniHandle<GstCaps> onlyFormat()
 {
-    return {CameraMode::Coding::Raw, "BGRx", pictureWidth, pictureHeight, 30, 1};
+    return GstMiniHandle<GstCaps>(gst_caps_new_simple(
+        "video/x-raw", "format", G_TYPE_STRING, "BGRx", "width", G_TYPE_INT, pictureWidth, "height",
+        G_TYPE_INT, pictureHeight, "framerate", GST_TYPE_FRACTION, 30, 1, nullptr));
+}
+
+bool DemoCamera::isWanted()
+{
+    return qgetenv("ORVANTA_DEMO_CAMERA") == "1";
+}
+
+DemoCamera::DemoCamera()
+    : Camera(description(), {nullptr, QStringLiteral("demonstration")}, onlyFormat())
+{
 }
 
 static QPainterPath hills(double base, double height, double phase, double waves)
@@ -111,7 +118,7 @@ static GstPadProbeReturn drawScene(GstPad *, GstPadProbeInfo *info, gpointer)
     return GST_PAD_PROBE_OK;
 }
 
-GstObjectHandle<GstElement> makeDemoCamera()
+GstObjectHandle<GstElement> DemoCamera::makeSource() const
 {
     GstObjectHandle<GstElement> source =
         ownFloating(gst_element_factory_make("videotestsrc", nullptr));

@@ -1,18 +1,20 @@
 #ifndef DEMOCAMERA_H
 #define DEMOCAMERA_H
 
-#include "CameraMode.h"
-#include "DeviceRecord.h"
-#include "GstHandles.h"
+#include "Camera.h"
 
-// The built-in camera for desks without one: a drawn scene with a moving sun and a running clock.
-// It is offered, after all real cameras, when ORVANTA_DEMO_CAMERA is "1".
+/**
+ * The built-in camera for desks without one: a drawn scene with a moving sun and a running clock.
+ * It is offered, after all real cameras, when ORVANTA_DEMO_CAMERA is "1".
+ */
+class DemoCamera : public Camera {
+public:
+    static bool isWanted();
 
-bool demoCameraIsWanted();
-DeviceRecord demoCameraRecord();
-CameraMode demoCameraMode();
+    DemoCamera();
 
-/// The element that delivers its frames; null when GStreamer lacks what it is made of.
-GstObjectHandle<GstElement> makeDemoCamera();
+    GstObjectHandle<GstElement> makeSource() const override;
+    bool canBePulledOut() const override { return false; }
+};
 
 #endif

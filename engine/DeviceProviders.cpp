@@ -1,7 +1,9 @@
 #include "DeviceProviders.h"
 
 #include "BoundedTask.h"
+#include "CameraDevice.h"
 #include "ChangeListeners.h"
+#include "DemoCamera.h"
 #include "EngineLog.h"
 #include "MediaConnection.h"
 
@@ -179,9 +181,9 @@ void DeviceProviders::start(steady_clock::time_point deadline)
     awaitStart(all.mediaServer, deadline);
 }
 
-static QVector<CameraDeviceHandle> camerasOf(const Source &source)
+static QVector<CameraHandle> camerasOf(const Source &source)
 {
-    QVector<CameraDeviceHandle> cameras;
+    QVector<CameraHandle> cameras;
     GList *list =
         source.provider ? gst_device_provider_get_devices(source.provider.get()) : nullptr;
     for (GList *entry = list; entry; entry = entry->next) {
@@ -193,15 +195,19 @@ static QVector<CameraDeviceHandle> camerasOf(const Source &source)
     return cameras;
 }
 
-QVector<CameraDeviceHandle> DeviceProviders::cameras()
+QVector<CameraHandle> DeviceProviders::cameras()
 {
-    return camerasOf(sources().videoNodes) + camerasOf(sources().mediaServer);
+    QVector<CameraHandle> all = camerasOf(sources().videoNodes) + camerasOf(sources().mediaServer);
+    if (DemoCamera::isWanted())
+        all.append(std::make_shared<DemoCamera>());
+    return all;
 }
 
-bool DeviceProviders::contains(const CameraDevice &camera)
+bool DeviceProviders::contains(const Camera &camera)
 {
-    const QVector<CameraDeviceHandle> all = cameras();
-    return std::any_of(all.begin(), all.end(), [&camera](const CameraDeviceHandle &listed) {
-        return listed->isSameAs(camera);
-    });
+    if (!camera.canBePulledOut())
+        return true;
+    const QVector<CameraHandle> all = cameras();
+    return std::any_of(all.begin(), all.end(),
+                       [&camera](const CameraHandle &listed) { return listed->isSameAs(camera); });
 }

@@ -1,7 +1,7 @@
 #ifndef DEVICEPROVIDERS_H
 #define DEVICEPROVIDERS_H
 
-#include "CameraDevice.h"
+#include "Camera.h"
 
 #include <QVector>
 
@@ -35,10 +35,11 @@ public:
     /// Starts every provider that does not run yet; waits for them until @p deadline at most.
     static void start(std::chrono::steady_clock::time_point deadline);
 
-    static QVector<CameraDeviceHandle> cameras();
+    /// All cameras that are there, the demonstration last if it is wanted.
+    static QVector<CameraHandle> cameras();
 
-    /// Whether the very device that was listed before is still there.
-    static bool contains(const CameraDevice &camera);
+    /// Whether the very camera that was listed before is still there.
+    static bool contains(const Camera &camera);
 
 private:
     const std::function<void()> m_changed;

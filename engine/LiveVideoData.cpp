@@ -3,8 +3,6 @@
 #include "BoundedTask.h"
 #include "CameraFrame.h"
 #include "CameraPipeline.h"
-#include "CapsModes.h"
-#include "DemoCamera.h"
 #include "DeviceList.h"
 #include "DeviceProviders.h"
 #include "EngineLog.h"
@@ -31,12 +29,6 @@ static const std::chrono::seconds completionLimit(10);
 static const std::chrono::milliseconds
     quickListLimit(200); // when a movie waits for the sound server
 
-/// A listed camera and what opens it.
-struct Camera {
-    ListedDevice listed;
-    CameraDeviceHandle device; ///< null for the demonstration camera
-};
-
 class LiveVideoData::Private {
 public:
     explicit Private(LiveVideoData *engine)
@@ -47,8 +39,8 @@ public:
     }
 
     static std::function<void()> lookAgain(LiveVideoData *engine);
-    static QVector<Camera> listCameras();
-    bool open(const Camera &camera, const QSize &size);
+    static QVector<CameraHandle> findCameras();
+    bool open(const CameraHandle &chosen, const QSize &size);
     void close();
     void loseCamera();
     std::chrono::milliseconds closingLimit() const;
@@ -65,18 +57,10 @@ public:
 
     // Of the open camera.
     GrabThread *thread = nullptr; ///< null while there is none, or it is lost
-    Camera camera;
+    CameraHandle camera; ///< null while there is none, or it is lost
     bool showing = false;
     MovieMaker movie{microphones, [this] { Q_EMIT q->recordend(); }};
 };
-
-static QVector<ListedDevice> devicesOf(const QVector<Camera> &cameras)
-{
-    QVector<ListedDevice> devices;
-    for (const Camera &camera : cameras)
-        devices.append(camera.listed);
-    return devices;
-}
 
 // What any thread calls when a device came or went.
 std::function<void()> LiveVideoData::Private::lookAgain(LiveVideoData *engine)
@@ -84,7 +68,7 @@ std::function<void()> LiveVideoData::Private::lookAgain(LiveVideoData *engine)
     return [engine] { QMetaObject::invokeMethod(engine, "device", Qt::QueuedConnection); };
 }
 
-QVector<Camera> LiveVideoData::Private::listCameras()
+QVector<CameraHandle> LiveVideoData::Private::findCameras()
 {
     if (!gstreamerIsReady())
         return {};
@@ -92,44 +76,31 @@ QVector<Camera> LiveVideoData::Private::listCameras()
     MicrophoneFinder::begin(); // so that all servers think at the same time
     DeviceProviders::start(deadline);
     MicrophoneFinder::waitUntil(deadline);
+    return DeviceProviders::cameras();
+}
+
+static QVector<ListedDevice> listed(const QVector<CameraHandle> &cameras)
+{
     QVector<DeviceRecord> records;
-    QVector<CameraDeviceHandle> handles = DeviceProviders::cameras();
-    for (const CameraDeviceHandle &known : qAsConst(handles))
-        records.append(known->record());
-    if (demoCameraIsWanted()) {
-        records.append(demoCameraRecord());
-        handles.append(nullptr);
-    }
-    QVector<Camera> cameras;
-    const QVector<ListedDevice> devices = listedDevices(records);
-    for (const ListedDevice &device : devices)
-        cameras.append({device, handles.at(device.record)});
-    return cameras;
+    for (const CameraHandle &camera : cameras)
+        records.append(camera->record());
+    return listedDevices(records);
 }
 
 static std::unique_ptr<CameraPipeline> makePipeline(const Camera &camera, const QSize &size)
 {
-    GstMiniHandle<GstCaps> offered;
-    QVector<CameraMode> modes{demoCameraMode()};
-    if (camera.device) {
-        offered = camera.device->caps();
-        modes = modesOf(offered.get());
-    } else {
-        offered.reset(gst_caps_new_empty_simple("video/x-raw"));
-    }
+    const QVector<CameraMode> modes = camera.modes();
     const int best = bestMode(modes, size);
     if (best < 0)
         return nullptr;
-    const CameraMode mode = modes.at(best);
-    qCInfo(engineLog) << camera.listed.name << "in" << mode.format << mode.size() << mode.rate();
-    GstObjectHandle<GstElement> source =
-        camera.device ? camera.device->makeSource() : makeDemoCamera();
-    return CameraPipeline::build(std::move(source), fixedCaps(offered.get(), mode), mode);
+    const CameraMode &mode = modes.at(best);
+    qCInfo(engineLog) << camera.record().name << "in" << mode.format << mode.size() << mode.rate();
+    return CameraPipeline::build(camera.makeSource(), camera.formatOf(mode), mode);
 }
 
-bool LiveVideoData::Private::open(const Camera &chosen, const QSize &size)
+bool LiveVideoData::Private::open(const CameraHandle &chosen, const QSize &size)
 {
-    std::unique_ptr<CameraPipeline> pipeline = makePipeline(chosen, size);
+    std::unique_ptr<CameraPipeline> pipeline = makePipeline(*chosen, size);
     if (!pipeline)
         return false;
     camera = chosen;
@@ -144,7 +115,7 @@ bool LiveVideoData::Private::open(const Camera &chosen, const QSize &size)
     const bool opened = thread->waitForFrame(openLimit);
     const std::shared_ptr<const CameraFrame> frame = thread->newestFrame();
     if (!opened || !frame) {
-        qCInfo(engineLog) << chosen.listed.name << "gives no picture";
+        qCInfo(engineLog) << chosen->record().name << "gives no picture";
         close();
         return false;
     }
@@ -159,7 +130,7 @@ void LiveVideoData::Private::close()
     movie.stop();
     GrabThread::retire(thread);
     thread = nullptr;
-    camera = {};
+    camera.reset();
     painter.repaintSoon();
 }
 
@@ -195,11 +166,7 @@ void LiveVideoData::Private::followTarget()
 
 QVector<CameraMode> LiveVideoData::Private::modes() const
 {
-    if (!thread)
-        return {};
-    if (!camera.device)
-        return {demoCameraMode()};
-    return modesOf(camera.device->caps().get());
+    return camera ? camera->modes() : QVector<CameraMode>();
 }
 
 LiveVideoData::LiveVideoData()
@@ -231,7 +198,7 @@ void LiveVideoData::SetTarget(QWidget *target)
 QStringList LiveVideoData::GetVideoDeviceList()
 {
     const PatientCall call;
-    d->lastList = devicesOf(Private::listCameras());
+    d->lastList = listed(Private::findCameras());
     QStringList names;
     for (const ListedDevice &device : qAsConst(d->lastList))
         names.append(device.name);
@@ -256,15 +223,15 @@ void LiveVideoData::Create()
     supported = gstreamerIsReady();
     if (!supported)
         return;
-    const QVector<Camera> cameras = Private::listCameras();
-    const QVector<ListedDevice> devices = devicesOf(cameras);
+    const QVector<CameraHandle> cameras = Private::findCameras();
+    const QVector<ListedDevice> devices = listed(cameras);
     const int index = indexOfChoice(devices, d->choice);
     if (index < 0)
         return;
     // From now on the camera is known by what it is, also when nobody chose it.
     if (d->choice.identity.isEmpty())
         d->choice = choiceOf(devices, index);
-    created = d->open(cameras.at(index), {});
+    created = d->open(cameras.at(devices.at(index).record), {});
     videoPresent = created;
     if (!created)
         Q_EMIT deviceerr();
@@ -379,7 +346,7 @@ void LiveVideoData::SetResolution(int width, int height)
     if (bestMode(d->modes(), size) < 0 || size.isEmpty()
         || size == QSize(nativeWidth, nativeHeight))
         return;
-    const Camera camera = d->camera;
+    const CameraHandle camera = d->camera;
     d->close();
     if (d->open(camera, size))
         d->followTarget();
@@ -404,9 +371,9 @@ void LiveVideoData::device()
     d->movie.devicesChanged();
     if (!d->thread)
         return;
-    const bool unplugged = d->camera.device && !DeviceProviders::contains(*d->camera.device);
+    const bool unplugged = !DeviceProviders::contains(*d->camera);
     if (unplugged || d->thread->hasFailed()) {
-        qCInfo(engineLog) << d->camera.listed.name << "is lost";
+        qCInfo(engineLog) << d->camera->record().name << "is lost";
         d->loseCamera();
     }
 }
