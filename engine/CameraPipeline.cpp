@@ -3,6 +3,7 @@
 #include "EngineLog.h"
 #include "FrameTap.h"
 #include "PipelineStart.h"
+#include "PipelineTools.h"
 
 #include <QVector>
 
@@ -109,8 +110,13 @@ bool CameraPipeline::play()
 
 GstMiniHandle<GstSample> CameraPipeline::nextSample(int milliseconds)
 {
-    return GstMiniHandle<GstSample>(gst_app_sink_try_pull_sample(
+    GstMiniHandle<GstSample> sample(gst_app_sink_try_pull_sample(
         GST_APP_SINK(m_sink.get()), GstClockTime(milliseconds) * GST_MSECOND));
+    if (sample && !m_delivers) {
+        m_delivers = true;
+        dumpPipeline(m_pipeline.get(), "playing");
+    }
+    return sample;
 }
 
 QString CameraPipeline::failure()
@@ -121,10 +127,8 @@ QString CameraPipeline::failure()
         return {};
     if (GST_MESSAGE_TYPE(message.get()) == GST_MESSAGE_EOS)
         return QStringLiteral("its stream ended");
-    GError *reason = nullptr;
-    gst_message_parse_error(message.get(), &reason, nullptr);
-    const GlibErrorHandle error(reason);
-    return QString::fromUtf8(error->message);
+    dumpPipeline(m_pipeline.get(), "error");
+    return errorText(message.get());
 }
 
 void CameraPipeline::close()

@@ -58,6 +58,7 @@ private:
     GstObjectHandle<GstBus> m_bus;
     GstObjectHandle<GstElement> m_source;
     GstObjectHandle<GstElement> m_sink;
+    bool m_delivers = false; ///< the first frame has come
 };
 
 #endif

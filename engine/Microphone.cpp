@@ -3,6 +3,7 @@
 #include "BoundedTask.h"
 #include "EngineLog.h"
 #include "MovieRecorder.h"
+#include "PipelineTools.h"
 #include "SoundTrack.h"
 
 #include <gst/app/gstappsink.h>
@@ -43,8 +44,13 @@ private:
 
 Microphone::Chain::~Chain()
 {
-    if (m_pipeline)
-        gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
+    if (!m_pipeline)
+        return;
+    const GstObjectHandle<GstBus> bus(gst_element_get_bus(m_pipeline.get()));
+    const GstMiniHandle<GstMessage> error(gst_bus_pop_filtered(bus.get(), GST_MESSAGE_ERROR));
+    if (error)
+        qCInfo(engineLog) << "the microphone had failed:" << errorText(error.get());
+    gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
 }
 
 GstFlowReturn Microphone::Chain::onSound(GstAppSink *sink, gpointer shared)
@@ -87,7 +93,11 @@ bool Microphone::Chain::isRefused()
         m_connectedChanged.wait_for(lock, connectLimit, [this] { return m_connected; });
     }
     const GstObjectHandle<GstBus> bus(gst_element_get_bus(m_pipeline.get()));
-    return GstMiniHandle<GstMessage>(gst_bus_pop_filtered(bus.get(), GST_MESSAGE_ERROR)) != nullptr;
+    const GstMiniHandle<GstMessage> error(gst_bus_pop_filtered(bus.get(), GST_MESSAGE_ERROR));
+    if (error)
+        qCInfo(engineLog) << "the microphone refuses:" << errorText(error.get());
+    dumpPipeline(m_pipeline.get(), error ? "error" : "playing");
+    return error != nullptr;
 }
 
 bool Microphone::Chain::connect(const SoundSource &source)
@@ -98,8 +108,7 @@ bool Microphone::Chain::connect(const SoundSource &source)
           " audio/x-raw,format=S16LE,layout=interleaved,rate="
         + QByteArray::number(SoundTrack::rate) + ",channels="
         + QByteArray::number(SoundTrack::channels) + " ! appsink name=sound sync=false async=false";
-    m_pipeline = ownFloating(gst_parse_launch_full(description.constData(), nullptr,
-                                                   GST_PARSE_FLAG_FATAL_ERRORS, nullptr));
+    m_pipeline = parsePipeline("microphone", description);
     if (!m_pipeline)
         return false;
     // The same clock as the camera's, whatever else would offer itself.

@@ -5,6 +5,7 @@
 #include "GstHandles.h"
 #include "MovieCodingCache.h"
 #include "PatientWait.h"
+#include "PipelineTools.h"
 
 #include <QThread>
 #include <QVector>
@@ -117,11 +118,8 @@ static double frameTimeOf(const std::vector<steady_clock::time_point> &arrivals)
 static double tryEncoder(const QByteArray &source, const QByteArray &encoder)
 {
     setpriority(PRIO_PROCESS, id_t(syscall(SYS_gettid)), politeness);
-    GError *reason = nullptr;
-    const QByteArray description = source + " ! " + encoder + " ! fakesink name=end";
-    const GstObjectHandle<GstElement> pipeline = ownFloating(gst_parse_launch_full(
-        description.constData(), nullptr, GST_PARSE_FLAG_FATAL_ERRORS, &reason));
-    const GlibErrorHandle error(reason);
+    const GstObjectHandle<GstElement> pipeline =
+        parsePipeline("trial", source + " ! " + encoder + " ! fakesink name=end");
     if (!pipeline)
         return -1;
     std::vector<steady_clock::time_point> arrivals; // the pipeline's; ours once it has stopped
@@ -132,8 +130,11 @@ static double tryEncoder(const QByteArray &source, const QByteArray &encoder)
     const GstObjectHandle<GstBus> bus(gst_element_get_bus(pipeline.get()));
     const GstMiniHandle<GstMessage> last(gst_bus_timed_pop_filtered(
         bus.get(), trialLimit, GstMessageType(GST_MESSAGE_EOS | GST_MESSAGE_ERROR)));
-    gst_element_set_state(pipeline.get(), GST_STATE_NULL);
     const bool isComplete = last && GST_MESSAGE_TYPE(last.get()) == GST_MESSAGE_EOS;
+    if (last && !isComplete)
+        qCInfo(engineLog) << "the trial of an encoder fails:" << errorText(last.get());
+    dumpPipeline(pipeline.get(), isComplete ? "end" : "error");
+    gst_element_set_state(pipeline.get(), GST_STATE_NULL);
     return isComplete && !arrivals.empty() ? frameTimeOf(arrivals) : -1;
 }
 

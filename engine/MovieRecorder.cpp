@@ -5,6 +5,7 @@
 #include "MovieCompletion.h"
 #include "NewFile.h"
 #include "PatientWait.h"
+#include "PipelineTools.h"
 
 #include <QFile>
 
@@ -54,11 +55,8 @@ struct MovieRecorder::Progress {
 
 void MovieRecorder::Progress::fail(GstMessage *message)
 {
-    GError *reason = nullptr;
-    gst_message_parse_error(message, &reason, nullptr);
-    const GlibErrorHandle error(reason);
-    const GlibString name(gst_object_get_name(GST_MESSAGE_SRC(message)));
-    qCInfo(engineLog) << "the movie ends here:" << name.get() << error->message;
+    qCInfo(engineLog) << "the movie ends here:" << errorText(message);
+    dumpPipeline(GST_MESSAGE_SRC(message), "error");
     const std::lock_guard<std::mutex> lock(mutex);
     failed = ended = true;
     encoderFailed = encoderFailed || GST_IS_VIDEO_ENCODER(GST_MESSAGE_SRC(message));
@@ -208,14 +206,9 @@ void MovieRecorder::watch()
 
 bool MovieRecorder::build(const GstVideoInfo &format, const MovieCoding &coding)
 {
-    GError *reason = nullptr;
-    GstObjectHandle<GstElement> pipeline = ownFloating(gst_parse_launch_full(
-        description(format, coding).constData(), nullptr, GST_PARSE_FLAG_FATAL_ERRORS, &reason));
-    const GlibErrorHandle error(reason);
-    if (!pipeline) {
-        qCWarning(engineLog, "a movie's pipeline cannot be built: %s", error->message);
+    GstObjectHandle<GstElement> pipeline = parsePipeline("movie", description(format, coding));
+    if (!pipeline)
         return false;
-    }
     m_pipeline.reset(pipeline.release(), GstObjectUnref());
     m_frames.reset(gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "frames"));
     m_sound.reset(gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "sound"));
@@ -237,6 +230,7 @@ bool MovieRecorder::build(const GstVideoInfo &format, const MovieCoding &coding)
     }
     close(made);
     m_open = gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE;
+    dumpPipeline(m_pipeline.get(), m_open ? "playing" : "error");
     if (!m_open) {
         gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
         QFile::remove(m_path);
@@ -407,6 +401,7 @@ BoundedTask<void> MovieRecorder::completing()
         [pipeline = std::move(m_pipeline), feed = m_feed, progress = m_progress, path = m_path] {
             const bool whole = progress->waitForEnd();
             feed->stop();
+            dumpPipeline(pipeline.get(), "end");
             gst_element_set_state(pipeline.get(), GST_STATE_NULL);
             qCInfo(engineLog) << feed->fed() << "frames were encoded," << progress->encoded
                               << "are in the file";

@@ -2,6 +2,7 @@
 #include "MovieFile.h"
 #include "MovieProbe.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -77,6 +78,7 @@ private Q_SLOTS:
     void cleanupTestCase();
     void aSoundCardThatCannotBeOpenedIsNoMicrophone();
     void aSoundCardPluggedInLaterIsNoticedAndHeard();
+    void everyPipelineCanBeLookedAt();
     void aSoundCardPulledOutIsNoticed();
 
 private:
@@ -92,6 +94,8 @@ private:
 void TestNoSoundServer::initTestCase()
 {
     QVERIFY2(!qEnvironmentVariableIsEmpty("ORVANTA_LAB"), "this test must be run by tests/lab/lab");
+    QVERIFY(QDir(m_folder.path()).mkdir("graphs"));
+    qputenv("GST_DEBUG_DUMP_DOT_DIR", QFile::encodeName(m_folder.filePath("graphs")));
     qputenv("ALSA_CONFIG_PATH", QFile::encodeName(m_folder.filePath("asound.conf")));
     pullOut();
     const QString pipe = m_folder.filePath("tone");
@@ -164,6 +168,15 @@ void TestNoSoundServer::aSoundCardPluggedInLaterIsNoticedAndHeard()
     QVERIFY(!movie.tones().isEmpty());
     QVERIFY2(movie.tones().first() < 0.5, qPrintable(QString::number(movie.tones().first())));
     QVERIFY2(movie.loudness() > 0.8, qPrintable(QString::number(movie.loudness())));
+}
+
+// By what the tests before have left.
+void TestNoSoundServer::everyPipelineCanBeLookedAt()
+{
+    const QDir graphs(m_folder.filePath("graphs"));
+    for (const char *pipeline :
+         {"camera-playing", "microphone-playing", "movie-playing", "movie-end", "trial-end"})
+        QVERIFY2(!graphs.entryList({QStringLiteral("*-%1.dot").arg(pipeline)}).isEmpty(), pipeline);
 }
 
 void TestNoSoundServer::aSoundCardPulledOutIsNoticed()
