@@ -6,9 +6,9 @@
 
 /// One way in which a camera can deliver its picture.
 struct CameraMode {
-    enum class Coding { Raw, Jpeg };
+    enum class Encoding { Raw, Jpeg };
 
-    Coding coding = Coding::Raw;
+    Encoding encoding = Encoding::Raw;
     QByteArray format; ///< GStreamer's name of the pixel format, "YUY2"; empty for JPEG
     int width = 0; ///< px
     int height = 0; ///< px
@@ -25,8 +25,8 @@ struct CameraMode {
 
 inline bool operator==(const CameraMode &left, const CameraMode &right)
 {
-    return left.coding == right.coding && left.format == right.format && left.size() == right.size()
-        && left.rateNumerator == right.rateNumerator
+    return left.encoding == right.encoding && left.format == right.format
+        && left.size() == right.size() && left.rateNumerator == right.rateNumerator
         && left.rateDenominator == right.rateDenominator;
 }
 

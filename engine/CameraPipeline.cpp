@@ -74,21 +74,21 @@ bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<
     const GstObjectHandle<GstClock> clock(gst_system_clock_obtain());
     gst_pipeline_use_clock(GST_PIPELINE(m_pipeline.get()), clock.get());
     tuneSource(source.get());
-    QVector<GstElement *> chain{source.get(), makeFilter(format.get())};
-    if (m_mode.coding == CameraMode::Coding::Jpeg)
+    QVector<GstElement *> elements{source.get(), makeFilter(format.get())};
+    if (m_mode.encoding == CameraMode::Encoding::Jpeg)
         // Drops a damaged picture; whether too many are is for the watch over silence to say.
-        chain.append(gst_element_factory_make("jpegdec", nullptr));
-    chain.append(makeDeinterlacer());
+        elements.append(gst_element_factory_make("jpegdec", nullptr));
+    elements.append(makeDeinterlacer());
     GstElement *tee = gst_element_factory_make("tee", "split");
     GstElement *sink = makeSink();
-    chain += {tee, sink};
+    elements += {tee, sink};
     bool whole = true;
-    for (GstElement *element : qAsConst(chain))
+    for (GstElement *element : qAsConst(elements))
         whole = element && gst_bin_add(GST_BIN(m_pipeline.get()), element) && whole;
-    for (int i = 1; whole && i < chain.size(); ++i)
-        whole = gst_element_link(chain.at(i - 1), chain.at(i));
+    for (int i = 1; whole && i < elements.size(); ++i)
+        whole = gst_element_link(elements.at(i - 1), elements.at(i));
     if (!whole) {
-        qCWarning(engineLog, "the camera's chain cannot be built");
+        qCWarning(engineLog, "the pipeline of the camera cannot be built");
         return false;
     }
     m_source = std::move(source);

@@ -13,7 +13,7 @@
 class FrameTap;
 
 /**
- * The chain from one camera to its newest frame:
+ * The pipeline from one camera to its newest frame:
  *
  *   source ! one fixed format ! (JPEG decoder) ! deinterlacer ! tee ! appsink that keeps one frame
  *
@@ -25,7 +25,7 @@ class FrameTap;
  */
 class CameraPipeline {
 public:
-    /// Takes over @p source, an element that was just made. Null when the chain cannot be built.
+    /// Takes over @p source, an element that was just made. Null when the pipeline cannot be built.
     static std::unique_ptr<CameraPipeline> build(GstObjectHandle<GstElement> source,
                                                  GstMiniHandle<GstCaps> format,
                                                  const CameraMode &mode);

@@ -107,7 +107,7 @@ static QVector<QByteArray> rawFormatsOf(const GstStructure *structure)
     return formats;
 }
 
-static void appendModes(const GstStructure *structure, CameraMode::Coding coding,
+static void appendModes(const GstStructure *structure, CameraMode::Encoding encoding,
                         const QVector<QByteArray> &formats, QVector<CameraMode> &modes)
 {
     const QVector<QSize> sizes = sizesOf(structure);
@@ -115,7 +115,7 @@ static void appendModes(const GstStructure *structure, CameraMode::Coding coding
     for (const QByteArray &format : formats) {
         for (const QSize &size : sizes) {
             for (const Rate &rate : rates)
-                modes.append({coding, format, size.width(), size.height(), rate.numerator,
+                modes.append({encoding, format, size.width(), size.height(), rate.numerator,
                               rate.denominator});
         }
     }
@@ -157,9 +157,9 @@ QVector<CameraMode> modesOf(const GstCaps *caps)
         if (!isOrdinaryMemory(caps, i) || interlacingRank(structure) == notShowable)
             continue;
         if (gst_structure_has_name(structure, "video/x-raw"))
-            appendModes(structure, CameraMode::Coding::Raw, rawFormatsOf(structure), modes);
+            appendModes(structure, CameraMode::Encoding::Raw, rawFormatsOf(structure), modes);
         else if (gst_structure_has_name(structure, "image/jpeg"))
-            appendModes(structure, CameraMode::Coding::Jpeg, {QByteArray()}, modes);
+            appendModes(structure, CameraMode::Encoding::Jpeg, {QByteArray()}, modes);
     }
     return modes;
 }
@@ -168,17 +168,17 @@ QVector<CameraMode> modesOf(const GstCaps *caps)
 static GstMiniHandle<GstCaps> leastInterlaced(const GstCaps *formats)
 {
     int best = notShowable;
-    guint place = 0;
+    guint index = 0;
     for (guint i = 0; i < gst_caps_get_size(formats); ++i) {
         const int rank = interlacingRank(gst_caps_get_structure(formats, i));
         if (rank >= best)
             continue;
         best = rank;
-        place = i;
+        index = i;
     }
     if (best == notShowable)
         return nullptr;
-    GstCaps *chosen = gst_caps_copy_nth(formats, place);
+    GstCaps *chosen = gst_caps_copy_nth(formats, index);
     GstStructure *format = gst_caps_get_structure(chosen, 0);
     if (gst_structure_has_field(format, "interlace-mode"))
         gst_structure_fixate_field_string(format, "interlace-mode", interlacing[best]);
@@ -187,7 +187,7 @@ static GstMiniHandle<GstCaps> leastInterlaced(const GstCaps *formats)
 
 GstMiniHandle<GstCaps> fixedCaps(GstCaps *offered, const CameraMode &mode)
 {
-    const bool raw = mode.coding == CameraMode::Coding::Raw;
+    const bool raw = mode.encoding == CameraMode::Encoding::Raw;
     GstMiniHandle<GstCaps> wanted(
         gst_caps_new_simple(raw ? "video/x-raw" : "image/jpeg", "width", G_TYPE_INT, mode.width,
                             "height", G_TYPE_INT, mode.height, "framerate", GST_TYPE_FRACTION,

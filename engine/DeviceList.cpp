@@ -107,14 +107,14 @@ QVector<ListedDevice> listedDevices(const QVector<DeviceRecord> &records)
         device.identity = baseIdentity(record);
         devices.append(device);
     }
-    const auto place = [&records](const ListedDevice &device) {
+    const auto order = [&records](const ListedDevice &device) {
         const DeviceRecord &record = records.at(device.record);
         return std::make_tuple(record.origin, device.identity, nodeNumber(record.devicePath),
                                device.model);
     };
     std::stable_sort(devices.begin(), devices.end(),
-                     [&place](const ListedDevice &left, const ListedDevice &right) {
-                         return place(left) < place(right);
+                     [&order](const ListedDevice &left, const ListedDevice &right) {
+                         return order(left) < order(right);
                      });
     numberIdentities(devices);
     numberTwins(devices);

@@ -10,7 +10,7 @@ struct ListedDevice {
     int record = -1; ///< index of the record it stands for
     QString name; ///< unique in its list
     QString model; ///< the name without the number that tells twins apart
-    /// What the camera is, independent of its place in the list and of the name that is shown.
+    /// What the camera is, independent of its index in the list and of the name that is shown.
     QString identity;
 };
 
@@ -27,7 +27,7 @@ struct DeviceChoice {
 /// demonstration camera is last. The order does not depend on the order of the records.
 QVector<ListedDevice> listedDevices(const QVector<DeviceRecord> &records);
 
-/// Place of the wanted camera in @p devices, -1 when it is not there. A camera plugged into another
+/// Index of the wanted camera in @p devices, -1 when it is not there. A camera plugged into another
 /// socket is recognised by its model; one that never had a rival may be stood in for by the first.
 int indexOfChoice(const QVector<ListedDevice> &devices, const DeviceChoice &choice);
 

@@ -19,10 +19,10 @@ FrameFeed::FrameFeed(GstAppSrc *source, qint64 period, qint64 bytes)
 {
 }
 
-bool FrameFeed::wants(qint64 place) const
+bool FrameFeed::wants(qint64 slot) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return !m_stopped && !m_ending && m_queue.wants(place);
+    return !m_stopped && !m_ending && m_queue.wants(slot);
 }
 
 bool FrameFeed::isHungry() const
@@ -31,24 +31,24 @@ bool FrameFeed::isHungry() const
     return m_hungry;
 }
 
-void FrameFeed::add(qint64 place, GstMiniHandle<GstBuffer> frame)
+void FrameFeed::add(qint64 slot, GstMiniHandle<GstBuffer> frame)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_stopped || m_ending)
         return;
-    m_queue.add(place, std::move(frame));
+    m_queue.add(slot, std::move(frame));
     if (m_hungry)
         giveOne();
 }
 
-void FrameFeed::end(qint64 place, GstMiniHandle<GstBuffer> frame)
+void FrameFeed::end(qint64 slot, GstMiniHandle<GstBuffer> frame)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_stopped || m_ending)
         return;
     m_ending = true;
     if (frame)
-        m_queue.addLast(place, std::move(frame));
+        m_queue.addLast(slot, std::move(frame));
     if (m_hungry)
         giveOne();
 }

@@ -21,14 +21,14 @@ public:
     /// Feeds @p source with frames of @p bytes that come every @p period ns.
     static std::shared_ptr<FrameFeed> attach(GstAppSrc *source, qint64 period, qint64 bytes);
 
-    bool wants(qint64 place) const; ///< whether to add the frame at this place
+    bool wants(qint64 slot) const; ///< whether to add the frame in this slot
     bool isHungry() const; ///< the next frame is worked on at once
-    void add(qint64 place, GstMiniHandle<GstBuffer> frame);
+    void add(qint64 slot, GstMiniHandle<GstBuffer> frame);
     /// The last frame, wanted or not (null for none): the stream ends when what waits is done.
-    void end(qint64 place, GstMiniHandle<GstBuffer> frame);
+    void end(qint64 slot, GstMiniHandle<GstBuffer> frame);
     void stop(); ///< nothing can be worked on any more: forgets what waits
 
-    qint64 newestKept() const; ///< place of the newest frame that will be seen, -1 without one
+    qint64 newestKept() const; ///< slot of the newest frame that will be seen, -1 without one
     int fed() const; ///< frames that the pipeline got
 
 private:

@@ -17,24 +17,24 @@ FramePacer::FramePacer(int numerator, int denominator)
 {
 }
 
-qint64 FramePacer::timeOf(qint64 place) const
+qint64 FramePacer::timeOf(qint64 slot) const
 {
-    return place * second * m_denominator / m_numerator;
+    return slot * second * m_denominator / m_numerator;
 }
 
-qint64 FramePacer::placeAt(qint64 time) const
+qint64 FramePacer::slotAt(qint64 time) const
 {
     return qMax(qint64(0), time - m_begin) / m_denominator * m_numerator / second;
 }
 
-qint64 FramePacer::skip(qint64 places)
+qint64 FramePacer::skip(qint64 count)
 {
-    m_next += places;
+    m_next += count;
     m_lags.clear();
     return m_next++;
 }
 
-qint64 FramePacer::placeOf(qint64 captured)
+qint64 FramePacer::slotOf(qint64 captured)
 {
     const double period = double(second) * m_denominator / m_numerator;
     if (m_begin < 0)

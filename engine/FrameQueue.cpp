@@ -33,15 +33,15 @@ qint64 FrameQueue::timePerFrame() const
     return *middle;
 }
 
-bool FrameQueue::wants(qint64 place) const
+bool FrameQueue::wants(qint64 slot) const
 {
-    return m_newest < 0 || place >= m_newest + m_stride;
+    return m_newest < 0 || slot >= m_newest + m_stride;
 }
 
-void FrameQueue::add(qint64 place, GstMiniHandle<GstBuffer> frame)
+void FrameQueue::add(qint64 slot, GstMiniHandle<GstBuffer> frame)
 {
-    m_waiting.push_back({place, std::move(frame)});
-    m_newest = place;
+    m_waiting.push_back({slot, std::move(frame)});
+    m_newest = slot;
     const qint64 perFrame = timePerFrame();
     const qint64 backlog = perFrame * size();
     if (backlog > longestBacklog && size() > 1)
@@ -49,20 +49,20 @@ void FrameQueue::add(qint64 place, GstMiniHandle<GstBuffer> frame)
     while (size() > m_most)
         widen(m_stride * 2);
     if (backlog < shortBacklog || size() == 1)
-        narrow(place);
+        narrow(slot);
 }
 
-void FrameQueue::addLast(qint64 place, GstMiniHandle<GstBuffer> frame)
+void FrameQueue::addLast(qint64 slot, GstMiniHandle<GstBuffer> frame)
 {
-    m_waiting.push_back({place, std::move(frame)});
-    m_newest = place;
+    m_waiting.push_back({slot, std::move(frame)});
+    m_newest = slot;
 }
 
 FrameQueue::Waiting FrameQueue::take()
 {
     Waiting oldest = std::move(m_waiting.front());
     m_waiting.pop_front();
-    m_taken = oldest.place;
+    m_taken = oldest.slot;
     return oldest;
 }
 
@@ -78,21 +78,21 @@ void FrameQueue::widen(int stride)
     qint64 kept = m_taken;
     std::deque<Waiting> spread;
     for (Waiting &waiting : m_waiting) {
-        if (kept >= 0 && waiting.place < kept + m_stride)
+        if (kept >= 0 && waiting.slot < kept + m_stride)
             continue;
-        kept = waiting.place;
+        kept = waiting.slot;
         spread.push_back(std::move(waiting));
     }
     m_waiting.swap(spread);
     m_newest = kept;
 }
 
-void FrameQueue::narrow(qint64 place)
+void FrameQueue::narrow(qint64 slot)
 {
-    const bool isTried = (place - m_changed) * m_period >= trialTime;
+    const bool isTried = (slot - m_changed) * m_period >= trialTime;
     const double sustained = nearly * double(timePerFrame()) / double(m_period);
     if (m_stride == 1 || !isTried || m_stride - 1 < sustained)
         return;
     --m_stride;
-    m_changed = place;
+    m_changed = slot;
 }

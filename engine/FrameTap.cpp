@@ -9,7 +9,7 @@ void FrameTap::attach(const std::shared_ptr<FrameTap> &tap, GstPad *pad)
         [](gpointer shared) { delete static_cast<std::shared_ptr<FrameTap> *>(shared); });
 }
 
-void FrameTap::record(std::shared_ptr<MovieRecorder> recorder)
+void FrameTap::handTo(std::shared_ptr<MovieRecorder> recorder)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_recorder.swap(recorder);

@@ -9,10 +9,10 @@
 class MovieRecorder;
 
 /**
- * Where a movie takes its frames from the live picture's chain. Whoever opened the camera keeps
- * one; the chain and its worker need not know whether a movie is being recorded.
+ * Where a movie takes its frames from the live picture's pipeline. Whoever opened the camera keeps
+ * one; the pipeline and its worker need not know whether a movie is being recorded.
  *
- * Threads: attach() before the camera plays, record() on any thread; the frames are handed over on
+ * Threads: attach() before the camera plays, handTo() on any thread; the frames are handed over on
  * the camera's own thread, without waiting for anything.
  */
 class FrameTap {
@@ -21,7 +21,7 @@ public:
     static void attach(const std::shared_ptr<FrameTap> &tap, GstPad *pad);
 
     /// Who gets the frames from now on; null for nobody.
-    void record(std::shared_ptr<MovieRecorder> recorder);
+    void handTo(std::shared_ptr<MovieRecorder> recorder);
 
 private:
     static GstPadProbeReturn onFrame(GstPad *pad, GstPadProbeInfo *info, gpointer tap);

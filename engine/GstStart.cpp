@@ -26,7 +26,7 @@ static bool startOnce()
     return complete;
 }
 
-bool gstreamerIsReady()
+bool startGstreamer()
 {
     static const bool ready = startOnce();
     return ready;

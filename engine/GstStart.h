@@ -3,6 +3,6 @@
 
 /// Starts GStreamer on the first call. False when it does not start or lacks an element without
 /// which no camera can be captured; then nothing else of it may be used.
-bool gstreamerIsReady();
+bool startGstreamer();
 
 #endif

@@ -70,7 +70,7 @@ std::function<void()> LiveVideoData::Private::lookAgain(LiveVideoData *engine)
 
 QVector<CameraHandle> LiveVideoData::Private::findCameras()
 {
-    if (!gstreamerIsReady())
+    if (!startGstreamer())
         return {};
     const auto deadline = steady_clock::now() + listLimit;
     MicrophoneFinder::begin(); // so that all servers think at the same time
@@ -220,7 +220,7 @@ void LiveVideoData::Create()
     videoPresent = false;
     nativeWidth = 0;
     nativeHeight = 0;
-    supported = gstreamerIsReady();
+    supported = startGstreamer();
     if (!supported)
         return;
     const QVector<CameraHandle> cameras = Private::findCameras();
@@ -319,7 +319,7 @@ bool LiveVideoData::IsValidVideoDevice()
 bool LiveVideoData::IsValidAudioDevice()
 {
     const PatientCall call;
-    if (!gstreamerIsReady())
+    if (!startGstreamer())
         return false;
     if (d->movie.outcome() == MovieOutcome::Begun)
         return true;

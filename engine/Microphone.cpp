@@ -22,9 +22,9 @@ static const char serverSource[] =
 static const char cardSource[] = "alsasrc";
 
 /// What may hang: opened and closed on a thread of its own.
-class Microphone::Chain {
+class Microphone::Pipeline {
 public:
-    ~Chain();
+    ~Pipeline();
     bool connect(const SoundSource &source); ///< false when there is nothing behind it
     bool listen(); ///< false when there is no microphone behind it
 
@@ -32,8 +32,8 @@ public:
     std::weak_ptr<MovieRecorder> recorder;
 
 private:
-    static GstFlowReturn onSound(GstAppSink *sink, gpointer chain);
-    static void onConnected(GObject *source, GParamSpec *device, gpointer chain);
+    static GstFlowReturn onSound(GstAppSink *sink, gpointer pipeline);
+    static void onConnected(GObject *source, GParamSpec *device, gpointer pipeline);
     bool isRefused();
 
     GstObjectHandle<GstElement> m_pipeline;
@@ -42,7 +42,7 @@ private:
     bool m_connected = false; ///< the server has said which of its sources it is
 };
 
-Microphone::Chain::~Chain()
+Microphone::Pipeline::~Pipeline()
 {
     if (!m_pipeline)
         return;
@@ -53,14 +53,14 @@ Microphone::Chain::~Chain()
     gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
 }
 
-GstFlowReturn Microphone::Chain::onSound(GstAppSink *sink, gpointer shared)
+GstFlowReturn Microphone::Pipeline::onSound(GstAppSink *sink, gpointer shared)
 {
-    auto &chain = *static_cast<Chain *>(shared);
+    auto &pipeline = *static_cast<Pipeline *>(shared);
     const GstMiniHandle<GstSample> sample(gst_app_sink_pull_sample(sink));
     std::shared_ptr<MovieRecorder> recorder;
     {
-        const std::lock_guard<std::mutex> lock(chain.mutex);
-        recorder = chain.recorder.lock();
+        const std::lock_guard<std::mutex> lock(pipeline.mutex);
+        recorder = pipeline.recorder.lock();
     }
     if (!sample || !recorder)
         return GST_FLOW_OK;
@@ -75,16 +75,16 @@ GstFlowReturn Microphone::Chain::onSound(GstAppSink *sink, gpointer shared)
     return GST_FLOW_OK;
 }
 
-void Microphone::Chain::onConnected(GObject *, GParamSpec *, gpointer shared)
+void Microphone::Pipeline::onConnected(GObject *, GParamSpec *, gpointer shared)
 {
-    auto &chain = *static_cast<Chain *>(shared);
-    const std::lock_guard<std::mutex> lock(chain.m_connectedMutex);
-    chain.m_connected = true;
-    chain.m_connectedChanged.notify_all();
+    auto &pipeline = *static_cast<Pipeline *>(shared);
+    const std::lock_guard<std::mutex> lock(pipeline.m_connectedMutex);
+    pipeline.m_connected = true;
+    pipeline.m_connectedChanged.notify_all();
 }
 
 // The server answers shortly after it was asked; one that is slow is taken by its word.
-bool Microphone::Chain::isRefused()
+bool Microphone::Pipeline::isRefused()
 {
     const GstObjectHandle<GstElement> source(
         gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "source"));
@@ -100,7 +100,7 @@ bool Microphone::Chain::isRefused()
     return error != nullptr;
 }
 
-bool Microphone::Chain::connect(const SoundSource &source)
+bool Microphone::Pipeline::connect(const SoundSource &source)
 {
     const QByteArray description =
         QByteArray(source.kind == SoundSource::Kind::Server ? serverSource : cardSource)
@@ -126,7 +126,7 @@ bool Microphone::Chain::connect(const SoundSource &source)
     return gst_element_set_state(m_pipeline.get(), GST_STATE_READY) != GST_STATE_CHANGE_FAILURE;
 }
 
-bool Microphone::Chain::listen()
+bool Microphone::Pipeline::listen()
 {
     return gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE
         && !isRefused();
@@ -134,33 +134,34 @@ bool Microphone::Chain::listen()
 
 std::shared_ptr<Microphone> Microphone::open(const SoundSource &source, milliseconds limit)
 {
-    const BoundedTask opening([source]() -> std::shared_ptr<Chain> {
-        auto chain = std::make_shared<Chain>();
-        return chain->connect(source) && chain->listen() ? chain : nullptr;
+    const BoundedTask opening([source]() -> std::shared_ptr<Pipeline> {
+        auto pipeline = std::make_shared<Pipeline>();
+        return pipeline->connect(source) && pipeline->listen() ? pipeline : nullptr;
     });
-    std::shared_ptr<Chain> chain = opening.waitUntil(steady_clock::now() + limit).value_or(nullptr);
-    if (!chain) {
+    std::shared_ptr<Pipeline> pipeline =
+        opening.waitUntil(steady_clock::now() + limit).value_or(nullptr);
+    if (!pipeline) {
         qCInfo(engineLog, "no microphone can be opened");
         return nullptr;
     }
-    return std::shared_ptr<Microphone>(new Microphone(std::move(chain)));
+    return std::shared_ptr<Microphone>(new Microphone(std::move(pipeline)));
 }
 
-Microphone::Microphone(std::shared_ptr<Chain> chain)
-    : m_chain(std::move(chain))
+Microphone::Microphone(std::shared_ptr<Pipeline> pipeline)
+    : m_pipeline(std::move(pipeline))
 {
 }
 
 Microphone::~Microphone()
 {
-    record(nullptr);
-    const BoundedTask closing([chain = std::move(m_chain)]() mutable { chain.reset(); });
+    handTo(nullptr);
+    const BoundedTask closing([pipeline = std::move(m_pipeline)]() mutable { pipeline.reset(); });
     if (!closing.waitUntil(steady_clock::now() + closeLimit))
         qCWarning(engineLog, "the microphone does not close; it is left behind");
 }
 
-void Microphone::record(const std::shared_ptr<MovieRecorder> &recorder)
+void Microphone::handTo(const std::shared_ptr<MovieRecorder> &recorder)
 {
-    const std::lock_guard<std::mutex> lock(m_chain->mutex);
-    m_chain->recorder = recorder;
+    const std::lock_guard<std::mutex> lock(m_pipeline->mutex);
+    m_pipeline->recorder = recorder;
 }

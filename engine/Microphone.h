@@ -40,15 +40,15 @@ public:
     Microphone(const Microphone &) = delete;
     Microphone &operator=(const Microphone &) = delete;
 
-    /// Who gets the sound from now on, on the microphone's own thread.
-    void record(const std::shared_ptr<MovieRecorder> &recorder);
+    /// Who gets the sound from now on, on the microphone's own thread; null for nobody.
+    void handTo(const std::shared_ptr<MovieRecorder> &recorder);
 
 private:
-    class Chain;
+    class Pipeline;
 
-    explicit Microphone(std::shared_ptr<Chain> chain);
+    explicit Microphone(std::shared_ptr<Pipeline> pipeline);
 
-    std::shared_ptr<Chain> m_chain; ///< outlives the microphone when it hangs
+    std::shared_ptr<Pipeline> m_pipeline; ///< outlives the microphone when it hangs
 };
 
 #endif

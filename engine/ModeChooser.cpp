@@ -14,8 +14,8 @@ static qint64 area(const QSize &size)
 static int formatRank(const QByteArray &format)
 {
     static const QList<QByteArray> preferred{"YUY2", "UYVY", "NV12", "I420"};
-    const int place = preferred.indexOf(format);
-    return place < 0 ? preferred.size() : place;
+    const int index = preferred.indexOf(format);
+    return index < 0 ? preferred.size() : index;
 }
 
 // Larger is better, member by member.
@@ -26,7 +26,7 @@ static auto merit(const CameraMode &mode)
     const bool fits = mode.width <= 1920 && mode.height <= 1080;
     return std::make_tuple(!mode.isGrey(), smooth, smooth ? 0.0 : rate, fits,
                            fits ? area(mode.size()) : -area(mode.size()), -qAbs(rate - 30),
-                           mode.coding == CameraMode::Coding::Raw, -formatRank(mode.format));
+                           mode.encoding == CameraMode::Encoding::Raw, -formatRank(mode.format));
 }
 
 int bestMode(const QVector<CameraMode> &modes, const QSize &wanted)

@@ -11,7 +11,7 @@
  * possible up to 1920x1080, then the rate nearest to 30, then raw before JPEG. Cameras often offer
  * their largest raw picture at five frames per second only; such a mode is the last resort.
  *
- * Returns the place in @p modes, -1 when there is none. With a @p wanted size only modes of exactly
+ * Returns the index in @p modes, -1 when there is none. With a @p wanted size only modes of exactly
  * that size count.
  */
 int bestMode(const QVector<CameraMode> &modes, const QSize &wanted = {});

@@ -111,7 +111,7 @@ void MovieMaker::prepare(const QSize &size, double rate)
         return;
     m_searchedSize = size;
     m_searchedRate = rate;
-    m_search = std::make_unique<MovieCodingSearch>(size, rate);
+    m_search = std::make_unique<EncoderSearch>(size, rate);
 }
 
 void MovieMaker::record(const QString &path, const GstVideoInfo &format)
@@ -142,11 +142,11 @@ void MovieMaker::refuse(MovieOutcome why)
 // and its file goes with it.
 static std::shared_ptr<MovieRecorder> startWithin(milliseconds limit, const QString &path,
                                                   const GstVideoInfo &format,
-                                                  const MovieCoding &coding,
+                                                  const MovieEncoding &encoding,
                                                   const std::function<void()> &failed)
 {
-    const BoundedTask starting([path, format, coding, failed] {
-        return MovieRecorder::start(path, format, coding, failed);
+    const BoundedTask starting([path, format, encoding, failed] {
+        return MovieRecorder::start(path, format, encoding, failed);
     });
     return starting.waitUntil(steady_clock::now() + limit).value_or(nullptr);
 }
@@ -155,19 +155,19 @@ MovieOutcome MovieMaker::begin(const QString &path, const GstVideoInfo &format)
 {
     if (!MicrophoneFinder::source())
         return MovieOutcome::NoMicrophone;
-    const MovieCoding coding =
-        m_search ? m_search->waitUntil(steady_clock::now() + startLimit) : MovieCoding();
-    if (!coding.isComplete())
+    const MovieEncoding encoding =
+        m_search ? m_search->waitUntil(steady_clock::now() + startLimit) : MovieEncoding();
+    if (!encoding.isComplete())
         return MovieOutcome::NoEncoder;
     m_microphone = m_microphones.open(startLimit);
     if (!m_microphone)
         return MovieOutcome::NoMicrophone;
-    m_recorder = startWithin(startLimit, path, format, coding, m_watch->next());
+    m_recorder = startWithin(startLimit, path, format, encoding, m_watch->next());
     if (!m_recorder)
         return MovieOutcome::NoFile;
-    m_encoder = coding.video;
-    m_microphone->record(m_recorder);
-    m_tap->record(m_recorder);
+    m_encoder = encoding.video;
+    m_microphone->handTo(m_recorder);
+    m_tap->handTo(m_recorder);
     return MovieOutcome::Begun;
 }
 
@@ -179,7 +179,7 @@ void MovieMaker::stop()
     m_watch->forget();
     if (m_recorder->encoderFailed())
         m_search->reject(m_encoder);
-    m_tap->record(nullptr);
+    m_tap->handTo(nullptr);
     m_microphone.reset();
     m_recorder.reset();
     m_outcome = MovieOutcome::None;

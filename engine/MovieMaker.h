@@ -1,9 +1,9 @@
 #ifndef MOVIEMAKER_H
 #define MOVIEMAKER_H
 
+#include "EncoderSearch.h"
 #include "FrameTap.h"
 #include "MicrophoneFinder.h"
-#include "MovieCoding.h"
 
 #include <gst/video/video.h>
 
@@ -41,7 +41,7 @@ public:
     MovieMaker(const MovieMaker &) = delete;
     MovieMaker &operator=(const MovieMaker &) = delete;
 
-    /// For the chain of the next camera.
+    /// For the pipeline of the next camera.
     std::shared_ptr<FrameTap> tap() const { return m_tap; }
 
     /// A camera is opened: looks for a way to write its movies, on the side. What was found for a
@@ -69,7 +69,7 @@ private:
 
     MicrophoneFinder &m_microphones;
     const std::shared_ptr<FrameTap> m_tap;
-    std::unique_ptr<MovieCodingSearch> m_search; ///< null until the first camera
+    std::unique_ptr<EncoderSearch> m_search; ///< null until the first camera
     QSize m_searchedSize;
     double m_searchedRate = 0;
     const std::unique_ptr<Watch> m_watch;

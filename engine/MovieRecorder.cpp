@@ -28,7 +28,7 @@ static const qint64 second = GST_SECOND;
 static const qint64 soundDelay = 3 * second; // before it counts as missing
 static const qint64 soundAhead = 10 * second; // before the picture counts as gone
 static const qint64 standstill = second; // that a last frame may stand for, when none follows it
-// Every sound coder begins with a frame of its own, which players do not know and play.
+// Every sound encoder begins with a frame of its own, which players do not know and play.
 static const qint64 soundRunUp = 1024; // samples
 static const int usualRate = 30; // frames a second, for cameras that do not know theirs
 static const int politeness = 4; // added to the nice value of what converts and encodes
@@ -141,31 +141,31 @@ MovieRecorder::~MovieRecorder()
 }
 
 std::shared_ptr<MovieRecorder> MovieRecorder::start(const QString &path, const GstVideoInfo &format,
-                                                    const MovieCoding &coding,
+                                                    const MovieEncoding &encoding,
                                                     std::function<void()> failed)
 {
     std::shared_ptr<MovieRecorder> recorder(new MovieRecorder(path, format));
     recorder->m_progress->onFailure = std::move(failed);
-    return recorder->build(format, coding) ? recorder : nullptr;
+    return recorder->build(format, encoding) ? recorder : nullptr;
 }
 
 // Frames of the camera wait in front of the source; behind it there is only the one that the
 // encoder needs next. Encoded frames and sound are small: they wait for as long as a disk stands
 // still, and sound waits for no picture.
-static QByteArray description(const GstVideoInfo &format, const MovieCoding &coding)
+static QByteArray description(const GstVideoInfo &format, const MovieEncoding &encoding)
 {
     const int perSecond = rateNumerator(format) / rateDenominator(format);
     return "appsrc name=frames format=time max-bytes=0"
            " ! videoconvertscale ! video/x-raw,format=I420,pixel-aspect-ratio=1/1,width="
-        + QByteArray::number((format.width / coding.divisor) & ~1)
-        + ",height=" + QByteArray::number((format.height / coding.divisor) & ~1)
+        + QByteArray::number((format.width / encoding.divisor) & ~1)
+        + ",height=" + QByteArray::number((format.height / encoding.divisor) & ~1)
         + " ! queue name=converted max-size-buffers=1 max-size-bytes=0 max-size-time=0 ! "
-        + coding.video
+        + encoding.video
         + " ! queue name=encoded max-size-buffers=0 max-size-bytes=64000000 max-size-time=0"
           " ! muxer. appsrc name=sound format=time max-bytes=0 "
           "caps=audio/x-raw,format=S16LE,layout=interleaved,rate="
         + QByteArray::number(SoundTrack::rate) + ",channels="
-        + QByteArray::number(SoundTrack::channels) + " ! audioconvert ! " + coding.sound
+        + QByteArray::number(SoundTrack::channels) + " ! audioconvert ! " + encoding.sound
         + " ! queue max-size-buffers=0 max-size-bytes=0 max-size-time=0 ! muxer."
           // Room for the index of a movie of eleven minutes, one more than the longest.
           " qtmux name=muxer reserved-max-duration=660000000000"
@@ -204,9 +204,9 @@ void MovieRecorder::watch()
         [](gpointer shared) { delete static_cast<std::shared_ptr<Progress> *>(shared); });
 }
 
-bool MovieRecorder::build(const GstVideoInfo &format, const MovieCoding &coding)
+bool MovieRecorder::build(const GstVideoInfo &format, const MovieEncoding &encoding)
 {
-    GstObjectHandle<GstElement> pipeline = parsePipeline("movie", description(format, coding));
+    GstObjectHandle<GstElement> pipeline = parsePipeline("movie", description(format, encoding));
     if (!pipeline)
         return false;
     m_pipeline.reset(pipeline.release(), GstObjectUnref());
@@ -250,32 +250,32 @@ void MovieRecorder::addFrame(GstBuffer *frame, GstClockTime captured)
     if (!m_open || hasFailed())
         return;
     const bool isFirst = m_pacer.begin() < 0;
-    const qint64 place = m_pacer.placeOf(qint64(captured));
+    const qint64 slot = m_pacer.slotOf(qint64(captured));
     ++m_arrived;
-    m_leftOut += place < 0;
+    m_leftOut += slot < 0;
     if (isFirst)
         m_begun.notify_all();
-    if (place < 0)
+    if (slot < 0)
         return;
     m_newest.reset(gst_buffer_ref(frame));
-    m_newestPlace = place;
+    m_newestSlot = slot;
     m_newestCaptured = qint64(captured);
-    if (m_feed->wants(place))
-        m_feed->add(place, placed(frame, place, place + 1));
+    if (m_feed->wants(slot))
+        m_feed->add(slot, inSlots(frame, slot, slot + 1));
 
-    const qint64 end = m_pacer.timeOf(m_pacer.nextPlace());
+    const qint64 end = m_pacer.timeOf(m_pacer.nextSlot());
     m_track.coverUntil(SoundTrack::positionAt(qMax(qint64(0), end - soundDelay)));
     pushSound(SoundTrack::positionAt(end));
 }
 
 // A frame that has to wait is copied: the camera has few to go round.
-GstMiniHandle<GstBuffer> MovieRecorder::placed(GstBuffer *frame, qint64 place, qint64 end) const
+GstMiniHandle<GstBuffer> MovieRecorder::inSlots(GstBuffer *frame, qint64 slot, qint64 end) const
 {
     const bool copies = m_copies || !m_feed->isHungry();
     GstMiniHandle<GstBuffer> copy(copies ? gst_buffer_copy_deep(frame) : gst_buffer_copy(frame));
-    GST_BUFFER_PTS(copy.get()) = GstClockTime(m_pacer.timeOf(place));
+    GST_BUFFER_PTS(copy.get()) = GstClockTime(m_pacer.timeOf(slot));
     GST_BUFFER_DTS(copy.get()) = GST_CLOCK_TIME_NONE;
-    GST_BUFFER_DURATION(copy.get()) = GstClockTime(m_pacer.timeOf(end) - m_pacer.timeOf(place));
+    GST_BUFFER_DURATION(copy.get()) = GstClockTime(m_pacer.timeOf(end) - m_pacer.timeOf(slot));
     return copy;
 }
 
@@ -296,7 +296,7 @@ void MovieRecorder::layIn(const QVector<SoundClock::Piece> &sound)
     for (const SoundClock::Piece &piece : sound) {
         const qint64 time = piece.heard - m_pacer.begin();
         // A microphone without a camera is not listened to for long: the picture has stopped.
-        if (time < m_pacer.timeOf(m_pacer.nextPlace()) + soundAhead)
+        if (time < m_pacer.timeOf(m_pacer.nextSlot()) + soundAhead)
             m_track.add(piece.samples.constData(), piece.samples.size() / SoundTrack::bytesOfSample,
                         SoundTrack::positionAt(time) - soundRunUp);
     }
@@ -328,11 +328,11 @@ bool MovieRecorder::encoderFailed() const
     return m_progress->encoderFailed;
 }
 
-// The place behind the last one: up to now, unless the camera has stopped.
+// The slot behind the last one: up to now, unless the camera has stopped.
 qint64 MovieRecorder::endOfMovie() const
 {
     const qint64 shown = qMin(systemTime(), m_newestCaptured + standstill);
-    return qMax(m_pacer.nextPlace(), m_pacer.placeAt(shown));
+    return qMax(m_pacer.nextSlot(), m_pacer.slotAt(shown));
 }
 
 // The last frame was left out, or stands for longer than a frame does: the movie ends with it all
@@ -344,8 +344,8 @@ void MovieRecorder::endPicture(qint64 end)
         m_feed->end(-1, nullptr);
         return;
     }
-    const qint64 place = m_newestPlace > kept ? m_newestPlace : end - 1;
-    m_feed->end(place, placed(m_newest.get(), place, end));
+    const qint64 slot = m_newestSlot > kept ? m_newestSlot : end - 1;
+    m_feed->end(slot, inSlots(m_newest.get(), slot, end));
 }
 
 bool MovieRecorder::finish(milliseconds limit)
@@ -365,7 +365,7 @@ bool MovieRecorder::finish(milliseconds limit)
         layIn(m_soundClock.takeAll());
         m_track.coverUntil(SoundTrack::positionAt(m_pacer.timeOf(end)));
         pushSound(SoundTrack::positionAt(m_pacer.timeOf(end)));
-        qCInfo(engineLog) << m_arrived << "frames came for" << end << "places," << m_leftOut
+        qCInfo(engineLog) << m_arrived << "frames came for" << end << "slots," << m_leftOut
                           << "were left out by their times";
     } else {
         m_feed->end(-1, nullptr);

@@ -5,7 +5,7 @@
 #include "FrameFeed.h"
 #include "FramePacer.h"
 #include "GstHandles.h"
-#include "MovieCoding.h"
+#include "MovieEncoding.h"
 #include "SoundClock.h"
 #include "SoundTrack.h"
 
@@ -54,7 +54,7 @@ public:
     /// hang in the driver of an encoder or of a disk. @p failed is called once, on a thread of the
     /// pipeline's and not after finish(), when the movie cannot go on.
     static std::shared_ptr<MovieRecorder> start(const QString &path, const GstVideoInfo &format,
-                                                const MovieCoding &coding,
+                                                const MovieEncoding &encoding,
                                                 std::function<void()> failed = nullptr);
     ~MovieRecorder(); ///< finishes the movie
     MovieRecorder(const MovieRecorder &) = delete;
@@ -78,10 +78,10 @@ private:
     struct Progress;
 
     MovieRecorder(QString path, const GstVideoInfo &format);
-    bool build(const GstVideoInfo &format, const MovieCoding &coding);
+    bool build(const GstVideoInfo &format, const MovieEncoding &encoding);
     void watch();
     bool hasFailed() const;
-    GstMiniHandle<GstBuffer> placed(GstBuffer *frame, qint64 place, qint64 end) const;
+    GstMiniHandle<GstBuffer> inSlots(GstBuffer *frame, qint64 slot, qint64 end) const;
     void layIn(const QVector<SoundClock::Piece> &sound);
     void pushSound(qint64 position);
     qint64 endOfMovie() const;
@@ -102,8 +102,8 @@ private:
     std::condition_variable m_begun; ///< the first frame came
     bool m_open = false; ///< frames and sound are taken
     FramePacer m_pacer;
-    GstMiniHandle<GstBuffer> m_newest; ///< the newest frame with a place
-    qint64 m_newestPlace = -1;
+    GstMiniHandle<GstBuffer> m_newest; ///< the newest frame with a slot
+    qint64 m_newestSlot = -1;
     qint64 m_newestCaptured = 0; ///< ns
     int m_arrived = 0; ///< frames
     int m_leftOut = 0; ///< of them, by the pacer

@@ -1,7 +1,7 @@
 #ifndef PROCESSORSHARE_H
 #define PROCESSORSHARE_H
 
-/// What a chain that was just started takes to run evenly (ms).
+/// What a pipeline that was just started takes to run evenly (ms).
 constexpr int settleTime = 1500;
 
 /// Runs the event loop until things have settled and @p seconds on, and returns the share of one

@@ -1,7 +1,7 @@
 // What the live picture costs: 1920x1080 at 30 frames per second, shown in 896x504.
 //
 //   bench_live engine SECONDS   processor share of the engine with its target
-//   bench_live bare SECONDS     the same of GStreamer's own shortest chain to the screen
+//   bench_live bare SECONDS     the same of GStreamer's own shortest pipeline to the screen
 //   bench_live drops SECONDS    frames of the camera that never were on the screen
 //
 // Runs in a lab with the one camera "bench"; prints one number.
@@ -42,25 +42,25 @@ int measureEngine(int seconds)
     return 0;
 }
 
-int measureBareChain(int seconds)
+int measureBarePipeline(int seconds)
 {
     gst_init(nullptr, nullptr);
-    GstElement *chain = gst_parse_launch(
+    GstElement *pipeline = gst_parse_launch(
         "pipewiresrc target-object=bench do-timestamp=true ! "
         "video/x-raw,format=UYVY,width=1920,height=1080,framerate=30/1 ! videoconvertscale ! "
         "video/x-raw,format=BGRx,width=896,height=504 ! ximagesink name=screen sync=false",
         nullptr);
-    gst_element_set_state(chain, GST_STATE_PLAYING);
+    gst_element_set_state(pipeline, GST_STATE_PLAYING);
     const double share = shareOver(seconds);
-    GstElement *screen = gst_bin_get_by_name(GST_BIN(chain), "screen");
+    GstElement *screen = gst_bin_get_by_name(GST_BIN(pipeline), "screen");
     GstStructure *stats = nullptr;
     g_object_get(screen, "stats", &stats, nullptr);
     guint64 rendered = 0;
     gst_structure_get_uint64(stats, "rendered", &rendered);
     gst_structure_free(stats);
     gst_object_unref(screen);
-    gst_element_set_state(chain, GST_STATE_NULL);
-    gst_object_unref(chain);
+    gst_element_set_state(pipeline, GST_STATE_NULL);
+    gst_object_unref(pipeline);
     if (rendered < guint64(seconds) * 25)
         return 1;
     std::printf("%.4f\n", share);
@@ -95,7 +95,7 @@ int main(int argc, char *argv[])
     if (what == QLatin1String("engine"))
         status = measureEngine(seconds);
     else if (what == QLatin1String("bare"))
-        status = measureBareChain(seconds);
+        status = measureBarePipeline(seconds);
     else if (what == QLatin1String("drops"))
         status = countDrops(seconds);
     if (status != 0)

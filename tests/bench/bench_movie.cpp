@@ -2,9 +2,9 @@
 //
 //   bench_movie engine SECONDS   processor share of the engine while it records, and what the stop
 //                                takes in ms
-//   bench_movie bare SECONDS     the share of GStreamer's own shortest chain with the same coders
-//   bench_movie shown SECONDS    what becomes of the pictures while a movie is recorded and the
-//   live
+//   bench_movie bare SECONDS     the share of GStreamer's own shortest pipeline with the same
+//   encoders bench_movie shown SECONDS    what becomes of the pictures while a movie is recorded
+//   and the live
 //                                picture is shown in 896x504: camera frames that are missing in the
 //                                file and on the screen; what 99 % of the live picture's intervals
 //                                stay within, in frame periods, before and during the movie; and in
@@ -119,7 +119,7 @@ int measureShown(const QString &path, int seconds)
     return 0;
 }
 
-int measureBareChain(const QString &path, int seconds)
+int measureBarePipeline(const QString &path, int seconds)
 {
     gst_init(nullptr, nullptr);
     const QByteArray description =
@@ -131,17 +131,17 @@ int measureBareChain(const QString &path, int seconds)
         + path.toLocal8Bit()
         + " pulsesrc provide-clock=false ! audioconvert ! audio/x-raw,rate=48000,channels=2 ! "
           "avenc_aac bitrate=128000 ! queue ! muxer.";
-    GstElement *chain = gst_parse_launch(description.constData(), nullptr);
-    if (!chain)
+    GstElement *pipeline = gst_parse_launch(description.constData(), nullptr);
+    if (!pipeline)
         return 1;
-    gst_element_set_state(chain, GST_STATE_PLAYING);
+    gst_element_set_state(pipeline, GST_STATE_PLAYING);
     const double share = shareOver(seconds);
     gint64 position = 0;
-    gst_element_query_position(chain, GST_FORMAT_TIME, &position);
-    gst_element_set_state(chain, GST_STATE_NULL);
-    gst_object_unref(chain);
+    gst_element_query_position(pipeline, GST_FORMAT_TIME, &position);
+    gst_element_set_state(pipeline, GST_STATE_NULL);
+    gst_object_unref(pipeline);
     if (position < gint64(seconds) * gint64(GST_SECOND) * 9 / 10)
-        return 1; // a chain that stood still costs little
+        return 1; // a pipeline that stood still costs little
     std::printf("%.4f\n", share);
     return 0;
 }
@@ -161,7 +161,7 @@ int main(int argc, char *argv[])
     if (what == QLatin1String("engine"))
         status = measureEngine(path, seconds);
     else if (what == QLatin1String("bare"))
-        status = measureBareChain(path, seconds);
+        status = measureBarePipeline(path, seconds);
     else if (what == QLatin1String("shown"))
         status = measureShown(path, seconds);
     if (status != 0)

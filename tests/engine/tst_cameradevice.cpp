@@ -134,11 +134,11 @@ void TestCameraDevice::itsFormatsAndWhatItSaysOfItselfAreRead()
     QCOMPARE(camera.record().serial, QString("S1"));
     QCOMPARE(camera.record().usbIds, QString("04f2:b6c2"));
     QVERIFY(camera.record().hasColour);
-    const CameraMode mode{CameraMode::Coding::Raw, "YUY2", 640, 480, 30, 1};
+    const CameraMode mode{CameraMode::Encoding::Raw, "YUY2", 640, 480, 30, 1};
     QCOMPARE(camera.modes().size(), 1);
     QVERIFY(camera.modes().first() == mode);
     QVERIFY(camera.formatOf(mode));
-    QVERIFY(!camera.formatOf({CameraMode::Coding::Raw, "YUY2", 1280, 720, 30, 1}));
+    QVERIFY(!camera.formatOf({CameraMode::Encoding::Raw, "YUY2", 1280, 720, 30, 1}));
     QVERIFY(camera.makeSource());
     QCOMPARE(CameraDevice(makeDevice(node), nullptr).record().origin,
              DeviceRecord::Origin::PipeWire);

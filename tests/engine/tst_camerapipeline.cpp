@@ -8,12 +8,12 @@
 
 #include <gst/app/gstappsrc.h>
 
-/// The chain behind a camera, fed by hand.
+/// The pipeline behind a camera, fed by hand.
 class TestCameraPipeline : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(gstreamerIsReady()); }
+    void initTestCase() { QVERIFY(startGstreamer()); }
     void damagedPicturesAreLeftOut();
 
 private:
@@ -43,8 +43,8 @@ void TestCameraPipeline::send(GstElement *source, const QByteArray &bytes)
 // while; the camera is well all the same.
 void TestCameraPipeline::damagedPicturesAreLeftOut()
 {
-    const CameraMode mode{CameraMode::Coding::Jpeg, {}, pictureSize.width(),
-                          pictureSize.height(),     30, 1};
+    const CameraMode mode{CameraMode::Encoding::Jpeg, {}, pictureSize.width(),
+                          pictureSize.height(),       30, 1};
     GstMiniHandle<GstCaps> format(
         gst_caps_new_simple("image/jpeg", "width", G_TYPE_INT, mode.width, "height", G_TYPE_INT,
                             mode.height, "framerate", GST_TYPE_FRACTION, 30, 1, nullptr));

@@ -26,7 +26,7 @@ static GstMiniHandle<GstCaps> parse(const QString &text)
 static QString describe(const CameraMode &mode)
 {
     return QStringLiteral("%1 %2x%3 %4/%5")
-        .arg(mode.coding == CameraMode::Coding::Jpeg ? "JPEG" : QString(mode.format))
+        .arg(mode.encoding == CameraMode::Encoding::Jpeg ? "JPEG" : QString(mode.format))
         .arg(mode.width)
         .arg(mode.height)
         .arg(mode.rateNumerator)
@@ -35,7 +35,7 @@ static QString describe(const CameraMode &mode)
 
 void TestCapsModes::initTestCase()
 {
-    QVERIFY(gstreamerIsReady());
+    QVERIFY(startGstreamer());
 }
 
 void TestCapsModes::modesAreReadFromCaps_data()
@@ -117,7 +117,7 @@ void TestCapsModes::aModeBecomesOneFixedFormat_data()
 void TestCapsModes::aModeBecomesOneFixedFormat()
 {
     QFETCH(QString, offered);
-    const CameraMode mode{CameraMode::Coding::Raw, "UYVY", 1280, 720, 30, 1};
+    const CameraMode mode{CameraMode::Encoding::Raw, "UYVY", 1280, 720, 30, 1};
     const GstMiniHandle<GstCaps> caps = fixedCaps(parse(offered).get(), mode);
     QVERIFY(caps);
     QVERIFY(gst_caps_is_fixed(caps.get()));
@@ -148,7 +148,7 @@ void TestCapsModes::wholeFramesArePreferredToInterlacedOnes()
     const QString common = "video/x-raw,format=YUY2,width=720,height=576,framerate={50/1,25/1}";
     for (QString &format : offered)
         format.prepend(common);
-    const CameraMode mode{CameraMode::Coding::Raw, "YUY2", 720, 576, 25, 1};
+    const CameraMode mode{CameraMode::Encoding::Raw, "YUY2", 720, 576, 25, 1};
     const GstMiniHandle<GstCaps> caps =
         fixedCaps(parse(offered.join(QLatin1Char(';'))).get(), mode);
     QVERIFY(caps);
@@ -159,7 +159,7 @@ void TestCapsModes::wholeFramesArePreferredToInterlacedOnes()
 
 void TestCapsModes::aModeThatIsNotOfferedHasNoFormat()
 {
-    const CameraMode mode{CameraMode::Coding::Jpeg, {}, 1280, 720, 30, 1};
+    const CameraMode mode{CameraMode::Encoding::Jpeg, {}, 1280, 720, 30, 1};
     const GstMiniHandle<GstCaps> offered =
         parse("video/x-raw,format=YUY2,width=1280,height=720,framerate=30/1");
     QVERIFY(!fixedCaps(offered.get(), mode));

@@ -216,7 +216,7 @@ void TestEngineLoss::aCameraThatSendsNothingIsNotOpened()
 void TestEngineLoss::aFrameSurvivesItsCamera()
 {
     m_engine.reset();
-    const CameraMode mode{CameraMode::Coding::Raw, "UYVY", 1280, 720, 30, 1};
+    const CameraMode mode{CameraMode::Encoding::Raw, "UYVY", 1280, 720, 30, 1};
     const GstMiniHandle<GstCaps> offered(gst_caps_new_empty_simple("video/x-raw"));
     GstObjectHandle<GstElement> source =
         ownFloating(gst_element_factory_make("pipewiresrc", nullptr));

@@ -1,7 +1,7 @@
+#include "EncoderSearch.h"
 #include "LabCommands.h"
 #include "LabPattern.h"
 #include "LiveVideoData.h"
-#include "MovieCoding.h"
 #include "MovieFile.h"
 #include "MovieProbe.h"
 #include "SpareTime.h"
@@ -235,7 +235,7 @@ void TestEngineMovie::verifySize(int length) const
 {
     const double size = double(QFileInfo(m_path).size());
     const double rate = movieBitRate({1280, 720}, 30) + soundBitRate;
-    qInfo("%.1f MB, of which %.1f for the index; the coders may take %.1f", size / 1e6,
+    qInfo("%.1f MB, of which %.1f for the index; the encoders may take %.1f", size / 1e6,
           indexSize / 1e6, rate * length / 8e6);
     QVERIFY(size < 1.1 * rate * length / 8 + indexSize);
     QVERIFY(size < 300e6);

@@ -49,7 +49,7 @@ private:
     void encodeUntil(qint64 now)
     {
         while (!m_queue.isEmpty() && m_free <= now) {
-            m_encoded.append(m_queue.take().place);
+            m_encoded.append(m_queue.take().slot);
             m_free = qMax(m_free, m_encoded.last() * m_period) + m_work;
             m_queue.worked(m_work);
         }
@@ -58,16 +58,16 @@ private:
     const qint64 m_period;
     FrameQueue m_queue;
     qint64 m_work = 0;
-    qint64 m_next = 0; ///< place of the camera's next frame
+    qint64 m_next = 0; ///< slot of the camera's next frame
     qint64 m_free = 0; ///< when the encoder is done
-    QVector<qint64> m_encoded; ///< places
+    QVector<qint64> m_encoded; ///< slots
 };
 
-int largestGap(const QVector<qint64> &places, int from)
+int largestGap(const QVector<qint64> &taken, int from)
 {
     qint64 largest = 0;
-    for (int i = from + 1; i < places.size(); ++i)
-        largest = qMax(largest, places[i] - places[i - 1]);
+    for (int i = from + 1; i < taken.size(); ++i)
+        largest = qMax(largest, taken[i] - taken[i - 1]);
     return int(largest);
 }
 
@@ -77,7 +77,7 @@ class TestFrameQueue : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(gstreamerIsReady()); }
+    void initTestCase() { QVERIFY(startGstreamer()); }
     void anEncoderThatKeepsUpGetsEveryFrame();
     void anEncoderThatFallsBehindGetsAsManyAsItHasTimeFor_data();
     void anEncoderThatFallsBehindGetsAsManyAsItHasTimeFor();
@@ -143,16 +143,16 @@ void TestFrameQueue::framesComeBackWhenTheEncoderIsQuickAgain()
 void TestFrameQueue::aStandstillLeavesFramesFromAllOfIt()
 {
     FrameQueue queue(second / 30, small);
-    QVector<qint64> places;
-    for (qint64 place = 0; place < 300; ++place)
-        if (queue.wants(place))
-            queue.add(place, frame());
+    QVector<qint64> taken;
+    for (qint64 slot = 0; slot < 300; ++slot)
+        if (queue.wants(slot))
+            queue.add(slot, frame());
     while (!queue.isEmpty())
-        places.append(queue.take().place);
-    QVERIFY2(places.size() >= 10, qPrintable(QString::number(places.size())));
-    QVERIFY2(largestGap(places, 0) <= 40, qPrintable(QString::number(largestGap(places, 0))));
-    QVERIFY(places.first() < 20);
-    QVERIFY(places.last() > 260);
+        taken.append(queue.take().slot);
+    QVERIFY2(taken.size() >= 10, qPrintable(QString::number(taken.size())));
+    QVERIFY2(largestGap(taken, 0) <= 40, qPrintable(QString::number(largestGap(taken, 0))));
+    QVERIFY(taken.first() < 20);
+    QVERIFY(taken.last() > 260);
 }
 
 void TestFrameQueue::theQueueHoldsOneSecondAtMost()
@@ -188,15 +188,15 @@ void TestFrameQueue::oneSlowFrameChangesNothing()
 void TestFrameQueue::theLastFrameIsAlwaysKept()
 {
     FrameQueue queue(second / 30, small);
-    for (qint64 place = 0; place < 200; ++place)
-        if (queue.wants(place))
-            queue.add(place, frame());
+    for (qint64 slot = 0; slot < 200; ++slot)
+        if (queue.wants(slot))
+            queue.add(slot, frame());
     QVERIFY(!queue.wants(200));
     queue.addLast(200, frame());
     QCOMPARE(queue.newest(), qint64(200));
     qint64 last = -1;
     while (!queue.isEmpty())
-        last = queue.take().place;
+        last = queue.take().slot;
     QCOMPARE(last, qint64(200));
 }
 

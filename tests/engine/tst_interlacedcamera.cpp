@@ -123,7 +123,7 @@ private Q_SLOTS:
 void TestInterlacedCamera::initTestCase()
 {
     g_log_set_default_handler(onLog, nullptr);
-    QVERIFY(gstreamerIsReady());
+    QVERIFY(startGstreamer());
 }
 
 void TestInterlacedCamera::whatMovesHasNoTeeth_data()

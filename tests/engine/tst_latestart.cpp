@@ -54,7 +54,7 @@ private Q_SLOTS:
 void TestLateStart::initTestCase()
 {
     QVERIFY2(!qEnvironmentVariableIsEmpty("ORVANTA_LAB"), "this test must be run by tests/lab/lab");
-    QVERIFY(gstreamerIsReady());
+    QVERIFY(startGstreamer());
 }
 
 void TestLateStart::aCameraThatBeganBeforeItWasAskedIsOpened_data()
@@ -67,7 +67,7 @@ void TestLateStart::aCameraThatBeganBeforeItWasAskedIsOpened_data()
 void TestLateStart::aCameraThatBeganBeforeItWasAskedIsOpened()
 {
     QFETCH(bool, late);
-    const CameraMode mode{CameraMode::Coding::Raw, "UYVY", 1280, 720, 30, 1};
+    const CameraMode mode{CameraMode::Encoding::Raw, "UYVY", 1280, 720, 30, 1};
     const GstMiniHandle<GstCaps> offered(gst_caps_new_empty_simple("video/x-raw"));
     GstObjectHandle<GstElement> source =
         ownFloating(gst_element_factory_make("pipewiresrc", nullptr));

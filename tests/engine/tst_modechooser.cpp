@@ -6,12 +6,12 @@ namespace {
 
 CameraMode raw(int width, int height, int rate, const QByteArray &format = "YUY2")
 {
-    return {CameraMode::Coding::Raw, format, width, height, rate, 1};
+    return {CameraMode::Encoding::Raw, format, width, height, rate, 1};
 }
 
 CameraMode jpeg(int width, int height, int rate)
 {
-    return {CameraMode::Coding::Jpeg, {}, width, height, rate, 1};
+    return {CameraMode::Encoding::Jpeg, {}, width, height, rate, 1};
 }
 
 } // namespace

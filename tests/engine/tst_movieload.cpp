@@ -45,7 +45,7 @@ private:
 
 static const int length = 6; // s
 
-static MovieCoding codingBehind(const QByteArray &hindrance)
+static MovieEncoding encodingBehind(const QByteArray &hindrance)
 {
     return {hindrance
                 + "x264enc tune=zerolatency speed-preset=ultrafast bframes=0 key-int-max=30"
@@ -62,7 +62,7 @@ static QByteArray slowedTo(int percent, int rate)
 void TestMovieLoad::initTestCase()
 {
     qputenv("PHONON_GST_VIDEOMODE", "software");
-    QVERIFY(gstreamerIsReady());
+    QVERIFY(startGstreamer());
 }
 
 QString TestMovieLoad::newPath()
@@ -75,7 +75,7 @@ MovieFile TestMovieLoad::record(const QByteArray &hindrance, QSize size, int rat
     StandInCamera camera(size, rate);
     const QString path = newPath();
     const std::shared_ptr<MovieRecorder> recorder =
-        MovieRecorder::start(path, camera.format(), codingBehind(hindrance));
+        MovieRecorder::start(path, camera.format(), encodingBehind(hindrance));
     if (!recorder)
         return MovieFile(path);
     camera.send(
@@ -181,8 +181,8 @@ void TestMovieLoad::aMovieOfWhichNoFrameCouldBeEncodedLeavesNoFile()
 {
     StandInCamera camera({640, 480}, 30);
     const QString path = newPath();
-    const std::shared_ptr<MovieRecorder> recorder =
-        MovieRecorder::start(path, camera.format(), codingBehind("identity drop-probability=1 ! "));
+    const std::shared_ptr<MovieRecorder> recorder = MovieRecorder::start(
+        path, camera.format(), encodingBehind("identity drop-probability=1 ! "));
     QVERIFY(recorder);
     camera.send(
         0.5, [&](GstBuffer *frame, GstClockTime captured) { recorder->addFrame(frame, captured); },
@@ -200,7 +200,7 @@ void TestMovieLoad::aFileThatIsNotCompleteInTimeIsCompletedOnTheSide()
     StandInCamera camera({640, 480}, 30);
     const QString path = newPath();
     const std::shared_ptr<MovieRecorder> recorder =
-        MovieRecorder::start(path, camera.format(), codingBehind(slowedTo(10, 30)));
+        MovieRecorder::start(path, camera.format(), encodingBehind(slowedTo(10, 30)));
     QVERIFY(recorder);
     camera.send(
         length,

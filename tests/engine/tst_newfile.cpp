@@ -1,5 +1,5 @@
+#include "EncoderSearch.h"
 #include "GstStart.h"
-#include "MovieCoding.h"
 #include "MovieRecorder.h"
 #include "NewFile.h"
 
@@ -103,19 +103,19 @@ void TestNewFile::whatIsThereIsLeftAsItIs()
 void TestNewFile::aMovieIsNotWrittenOverWhatIsThere()
 {
     QFETCH(QString, what);
-    QVERIFY(gstreamerIsReady());
-    const MovieCoding coding =
-        MovieCodingSearch({640, 480}, 30).waitUntil(steady_clock::now() + seconds(30));
-    QVERIFY(coding.isComplete());
+    QVERIFY(startGstreamer());
+    const MovieEncoding encoding =
+        EncoderSearch({640, 480}, 30).waitUntil(steady_clock::now() + seconds(30));
+    QVERIFY(encoding.isComplete());
     GstVideoInfo format;
     gst_video_info_set_format(&format, GST_VIDEO_FORMAT_I420, 640, 480);
     lay(what);
-    QVERIFY(!MovieRecorder::start(path(), format, coding));
+    QVERIFY(!MovieRecorder::start(path(), format, encoding));
     QVERIFY(isAsLaid(what));
 
     // Beside it there is room. A movie without a frame leaves no file.
     const QString other = m_folder->filePath("movie2.mov");
-    const auto recorder = MovieRecorder::start(other, format, coding);
+    const auto recorder = MovieRecorder::start(other, format, encoding);
     QVERIFY(recorder);
     QVERIFY(QFile::exists(other));
     recorder->finish(milliseconds(2000));

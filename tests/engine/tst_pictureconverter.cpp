@@ -34,7 +34,7 @@ class TestPictureConverter : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(gstreamerIsReady()); }
+    void initTestCase() { QVERIFY(startGstreamer()); }
     void coloursAndSizeComeOut_data();
     void coloursAndSizeComeOut();
     void interlacedFramesComeOutToo_data();

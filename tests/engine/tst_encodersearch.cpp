@@ -1,6 +1,6 @@
+#include "EncoderSearch.h"
 #include "GstHandles.h"
 #include "GstStart.h"
-#include "MovieCoding.h"
 #include "MovieMaker.h"
 #include "MovieRecorder.h"
 
@@ -16,22 +16,22 @@
 using std::chrono::seconds;
 using std::chrono::steady_clock;
 
-// A graphics driver's coder on a machine where it is there but of no use.
+// A graphics driver's encoder on a machine where it is there but of no use.
 namespace {
 
-enum class Defect { Fails, CodesNothing, Hangs };
+enum class Defect { Fails, EncodesNothing, Hangs };
 Defect defect = Defect::Fails;
-std::atomic<int> tried{0}; // frames that the useless coder was given
+std::atomic<int> tried{0}; // frames that the useless encoder was given
 
-struct UselessCoder {
+struct UselessEncoder {
     GstElement parent;
 };
-struct UselessCoderClass {
+struct UselessEncoderClass {
     GstElementClass parent;
 };
 
 // NOLINTNEXTLINE(modernize-use-nullptr): the macro's own
-G_DEFINE_TYPE(UselessCoder, useless_coder, GST_TYPE_ELEMENT)
+G_DEFINE_TYPE(UselessEncoder, useless_encoder, GST_TYPE_ELEMENT)
 
 GstFlowReturn takeFrame(GstPad *, GstObject *, GstBuffer *frame)
 {
@@ -63,11 +63,11 @@ void installEncoderProperties(GObjectClass *object)
             object, ++id, g_param_spec_uint(name, name, name, 0, G_MAXUINT, 0, G_PARAM_WRITABLE));
 }
 
-void useless_coder_class_init(UselessCoderClass *type)
+void useless_encoder_class_init(UselessEncoderClass *type)
 {
     installEncoderProperties(G_OBJECT_CLASS(type));
     auto *element = GST_ELEMENT_CLASS(type);
-    gst_element_class_set_static_metadata(element, "Useless coder", "Codec/Encoder/Video",
+    gst_element_class_set_static_metadata(element, "Useless encoder", "Codec/Encoder/Video",
                                           "Takes frames and gives nothing", "Orvanta");
     const GstMiniHandle<GstCaps> any(gst_caps_new_any());
     const GstMiniHandle<GstCaps> h264(coded());
@@ -77,9 +77,9 @@ void useless_coder_class_init(UselessCoderClass *type)
         element, gst_pad_template_new("src", GST_PAD_SRC, GST_PAD_ALWAYS, h264.get()));
 }
 
-void useless_coder_init(UselessCoder *coder)
+void useless_encoder_init(UselessEncoder *encoder)
 {
-    auto *element = GST_ELEMENT(coder);
+    auto *element = GST_ELEMENT(encoder);
     auto *type = GST_ELEMENT_GET_CLASS(element);
     GstPad *in =
         gst_pad_new_from_template(gst_element_class_get_pad_template(type, "sink"), "sink");
@@ -91,32 +91,32 @@ void useless_coder_init(UselessCoder *coder)
 }
 
 /// A driver's encoder that works, but takes its time.
-struct SlowCoder {
+struct SlowEncoder {
     GstBin parent;
 };
-struct SlowCoderClass {
+struct SlowEncoderClass {
     GstBinClass parent;
 };
 
 // NOLINTNEXTLINE(modernize-use-nullptr): the macro's own
-G_DEFINE_TYPE(SlowCoder, slow_coder, GST_TYPE_BIN)
+G_DEFINE_TYPE(SlowEncoder, slow_encoder, GST_TYPE_BIN)
 
-void slow_coder_class_init(SlowCoderClass *type)
+void slow_encoder_class_init(SlowEncoderClass *type)
 {
     installEncoderProperties(G_OBJECT_CLASS(type));
-    gst_element_class_set_static_metadata(GST_ELEMENT_CLASS(type), "Slow coder",
+    gst_element_class_set_static_metadata(GST_ELEMENT_CLASS(type), "Slow encoder",
                                           "Codec/Encoder/Video", "Takes its time", "Orvanta");
 }
 
-void slow_coder_init(SlowCoder *coder)
+void slow_encoder_init(SlowEncoder *encoder)
 {
     const GstObjectHandle<GstElement> inside = ownFloating(gst_parse_bin_from_description(
         "identity sleep-time=700000 ! x264enc tune=zerolatency speed-preset=ultrafast", TRUE,
         nullptr));
-    gst_bin_add(GST_BIN(coder), inside.get());
+    gst_bin_add(GST_BIN(encoder), inside.get());
     for (const char *name : {"sink", "src"}) {
         const GstObjectHandle<GstPad> pad(gst_element_get_static_pad(inside.get(), name));
-        gst_element_add_pad(GST_ELEMENT(coder), gst_ghost_pad_new(name, pad.get()));
+        gst_element_add_pad(GST_ELEMENT(encoder), gst_ghost_pad_new(name, pad.get()));
     }
 }
 
@@ -135,9 +135,9 @@ void withoutElements(const QStringList &names)
 
 Q_DECLARE_METATYPE(Defect)
 
-// Which coders are taken, on a machine that loses one after the other; the order of the tests is
+// Which encoders are taken, on a machine that loses one after the other; the order of the tests is
 // the order in which they go.
-class TestMovieCoding : public QObject {
+class TestEncoderSearch : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -146,61 +146,61 @@ private Q_SLOTS:
     void aSlowEncoderGetsASmallerPicture_data();
     void aSlowEncoderGetsASmallerPicture();
     void theBitRateFitsSizeAndRate();
-    void aDriversCoderThatDoesNotWorkIsPassedOver_data();
-    void aDriversCoderThatDoesNotWorkIsPassedOver();
+    void aDriversEncoderThatDoesNotWorkIsPassedOver_data();
+    void aDriversEncoderThatDoesNotWorkIsPassedOver();
     void aDriverThatHangsKeepsNoMovieFromBeginning();
     void aDriverThatIsMerelySlowIsTakenInTheEnd();
     void whatFailedIsRememberedForTheNextStart();
     void aMemoryThatIsDamagedIsNotBelieved_data();
     void aMemoryThatIsDamagedIsNotBelieved();
     void anEncoderThatFailedInAMovieIsNotTakenAgain();
-    void anotherCoderTakesThePlaceOfOneThatIsMissing_data();
-    void anotherCoderTakesThePlaceOfOneThatIsMissing();
+    void anotherEncoderTakesThePlaceOfOneThatIsMissing_data();
+    void anotherEncoderTakesThePlaceOfOneThatIsMissing();
     void whoCannotWaitGetsWhatIsSureToWork();
-    void withoutACoderForTheSoundTheCodingIsIncomplete();
-    void withoutACoderForThePictureTheCodingIsIncomplete();
+    void withoutAnEncoderForTheSoundTheEncodingIsIncomplete();
+    void withoutAnEncoderForThePictureTheEncodingIsIncomplete();
 
 private:
-    static MovieCoding find(const QSize &size = {640, 480});
+    static MovieEncoding find(const QSize &size = {640, 480});
     static QString cachePath();
-    static void plugDriverIn(GType coder);
+    static void plugDriverIn(GType encoder);
 
     QTemporaryDir m_cache;
 };
 
-MovieCoding TestMovieCoding::find(const QSize &size)
+MovieEncoding TestEncoderSearch::find(const QSize &size)
 {
-    const MovieCodingSearch search(size, 30);
+    const EncoderSearch search(size, 30);
     search.hasEnded(steady_clock::now() + seconds(20));
     return search.waitUntil(steady_clock::now() + seconds(20));
 }
 
-QString TestMovieCoding::cachePath()
+QString TestEncoderSearch::cachePath()
 {
     return QString::fromLocal8Bit(qgetenv("XDG_CACHE_HOME")) + "/orvanta/movie-encoders.json";
 }
 
-void TestMovieCoding::plugDriverIn(GType coder)
+void TestEncoderSearch::plugDriverIn(GType encoder)
 {
     tried = 0;
-    QVERIFY(gst_element_register(nullptr, "vah264enc", GST_RANK_PRIMARY, coder));
+    QVERIFY(gst_element_register(nullptr, "vah264enc", GST_RANK_PRIMARY, encoder));
 }
 
-void TestMovieCoding::initTestCase()
+void TestEncoderSearch::initTestCase()
 {
     qputenv("XDG_CACHE_HOME", QFile::encodeName(m_cache.path()));
-    QVERIFY(gstreamerIsReady());
+    QVERIFY(startGstreamer());
     // What this machine's own driver may offer is not what is tested.
     withoutElements({"vah264enc", "vah264lpenc", "v4l2h264enc"});
     QVERIFY(find().video.startsWith("x264enc "));
 }
 
-void TestMovieCoding::init()
+void TestEncoderSearch::init()
 {
     QFile::remove(cachePath());
 }
 
-void TestMovieCoding::aSlowEncoderGetsASmallerPicture_data()
+void TestEncoderSearch::aSlowEncoderGetsASmallerPicture_data()
 {
     QTest::addColumn<double>("frameTime"); // s
     QTest::addColumn<QSize>("size");
@@ -214,14 +214,14 @@ void TestMovieCoding::aSlowEncoderGetsASmallerPicture_data()
     QTest::newRow("a small picture stays") << 1.0 << QSize(320, 240) << 1;
 }
 
-void TestMovieCoding::aSlowEncoderGetsASmallerPicture()
+void TestEncoderSearch::aSlowEncoderGetsASmallerPicture()
 {
     QFETCH(double, frameTime);
     QFETCH(QSize, size);
     QTEST(movieDivisor(frameTime, size), "divisor");
 }
 
-void TestMovieCoding::theBitRateFitsSizeAndRate()
+void TestEncoderSearch::theBitRateFitsSizeAndRate()
 {
     const int usual = movieBitRate({1280, 720}, 30);
     QCOMPARE(movieBitRate({1280, 720}, 60), 2 * usual);
@@ -229,33 +229,33 @@ void TestMovieCoding::theBitRateFitsSizeAndRate()
     QVERIFY(double(usual) * 600 / 8 < 300e6); // bytes of the longest movie
 }
 
-void TestMovieCoding::aDriversCoderThatDoesNotWorkIsPassedOver_data()
+void TestEncoderSearch::aDriversEncoderThatDoesNotWorkIsPassedOver_data()
 {
     QTest::addColumn<Defect>("what");
     QTest::newRow("it fails") << Defect::Fails;
-    QTest::newRow("it codes nothing") << Defect::CodesNothing;
+    QTest::newRow("it encodes nothing") << Defect::EncodesNothing;
     QTest::newRow("it hangs") << Defect::Hangs;
 }
 
-void TestMovieCoding::aDriversCoderThatDoesNotWorkIsPassedOver()
+void TestEncoderSearch::aDriversEncoderThatDoesNotWorkIsPassedOver()
 {
     QFETCH(Defect, what);
     defect = what;
-    plugDriverIn(useless_coder_get_type());
-    const MovieCodingSearch search({640, 480}, 30);
-    const MovieCoding coding = search.waitUntil(steady_clock::now() + seconds(8));
+    plugDriverIn(useless_encoder_get_type());
+    const EncoderSearch search({640, 480}, 30);
+    const MovieEncoding encoding = search.waitUntil(steady_clock::now() + seconds(8));
     QTRY_VERIFY_WITH_TIMEOUT(tried > 0, 20000); // or it would prove nothing
     // What it remembers when it ends is not for the next row.
     QVERIFY(defect == Defect::Hangs || search.hasEnded(steady_clock::now() + seconds(20)));
     withoutElements({"vah264enc"});
-    QVERIFY2(coding.video.startsWith("x264enc "), coding.video.constData());
-    QVERIFY(coding.isComplete());
+    QVERIFY2(encoding.video.startsWith("x264enc "), encoding.video.constData());
+    QVERIFY(encoding.isComplete());
 }
 
-void TestMovieCoding::aDriverThatHangsKeepsNoMovieFromBeginning()
+void TestEncoderSearch::aDriverThatHangsKeepsNoMovieFromBeginning()
 {
     defect = Defect::Hangs;
-    plugDriverIn(useless_coder_get_type());
+    plugDriverIn(useless_encoder_get_type());
     GstVideoInfo format;
     gst_video_info_set_format(&format, GST_VIDEO_FORMAT_I420, 640, 480);
     const QTemporaryDir folder;
@@ -271,27 +271,27 @@ void TestMovieCoding::aDriverThatHangsKeepsNoMovieFromBeginning()
     QVERIFY2(timer.elapsed() < 3000, qPrintable(QString::number(timer.elapsed())));
 }
 
-void TestMovieCoding::aDriverThatIsMerelySlowIsTakenInTheEnd()
+void TestEncoderSearch::aDriverThatIsMerelySlowIsTakenInTheEnd()
 {
-    plugDriverIn(slow_coder_get_type());
-    const MovieCodingSearch search({640, 480}, 30);
+    plugDriverIn(slow_encoder_get_type());
+    const EncoderSearch search({640, 480}, 30);
     QVERIFY(search.waitUntil(steady_clock::now() + seconds(1)).video.startsWith("x264enc "));
-    const MovieCoding coding = search.waitUntil(steady_clock::now() + seconds(25));
+    const MovieEncoding encoding = search.waitUntil(steady_clock::now() + seconds(25));
     withoutElements({"vah264enc"});
-    QVERIFY2(coding.video.contains("vah264enc "), coding.video.constData());
-    QCOMPARE(coding.divisor, 2);
+    QVERIFY2(encoding.video.contains("vah264enc "), encoding.video.constData());
+    QCOMPARE(encoding.divisor, 2);
     QVERIFY2(!QFile::exists(cachePath()), "a driver's encoder must show each time that it works");
 }
 
-void TestMovieCoding::whatFailedIsRememberedForTheNextStart()
+void TestEncoderSearch::whatFailedIsRememberedForTheNextStart()
 {
     defect = Defect::Fails;
-    plugDriverIn(useless_coder_get_type());
+    plugDriverIn(useless_encoder_get_type());
     QVERIFY(find().isComplete());
     QVERIFY(tried > 0);
     QVERIFY(QFile::exists(cachePath()));
     tried = 0;
-    const MovieCoding known = MovieCodingSearch({640, 480}, 30).waitUntil(steady_clock::now());
+    const MovieEncoding known = EncoderSearch({640, 480}, 30).waitUntil(steady_clock::now());
     QVERIFY(known.video.startsWith("x264enc "));
     QVERIFY(known.isComplete());
     QCOMPARE(int(tried), 0);
@@ -300,7 +300,7 @@ void TestMovieCoding::whatFailedIsRememberedForTheNextStart()
     QVERIFY(tried > 0);
 }
 
-void TestMovieCoding::aMemoryThatIsDamagedIsNotBelieved_data()
+void TestEncoderSearch::aMemoryThatIsDamagedIsNotBelieved_data()
 {
     QTest::addColumn<QByteArray>("from");
     QTest::addColumn<QByteArray>("to");
@@ -310,12 +310,12 @@ void TestMovieCoding::aMemoryThatIsDamagedIsNotBelieved_data()
     QTest::newRow("a driver's encoder") << QByteArray("x264enc") << QByteArray("vah264enc");
 }
 
-void TestMovieCoding::aMemoryThatIsDamagedIsNotBelieved()
+void TestEncoderSearch::aMemoryThatIsDamagedIsNotBelieved()
 {
     QFETCH(QByteArray, from);
     QFETCH(QByteArray, to);
     defect = Defect::Fails;
-    plugDriverIn(useless_coder_get_type());
+    plugDriverIn(useless_encoder_get_type());
     QVERIFY(find().isComplete());
     QVERIFY(QFile::exists(cachePath()));
     QFile file(cachePath());
@@ -329,26 +329,26 @@ void TestMovieCoding::aMemoryThatIsDamagedIsNotBelieved()
     QVERIFY(file.resize(0) && file.seek(0) && file.write(text) > 0);
     file.close();
     tried = 0;
-    const MovieCoding coding = find();
+    const MovieEncoding encoding = find();
     withoutElements({"vah264enc"});
     QVERIFY(tried > 0);
-    QVERIFY2(coding.video.startsWith("x264enc "), coding.video.constData());
+    QVERIFY2(encoding.video.startsWith("x264enc "), encoding.video.constData());
 }
 
-void TestMovieCoding::anEncoderThatFailedInAMovieIsNotTakenAgain()
+void TestEncoderSearch::anEncoderThatFailedInAMovieIsNotTakenAgain()
 {
-    MovieCodingSearch search({640, 480}, 30);
-    const MovieCoding coding = search.waitUntil(steady_clock::now() + seconds(20));
-    QVERIFY(coding.video.startsWith("x264enc "));
+    EncoderSearch search({640, 480}, 30);
+    const MovieEncoding encoding = search.waitUntil(steady_clock::now() + seconds(20));
+    QVERIFY(encoding.video.startsWith("x264enc "));
     QVERIFY(search.hasEnded(steady_clock::now() + seconds(20)));
     QVERIFY(QFile::exists(cachePath()));
-    search.reject(coding.video);
+    search.reject(encoding.video);
     QVERIFY(!QFile::exists(cachePath()));
-    const MovieCoding next = search.waitUntil(steady_clock::now());
+    const MovieEncoding next = search.waitUntil(steady_clock::now());
     QVERIFY2(next.video.startsWith("openh264enc "), next.video.constData());
 }
 
-void TestMovieCoding::anotherCoderTakesThePlaceOfOneThatIsMissing_data()
+void TestEncoderSearch::anotherEncoderTakesThePlaceOfOneThatIsMissing_data()
 {
     QTest::addColumn<QString>("missing");
     QTest::addColumn<QByteArray>("taken");
@@ -356,39 +356,39 @@ void TestMovieCoding::anotherCoderTakesThePlaceOfOneThatIsMissing_data()
     QTest::newRow("no H.264 at all") << "openh264enc" << QByteArray("jpegenc ");
 }
 
-void TestMovieCoding::anotherCoderTakesThePlaceOfOneThatIsMissing()
+void TestEncoderSearch::anotherEncoderTakesThePlaceOfOneThatIsMissing()
 {
     QFETCH(QString, missing);
     QFETCH(QByteArray, taken);
     withoutElements({missing});
-    const MovieCoding coding = find();
-    QVERIFY2(coding.video.startsWith(taken), coding.video.constData());
-    QVERIFY(coding.isComplete());
+    const MovieEncoding encoding = find();
+    QVERIFY2(encoding.video.startsWith(taken), encoding.video.constData());
+    QVERIFY(encoding.isComplete());
 }
 
-void TestMovieCoding::whoCannotWaitGetsWhatIsSureToWork()
+void TestEncoderSearch::whoCannotWaitGetsWhatIsSureToWork()
 {
-    const MovieCodingSearch search({1920, 1080}, 30);
+    const EncoderSearch search({1920, 1080}, 30);
     QElapsedTimer timer;
     timer.start();
     QVERIFY(search.waitUntil(steady_clock::now()).isComplete());
     QVERIFY(timer.elapsed() < 500);
 }
 
-void TestMovieCoding::withoutACoderForTheSoundTheCodingIsIncomplete()
+void TestEncoderSearch::withoutAnEncoderForTheSoundTheEncodingIsIncomplete()
 {
     withoutElements({"avenc_aac", "fdkaacenc", "voaacenc"});
-    const MovieCoding coding = find();
-    QVERIFY(!coding.video.isEmpty());
-    QVERIFY(!coding.isComplete());
+    const MovieEncoding encoding = find();
+    QVERIFY(!encoding.video.isEmpty());
+    QVERIFY(!encoding.isComplete());
 }
 
-void TestMovieCoding::withoutACoderForThePictureTheCodingIsIncomplete()
+void TestEncoderSearch::withoutAnEncoderForThePictureTheEncodingIsIncomplete()
 {
     withoutElements({"jpegenc"});
-    const MovieCoding coding = find();
-    QVERIFY(coding.video.isEmpty());
-    QVERIFY(!coding.isComplete());
+    const MovieEncoding encoding = find();
+    QVERIFY(encoding.video.isEmpty());
+    QVERIFY(!encoding.isComplete());
 
     const QTemporaryDir folder;
     GstVideoInfo format;
@@ -402,5 +402,5 @@ void TestMovieCoding::withoutACoderForThePictureTheCodingIsIncomplete()
     QVERIFY(!QFile::exists(folder.filePath("movie.mov")));
 }
 
-QTEST_GUILESS_MAIN(TestMovieCoding)
-#include "tst_moviecoding.moc"
+QTEST_GUILESS_MAIN(TestEncoderSearch)
+#include "tst_encodersearch.moc"

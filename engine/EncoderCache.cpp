@@ -1,4 +1,4 @@
-#include "MovieCodingCache.h"
+#include "EncoderCache.h"
 
 #include "GstHandles.h"
 
@@ -39,7 +39,7 @@ static QByteArray originOf(const QByteArray &element)
         + QByteArray::number(file.lastModified().toMSecsSinceEpoch());
 }
 
-QByteArray MovieCodingCache::keyOf(const QSize &size, double rate, const QByteArrayList &encoders)
+QByteArray EncoderCache::keyOf(const QSize &size, double rate, const QByteArrayList &encoders)
 {
     const GlibString gstreamer(gst_version_string());
     QByteArrayList facts{"1",
@@ -57,14 +57,14 @@ QByteArray MovieCodingCache::keyOf(const QSize &size, double rate, const QByteAr
     return QCryptographicHash::hash(facts.join('\n'), QCryptographicHash::Sha256).toHex();
 }
 
-TriedCoding MovieCodingCache::load(const QByteArray &key)
+TriedEncoders EncoderCache::load(const QByteArray &key)
 {
     QFile file(cachePath());
     if (!file.open(QIODevice::ReadOnly) || file.size() > longestFile)
         return {};
     const QJsonObject all = QJsonDocument::fromJson(file.read(longestFile)).object();
     const QJsonObject known = all.value(QString::fromLatin1(key)).toObject();
-    TriedCoding tried;
+    TriedEncoders tried;
     tried.video = known.value("video").toString().toUtf8();
     tried.sound = known.value("sound").toString().toUtf8();
     tried.frameTime = known.value("frame time").toDouble(-1);
@@ -72,10 +72,10 @@ TriedCoding MovieCodingCache::load(const QByteArray &key)
     for (const QJsonValue &encoder : failed)
         tried.failed.append(encoder.toString().toUtf8());
     const bool isSound = tried.frameTime > 0 && tried.frameTime < longestFrameTime;
-    return isSound ? tried : TriedCoding();
+    return isSound ? tried : TriedEncoders();
 }
 
-void MovieCodingCache::store(const QByteArray &key, const TriedCoding &tried)
+void EncoderCache::store(const QByteArray &key, const TriedEncoders &tried)
 {
     QJsonArray failed;
     for (const QByteArray &encoder : tried.failed)
@@ -92,7 +92,7 @@ void MovieCodingCache::store(const QByteArray &key, const TriedCoding &tried)
         file.commit();
 }
 
-void MovieCodingCache::forget()
+void EncoderCache::forget()
 {
     QFile::remove(cachePath());
 }

@@ -1,12 +1,12 @@
-#ifndef MOVIECODINGCACHE_H
-#define MOVIECODINGCACHE_H
+#ifndef ENCODERCACHE_H
+#define ENCODERCACHE_H
 
 #include <QByteArray>
 #include <QByteArrayList>
 #include <QSize>
 
 /// What the trials of encoders have shown on this machine.
-struct TriedCoding {
+struct TriedEncoders {
     QByteArray video;
     QByteArray sound;
     double frameTime = 0; ///< s that the video encoder needs for a frame
@@ -23,15 +23,15 @@ struct TriedCoding {
  *
  * Any thread.
  */
-namespace MovieCodingCache {
+namespace EncoderCache {
 
 /// What must not have changed. @p encoders are the names of all elements that come into question.
 QByteArray keyOf(const QSize &size, double rate, const QByteArrayList &encoders);
 
-TriedCoding load(const QByteArray &key); ///< empty when nothing is known
-void store(const QByteArray &key, const TriedCoding &tried);
+TriedEncoders load(const QByteArray &key); ///< empty when nothing is known
+void store(const QByteArray &key, const TriedEncoders &tried);
 void forget(); ///< an encoder did not do what it had shown
 
-} // namespace MovieCodingCache
+} // namespace EncoderCache
 
 #endif
