@@ -69,7 +69,7 @@ GstFlowReturn Microphone::Pipeline::onSound(GstAppSink *sink, gpointer shared)
     if (!gst_buffer_map(buffer, &map, GST_MAP_READ))
         return GST_FLOW_OK;
     recorder->addSound(reinterpret_cast<const char *>(map.data),
-                       qint64(map.size) / SoundTrack::bytesOfSample,
+                       qint64(map.size) / SoundTrack::bytesPerSampleFrame,
                        capturedAt(GST_ELEMENT(sink), buffer));
     gst_buffer_unmap(buffer, &map);
     return GST_FLOW_OK;

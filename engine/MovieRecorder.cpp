@@ -3,110 +3,31 @@
 #include "BoundedTask.h"
 #include "EngineLog.h"
 #include "MovieCompletion.h"
+#include "MoviePipeline.h"
 #include "NewFile.h"
 #include "PatientWait.h"
 #include "PipelineTools.h"
 
 #include <QFile>
 
-#include <gst/video/gstvideoencoder.h>
-
-#include <atomic>
-#include <sys/resource.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 #include <utility>
 
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-static const milliseconds firstFrameLimit(1000);
-// How long a file that is being completed may not grow: while it is awaited, and afterwards.
+static const milliseconds firstFrameLimit(1000); // that a movie waits for at its end
+// How long a file that is being completed may not grow while it is awaited.
 static const milliseconds stallLimit(2000);
-static const milliseconds abandonLimit(20000);
 static const qint64 second = GST_SECOND;
 static const qint64 soundDelay = 3 * second; // before it counts as missing
 static const qint64 soundAhead = 10 * second; // before the picture counts as gone
 static const qint64 standstill = second; // that a last frame may stand for, when none follows it
-// Every sound encoder begins with a frame of its own, which players do not know and play.
-static const qint64 soundRunUp = 1024; // samples
+// An AAC encoder puts one frame of its own before the first that it was given, its priming samples.
+// The file does not say so, and players play them: all sound comes later by their length. So it is
+// laid in that much earlier.
+static const qint64 primingLength = 1024; // sample frames, one frame of AAC
 static const int usualRate = 30; // frames a second, for cameras that do not know theirs
-static const int politeness = 4; // added to the nice value of what converts and encodes
-
-/// How far the pipeline has come, told by its bus and its pads on any of its threads.
-struct MovieRecorder::Progress {
-    std::mutex mutex; ///< guards everything up to the counts
-    std::condition_variable changed;
-    std::function<void()> onFailure; ///< null once it was called, or nobody wants to know
-    bool ended = false;
-    bool failed = false;
-    bool encoderFailed = false;
-
-    std::atomic<int> written{0}; ///< pieces of the file
-    std::atomic<int> encoded{0}; ///< frames
-
-    /// Grows as long as anything goes on.
-    int steps() const { return written + encoded; }
-    bool waitForEnd(); ///< true when the file is whole
-    void fail(GstMessage *message);
-    void end();
-    static GstBusSyncReply onMessage(GstBus *bus, GstMessage *message, gpointer shared);
-};
-
-void MovieRecorder::Progress::fail(GstMessage *message)
-{
-    qCInfo(engineLog) << "the movie ends here:" << errorText(message);
-    dumpPipeline(GST_MESSAGE_SRC(message), "error");
-    const std::lock_guard<std::mutex> lock(mutex);
-    failed = ended = true;
-    encoderFailed = encoderFailed || GST_IS_VIDEO_ENCODER(GST_MESSAGE_SRC(message));
-    changed.notify_all();
-    if (const auto tell = std::exchange(onFailure, nullptr))
-        tell();
-}
-
-void MovieRecorder::Progress::end()
-{
-    const std::lock_guard<std::mutex> lock(mutex);
-    ended = true;
-    changed.notify_all();
-}
-
-// Converting and encoding can wait a moment; the live picture and the buttons should not.
-static void workPolitely(GstMessage *message)
-{
-    GstStreamStatusType type = GST_STREAM_STATUS_TYPE_CREATE;
-    GstElement *owner = nullptr; // borrowed
-    gst_message_parse_stream_status(message, &type, &owner);
-    if (type != GST_STREAM_STATUS_TYPE_ENTER || !owner)
-        return;
-    const GlibString name(gst_element_get_name(owner));
-    if (qstrcmp(name.get(), "frames") != 0 && qstrcmp(name.get(), "converted") != 0)
-        return;
-    // Of this thread alone, and of those that an encoder starts from it.
-    const auto thread = id_t(syscall(SYS_gettid));
-    setpriority(PRIO_PROCESS, thread, getpriority(PRIO_PROCESS, thread) + politeness);
-}
-
-GstBusSyncReply MovieRecorder::Progress::onMessage(GstBus *, GstMessage *message, gpointer shared)
-{
-    Progress &progress = **static_cast<std::shared_ptr<Progress> *>(shared);
-    switch (GST_MESSAGE_TYPE(message)) {
-    case GST_MESSAGE_ERROR:
-        progress.fail(message);
-        break;
-    case GST_MESSAGE_EOS:
-        progress.end();
-        break;
-    case GST_MESSAGE_STREAM_STATUS:
-        workPolitely(message);
-        break;
-    default:
-        break;
-    }
-    gst_message_unref(message);
-    return GST_BUS_DROP;
-}
 
 GstClockTime capturedAt(GstElement *element, GstBuffer *buffer)
 {
@@ -117,21 +38,21 @@ GstClockTime capturedAt(GstElement *element, GstBuffer *buffer)
     return gst_clock_get_time(clock.get());
 }
 
-static int rateNumerator(const GstVideoInfo &format)
+// A movie has a constant rate, also one of a camera that does not know its own.
+static GstVideoInfo withRate(GstVideoInfo format)
 {
-    return format.fps_n > 0 && format.fps_d > 0 ? format.fps_n : usualRate;
+    if (format.fps_n <= 0 || format.fps_d <= 0) {
+        format.fps_n = usualRate;
+        format.fps_d = 1;
+    }
+    return format;
 }
 
-static int rateDenominator(const GstVideoInfo &format)
-{
-    return format.fps_n > 0 && format.fps_d > 0 ? format.fps_d : 1;
-}
-
-MovieRecorder::MovieRecorder(QString path, const GstVideoInfo &format)
+MovieRecorder::MovieRecorder(QString path, const GstVideoInfo &format, std::function<void()> failed)
     : m_path(std::move(path))
-    , m_progress(std::make_shared<Progress>())
+    , m_progress(std::make_shared<MovieProgress>(std::move(failed)))
     , m_copies(GST_VIDEO_INFO_FORMAT(&format) == GST_VIDEO_FORMAT_I420)
-    , m_pacer(rateNumerator(format), rateDenominator(format))
+    , m_pacer(format.fps_n, format.fps_d)
 {
 }
 
@@ -144,84 +65,22 @@ std::shared_ptr<MovieRecorder> MovieRecorder::start(const QString &path, const G
                                                     const MovieEncoding &encoding,
                                                     std::function<void()> failed)
 {
-    std::shared_ptr<MovieRecorder> recorder(new MovieRecorder(path, format));
-    recorder->m_progress->onFailure = std::move(failed);
-    return recorder->build(format, encoding) ? recorder : nullptr;
-}
-
-// Frames of the camera wait in front of the source; behind it there is only the one that the
-// encoder needs next. Encoded frames and sound are small: they wait for as long as a disk stands
-// still, and sound waits for no picture.
-static QByteArray description(const GstVideoInfo &format, const MovieEncoding &encoding)
-{
-    const int perSecond = rateNumerator(format) / rateDenominator(format);
-    return "appsrc name=frames format=time max-bytes=0"
-           " ! videoconvertscale ! video/x-raw,format=I420,pixel-aspect-ratio=1/1,width="
-        + QByteArray::number((format.width / encoding.divisor) & ~1)
-        + ",height=" + QByteArray::number((format.height / encoding.divisor) & ~1)
-        + " ! queue name=converted max-size-buffers=1 max-size-bytes=0 max-size-time=0 ! "
-        + encoding.video
-        + " ! queue name=encoded max-size-buffers=0 max-size-bytes=64000000 max-size-time=0"
-          " ! muxer. appsrc name=sound format=time max-bytes=0 "
-          "caps=audio/x-raw,format=S16LE,layout=interleaved,rate="
-        + QByteArray::number(SoundTrack::rate) + ",channels="
-        + QByteArray::number(SoundTrack::channels) + " ! audioconvert ! " + encoding.sound
-        + " ! queue max-size-buffers=0 max-size-bytes=0 max-size-time=0 ! muxer."
-          // Room for the index of a movie of eleven minutes, one more than the longest.
-          " qtmux name=muxer reserved-max-duration=660000000000"
-          " reserved-moov-update-period=500000000 reserved-bytes-per-sec="
-        + QByteArray::number(qMax(550, perSecond * 20))
-        // Written at once: what waits in the program is lost when it is killed.
-        + " ! filesink name=file async=false buffer-mode=unbuffered";
-}
-
-static GstPadProbeReturn countOne(GstPad *, GstPadProbeInfo *, gpointer count)
-{
-    ++**static_cast<std::shared_ptr<std::atomic<int>> *>(count);
-    return GST_PAD_PROBE_OK;
-}
-
-// Counts what arrives at an element, for as long as that lives.
-static void countArrivals(GstElement *pipeline, const char *element,
-                          const std::shared_ptr<std::atomic<int>> &count)
-{
-    const GstObjectHandle<GstElement> found(gst_bin_get_by_name(GST_BIN(pipeline), element));
-    const GstObjectHandle<GstPad> pad(gst_element_get_static_pad(found.get(), "sink"));
-    gst_pad_add_probe(pad.get(), GST_PAD_PROBE_TYPE_BUFFER, countOne,
-                      new std::shared_ptr<std::atomic<int>>(count), [](gpointer shared) {
-                          delete static_cast<std::shared_ptr<std::atomic<int>> *>(shared);
-                      });
-}
-
-// Hears of everything that happens in the pipeline.
-void MovieRecorder::watch()
-{
-    countArrivals(m_pipeline.get(), "encoded", {m_progress, &m_progress->encoded});
-    countArrivals(m_pipeline.get(), "file", {m_progress, &m_progress->written});
-    const GstObjectHandle<GstBus> bus(gst_element_get_bus(m_pipeline.get()));
-    gst_bus_set_sync_handler(
-        bus.get(), Progress::onMessage, new std::shared_ptr<Progress>(m_progress),
-        [](gpointer shared) { delete static_cast<std::shared_ptr<Progress> *>(shared); });
+    const GstVideoInfo steady = withRate(format);
+    std::shared_ptr<MovieRecorder> recorder(new MovieRecorder(path, steady, std::move(failed)));
+    return recorder->build(steady, encoding) ? recorder : nullptr;
 }
 
 bool MovieRecorder::build(const GstVideoInfo &format, const MovieEncoding &encoding)
 {
-    GstObjectHandle<GstElement> pipeline = parsePipeline("movie", description(format, encoding));
+    GstObjectHandle<GstElement> pipeline = makeMoviePipeline(format, encoding, m_path);
     if (!pipeline)
         return false;
     m_pipeline.reset(pipeline.release(), GstObjectUnref());
     m_frames.reset(gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "frames"));
     m_sound.reset(gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "sound"));
-    const GstObjectHandle<GstElement> file(gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "file"));
-    g_object_set(file.get(), "location", QFile::encodeName(m_path).constData(), nullptr);
-    GstVideoInfo steady = format;
-    steady.fps_n = rateNumerator(format);
-    steady.fps_d = rateDenominator(format);
-    const GstMiniHandle<GstCaps> caps(gst_video_info_to_caps(&steady));
-    g_object_set(m_frames.get(), "caps", caps.get(), nullptr);
     m_feed = FrameFeed::attach(GST_APP_SRC(m_frames.get()), m_pacer.timeOf(1),
                                qint64(GST_VIDEO_INFO_SIZE(&format)));
-    watch();
+    MovieProgress::watch(m_progress, m_pipeline.get());
     // The sink writes to whatever has the name: an older movie, or where a link leads.
     const int made = createNewFile(m_path);
     if (made < 0) {
@@ -247,7 +106,7 @@ static qint64 systemTime()
 void MovieRecorder::addFrame(GstBuffer *frame, GstClockTime captured)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_open || hasFailed())
+    if (!m_open || m_progress->hasFailed())
         return;
     const bool isFirst = m_pacer.begin() < 0;
     const qint64 slot = m_pacer.slotOf(qint64(captured));
@@ -268,7 +127,9 @@ void MovieRecorder::addFrame(GstBuffer *frame, GstClockTime captured)
     pushSound(SoundTrack::positionAt(end));
 }
 
-// A frame that has to wait is copied: the camera has few to go round.
+// The frame with the times for which it is shown. The copy is a deep one when the frame has to
+// wait, in the queue or in a pipeline that takes it as it is: a camera has few buffers, and stands
+// still when all of them are kept from it. What is converted at once gives its buffer back at once.
 GstMiniHandle<GstBuffer> MovieRecorder::inSlots(GstBuffer *frame, qint64 slot, qint64 end) const
 {
     const bool copies = m_copies || !m_feed->isHungry();
@@ -282,10 +143,10 @@ GstMiniHandle<GstBuffer> MovieRecorder::inSlots(GstBuffer *frame, qint64 slot, q
 void MovieRecorder::addSound(const char *samples, qint64 count, GstClockTime captured)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_open || hasFailed())
+    if (!m_open || m_progress->hasFailed())
         return;
-    m_soundClock.add(QByteArray(samples, int(count * SoundTrack::bytesOfSample)), qint64(captured),
-                     count * second / SoundTrack::rate, systemTime());
+    m_soundClock.add(QByteArray(samples, int(count * SoundTrack::bytesPerSampleFrame)),
+                     qint64(captured), count * second / SoundTrack::rate, systemTime());
     layIn(m_soundClock.take());
 }
 
@@ -297,8 +158,9 @@ void MovieRecorder::layIn(const QVector<SoundClock::Piece> &sound)
         const qint64 time = piece.heard - m_pacer.begin();
         // A microphone without a camera is not listened to for long: the picture has stopped.
         if (time < m_pacer.timeOf(m_pacer.nextSlot()) + soundAhead)
-            m_track.add(piece.samples.constData(), piece.samples.size() / SoundTrack::bytesOfSample,
-                        SoundTrack::positionAt(time) - soundRunUp);
+            m_track.add(piece.samples.constData(),
+                        piece.samples.size() / SoundTrack::bytesPerSampleFrame,
+                        SoundTrack::positionAt(time) - primingLength);
     }
 }
 
@@ -316,16 +178,9 @@ void MovieRecorder::pushSound(qint64 position)
     gst_app_src_push_buffer(GST_APP_SRC(m_sound.get()), buffer);
 }
 
-bool MovieRecorder::hasFailed() const
-{
-    const std::lock_guard<std::mutex> lock(m_progress->mutex);
-    return m_progress->failed;
-}
-
 bool MovieRecorder::encoderFailed() const
 {
-    const std::lock_guard<std::mutex> lock(m_progress->mutex);
-    return m_progress->encoderFailed;
+    return m_progress->encoderFailed();
 }
 
 // The slot behind the last one: up to now, unless the camera has stopped.
@@ -373,23 +228,8 @@ bool MovieRecorder::finish(milliseconds limit)
     m_newest.reset();
     lock.unlock();
     gst_app_src_end_of_stream(GST_APP_SRC(m_sound.get()));
-    {
-        const std::lock_guard<std::mutex> told(m_progress->mutex);
-        m_progress->onFailure = nullptr;
-    }
+    m_progress->beSilent();
     return complete(deadline);
-}
-
-// Waits for the end of the stream, for as long as the file grows.
-bool MovieRecorder::Progress::waitForEnd()
-{
-    std::unique_lock<std::mutex> lock(mutex);
-    int before = -1;
-    while (!ended && steps() != before) {
-        before = steps();
-        changed.wait_for(lock, abandonLimit, [this] { return ended; });
-    }
-    return ended && !failed;
 }
 
 // On the side: nothing of it may make anybody wait for ever.
@@ -403,9 +243,9 @@ BoundedTask<void> MovieRecorder::completing()
             feed->stop();
             dumpPipeline(pipeline.get(), "end");
             gst_element_set_state(pipeline.get(), GST_STATE_NULL);
-            qCInfo(engineLog) << feed->fed() << "frames were encoded," << progress->encoded
+            qCInfo(engineLog) << feed->fed() << "frames were encoded," << progress->encoded()
                               << "are in the file";
-            if (progress->encoded == 0)
+            if (progress->encoded() == 0)
                 QFile::remove(path); // no player opens a movie without a picture
             else if (!whole)
                 qCWarning(engineLog) << "could not be completed, its last moment may miss:" << path;

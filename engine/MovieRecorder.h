@@ -6,6 +6,7 @@
 #include "FramePacer.h"
 #include "GstHandles.h"
 #include "MovieEncoding.h"
+#include "MovieProgress.h"
 #include "SoundClock.h"
 #include "SoundTrack.h"
 
@@ -24,16 +25,11 @@
 GstClockTime capturedAt(GstElement *element, GstBuffer *buffer);
 
 /**
- * One movie being written:
- *
- *   waiting frames ! 4:2:0 ! queue ! encoder ! queue \
- *                                   sound ! encoder ! QuickTime muxer ! file
- *
- * A pipeline of its own, apart from the camera's and the microphone's: whatever happens in it, a
- * slow encoder, a full disk, stays in it, and the live picture goes on. Frames and sound are handed
- * over with the times at which they were captured, by one clock; the movie begins with the first
- * frame and lasts until finish(). Sound never runs ahead of the picture and is replaced by silence
- * when it stays away.
+ * One movie being written, in a pipeline of its own (MoviePipeline), apart from the camera's and
+ * the microphone's: whatever happens in it, a slow encoder, a full disk, stays in it, and the live
+ * picture goes on. Frames and sound are handed over with the times at which they were captured, by
+ * one clock; the movie begins with the first frame and lasts until finish(). Sound never runs ahead
+ * of the picture and is replaced by silence when it stays away.
  *
  * An encoder that is too slow gets fewer frames (FrameQueue); the ones before them are shown for
  * longer. The sound stays complete, and so does the time that the movie spans.
@@ -61,8 +57,8 @@ public:
     MovieRecorder &operator=(const MovieRecorder &) = delete;
 
     void addFrame(GstBuffer *frame, GstClockTime captured);
-    /// @p samples as SoundTrack has them, handed over as soon as they were heard; @p captured is
-    /// when, by the microphone's own count.
+    /// @p count sample frames as SoundTrack has them, handed over as soon as they were heard;
+    /// @p captured is when the first was, by the microphone's own count (ns).
     void addSound(const char *samples, qint64 count, GstClockTime captured);
 
     /// Completes the file. Waits for that up to @p limit, and no longer when nothing goes on; the
@@ -75,12 +71,8 @@ public:
     bool encoderFailed() const;
 
 private:
-    struct Progress;
-
-    MovieRecorder(QString path, const GstVideoInfo &format);
+    MovieRecorder(QString path, const GstVideoInfo &format, std::function<void()> failed);
     bool build(const GstVideoInfo &format, const MovieEncoding &encoding);
-    void watch();
-    bool hasFailed() const;
     GstMiniHandle<GstBuffer> inSlots(GstBuffer *frame, qint64 slot, qint64 end) const;
     void layIn(const QVector<SoundClock::Piece> &sound);
     void pushSound(qint64 position);
@@ -90,19 +82,21 @@ private:
     bool complete(std::chrono::steady_clock::time_point deadline);
 
     const QString m_path;
-    const std::shared_ptr<Progress> m_progress; ///< outlives the movie in a pipeline that hangs
+    const std::shared_ptr<MovieProgress>
+        m_progress; ///< outlives the movie in a pipeline that hangs
     std::shared_ptr<GstElement> m_pipeline;
     GstObjectHandle<GstElement> m_frames;
     GstObjectHandle<GstElement> m_sound;
     std::shared_ptr<FrameFeed> m_feed;
-    /// Whether the pipeline would keep frames as they are, while the camera needs them back.
+    /// Frames are copied even if they need not wait: the pipeline keeps those that it need not
+    /// convert, while the camera needs them back.
     const bool m_copies;
 
     std::mutex m_mutex; ///< guards everything below
     std::condition_variable m_begun; ///< the first frame came
     bool m_open = false; ///< frames and sound are taken
     FramePacer m_pacer;
-    GstMiniHandle<GstBuffer> m_newest; ///< the newest frame with a slot
+    GstMiniHandle<GstBuffer> m_newest; ///< the newest frame that has a slot
     qint64 m_newestSlot = -1;
     qint64 m_newestCaptured = 0; ///< ns
     int m_arrived = 0; ///< frames

@@ -16,19 +16,19 @@ void SoundTrack::add(const char *samples, qint64 count, qint64 position)
     if (gap > inaudible)
         coverUntil(position);
     const qint64 overlap = gap < -inaudible ? qMin(-gap, count) : 0;
-    m_waiting.append(samples + overlap * bytesOfSample, int((count - overlap) * bytesOfSample));
+    m_waiting.append(samples + overlap * bytesPerSampleFrame, int((count - overlap) * bytesPerSampleFrame));
 }
 
 void SoundTrack::coverUntil(qint64 position)
 {
     if (position > end())
-        m_waiting.append(int((position - end()) * bytesOfSample), '\0');
+        m_waiting.append(int((position - end()) * bytesPerSampleFrame), '\0');
 }
 
 QByteArray SoundTrack::take(qint64 position)
 {
     const qint64 count = qBound(qint64(0), position - m_taken, end() - m_taken);
-    QByteArray samples = m_waiting.left(int(count * bytesOfSample));
+    QByteArray samples = m_waiting.left(int(count * bytesPerSampleFrame));
     m_waiting.remove(0, samples.size());
     m_taken += count;
     return samples;

@@ -14,7 +14,7 @@ class SoundTrack {
 public:
     static constexpr int rate = 48000; ///< samples in a second
     static constexpr int channels = 2;
-    static constexpr int bytesOfSample = channels * 2; ///< 16 bits each
+    static constexpr int bytesPerSampleFrame = channels * 2; ///< 16 bits each
 
     /// The position at @p time nanoseconds after the movie's begin.
     static qint64 positionAt(qint64 time);
@@ -29,7 +29,7 @@ public:
     QByteArray take(qint64 position);
 
     qint64 taken() const { return m_taken; } ///< position up to which everything was taken
-    qint64 end() const { return m_taken + m_waiting.size() / bytesOfSample; }
+    qint64 end() const { return m_taken + m_waiting.size() / bytesPerSampleFrame; }
 
 private:
     qint64 m_taken = 0;

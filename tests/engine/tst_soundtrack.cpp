@@ -7,7 +7,7 @@ namespace {
 /// @p count samples, all of one value.
 QByteArray sound(int count, char value)
 {
-    return QByteArray(count * SoundTrack::bytesOfSample, value);
+    return QByteArray(count * SoundTrack::bytesPerSampleFrame, value);
 }
 
 void add(SoundTrack &track, int count, char value, qint64 position)
@@ -20,9 +20,9 @@ QString runsOf(const QByteArray &samples)
 {
     QStringList runs;
     int count = 0;
-    for (int i = 0; i < samples.size(); i += SoundTrack::bytesOfSample) {
+    for (int i = 0; i < samples.size(); i += SoundTrack::bytesPerSampleFrame) {
         ++count;
-        const int next = i + SoundTrack::bytesOfSample;
+        const int next = i + SoundTrack::bytesPerSampleFrame;
         if (next >= samples.size() || samples[next] != samples[i]) {
             runs.append(QStringLiteral("%1x%2").arg(count).arg(int(samples[i])));
             count = 0;
