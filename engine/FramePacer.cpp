@@ -4,7 +4,7 @@
 #include <cmath>
 
 static const qint64 second = 1000000000; // ns
-static const int remembered = 20; // frames
+static const int remembered = 20; // frames; of so many one came without delay
 static const double tolerance = 0.75; // frame periods that picture and clock may differ
 static const double longestDelay = 8; // frame periods that a busy machine may hold frames up
 static const double farAhead = 2.5; // frame periods; what held up frames is over when they come

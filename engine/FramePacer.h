@@ -6,12 +6,13 @@
 /**
  * Gives each frame of a camera its slot in a movie of constant rate.
  *
- * Frames arrive late by varying amounts when the machine is busy, so one arrival says little: to
- * slot every frame by its own arrival would leave out one and show its neighbour twice whenever
- * the arrivals happen to lie between two slots. The frame that was delayed least among the last
- * few is what tells whether movie and clock have drifted apart; a slot is skipped or a frame
- * left out only then. Real gaps, longer than a camera can catch up on, are followed at once, and so
- * is a camera that slows down in the dark.
+ * Frames arrive late by varying amounts when the machine is busy, so one arrival says little.
+ * Were each frame rounded to the nearest slot, then a camera whose frames happen to come midway
+ * between two slots would lose and repeat one with every little jitter. Instead frames take one
+ * slot after the other, and the frame that was delayed least among the last few tells whether movie
+ * and clock have drifted apart; a slot is skipped or a frame left out only then. Real gaps, longer
+ * than a camera can catch up on, are followed at once, and so is a camera that slows down in the
+ * dark.
  *
  * Times are nanoseconds. One thread at a time.
  */

@@ -146,7 +146,7 @@ void LiveVideoData::Private::loseCamera()
 // A movie is completed before its camera is let go.
 std::chrono::milliseconds LiveVideoData::Private::closingLimit() const
 {
-    return movie.isListening() ? PatientCall::longLimit : PatientCall::usualLimit;
+    return movie.isRecording() ? PatientCall::longLimit : PatientCall::usualLimit;
 }
 
 void LiveVideoData::Private::setShowing(bool on)

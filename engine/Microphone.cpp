@@ -14,9 +14,14 @@
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-static const milliseconds connectLimit(500);
+static const milliseconds connectLimit(500); // for a server to say whether it refuses
 static const milliseconds closeLimit(1000);
 
+// The pipeline goes by the system's clock, not by the microphone's. To follow it the source would
+// drop and repeat samples (slave-method), by arrivals that a busy machine delays; it leaves them
+// all as they are, and SoundClock sees to the drift. And when the microphone is pulled out the
+// server would go on with any other source, a loudspeaker's monitor too (dont-reconnect): a movie
+// rather falls silent.
 static const char serverSource[] =
     "pulsesrc slave-method=none stream-properties=\"props,node.dont-reconnect=(string)true\"";
 static const char cardSource[] = "alsasrc";
@@ -26,7 +31,7 @@ class Microphone::Pipeline {
 public:
     ~Pipeline();
     bool connect(const SoundSource &source); ///< false when there is nothing behind it
-    bool listen(); ///< false when there is no microphone behind it
+    bool listen(); ///< false when it refuses
 
     std::mutex mutex; ///< guards recorder
     std::weak_ptr<MovieRecorder> recorder;
@@ -83,7 +88,10 @@ void Microphone::Pipeline::onConnected(GObject *, GParamSpec *, gpointer shared)
     pipeline.m_connectedChanged.notify_all();
 }
 
-// The server answers shortly after it was asked; one that is slow is taken by its word.
+// A sound server is asked for the microphone only while the pipeline starts, so a start that has
+// succeeded says nothing yet: a refusal comes as an error, a little later. The server's consent
+// shows in that the source knows which device it has. One that is too slow to say either is
+// believed.
 bool Microphone::Pipeline::isRefused()
 {
     const GstObjectHandle<GstElement> source(

@@ -20,7 +20,7 @@ using std::chrono::steady_clock;
 // that on a slow machine one may take the time that the others leave.
 static const milliseconds startLimit = PatientCall::usualLimit;
 static const milliseconds finishLimit(4000); // and 1 s for the microphone
-static const seconds exitLimit(10);
+static const seconds exitLimit(10); // for files that are still being completed
 
 namespace {
 

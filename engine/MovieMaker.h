@@ -27,13 +27,17 @@ enum class MovieOutcome {
  * The movies of one engine: finds out how they can be written before one begins, and brings camera,
  * microphone and file together while one is recorded.
  *
- * GUI thread only; nothing blocks without a limit.
+ * A movie begins with record() and goes on until stop(). One that cannot go on, because the disk is
+ * full or its encoder fails, still counts as being recorded: stop() completes what there is.
+ *
+ * GUI thread only; every wait has a limit, and ends with that of the operation that it is part of
+ * (PatientCall).
  */
 class MovieMaker {
 public:
-    /// @p ended is called on the GUI thread when a movie that is being recorded cannot go on, once
-    /// for each such movie and never from within an operation.
-    /// @p microphones must outlive this.
+    /// @p ended is called when a movie that is being recorded cannot go on, once for each such
+    /// movie, from the event loop and never from within an operation. @p microphones must outlive
+    /// this.
     MovieMaker(MicrophoneFinder &microphones, std::function<void()> ended);
     /// Completes a movie that is being recorded, and waits a while for files that are still being
     /// completed.
@@ -48,18 +52,20 @@ public:
     /// size (px) and rate (frames a second) holds as long as they do.
     void prepare(const QSize &size, double rate);
 
-    /// Begins a movie of frames like @p format within 3 s, unless one is being recorded. Leaves no
-    /// file when it does not begin.
+    /// Begins a movie of frames like @p format in the new file @p path, unless one is being
+    /// recorded; outcome() then says how that went. Leaves no file when it does not begin. For a
+    /// start that is slow or hangs the limit is the operation's.
     void record(const QString &path, const GstVideoInfo &format);
-    /// A movie was asked for that cannot begin without having been tried.
+    /// A movie was asked for that cannot begin, @p why, without having been tried.
     void refuse(MovieOutcome why);
 
-    /// Completes the movie. Waits for it for 5 s at most; then it is completed on the side.
+    /// Completes the movie. Waits 4 s for the file, which is then completed on the side
+    /// (MovieCompletion), and 1 s for the microphone to close. Nothing without a movie.
     void stop();
 
+    /// Of the last record(), until stop() or devicesChanged().
     MovieOutcome outcome() const { return m_outcome; }
     bool isRecording() const { return m_recorder != nullptr; }
-    bool isListening() const { return m_microphone != nullptr; }
     void devicesChanged(); ///< what could not be opened may work now
 
 private:
@@ -75,7 +81,7 @@ private:
     const std::unique_ptr<Watch> m_watch;
     std::shared_ptr<MovieRecorder> m_recorder; ///< null while no movie is recorded
     std::shared_ptr<Microphone> m_microphone; ///< likewise
-    QByteArray m_encoder; ///< of the picture of the last movie
+    QByteArray m_encoder; ///< that the picture of the last movie was written with
     MovieOutcome m_outcome = MovieOutcome::None;
 };
 

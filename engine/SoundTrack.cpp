@@ -2,7 +2,8 @@
 
 #include <QtGlobal>
 
-static const qint64 inaudible = SoundTrack::rate / 100; // samples, 10 ms
+static const qint64 inaudible =
+    SoundTrack::rate / 100; // sample frames, 10 ms: a shorter gap or overlap
 
 qint64 SoundTrack::positionAt(qint64 time)
 {
@@ -16,7 +17,8 @@ void SoundTrack::add(const char *samples, qint64 count, qint64 position)
     if (gap > inaudible)
         coverUntil(position);
     const qint64 overlap = gap < -inaudible ? qMin(-gap, count) : 0;
-    m_waiting.append(samples + overlap * bytesPerSampleFrame, int((count - overlap) * bytesPerSampleFrame));
+    m_waiting.append(samples + overlap * bytesPerSampleFrame,
+                     int((count - overlap) * bytesPerSampleFrame));
 }
 
 void SoundTrack::coverUntil(qint64 position)
