@@ -22,9 +22,8 @@ class QTimer;
  * States: not created until Create() has opened the camera, and again after Release(). Operations
  * that need an open camera do nothing without one, or return a null string.
  *
- * GUI thread only. The engine may announce a lost camera from its own thread; disconnectDevice()
- * of this class always leaves from the GUI thread. Messages are modal: the operation returns when
- * the user has read them.
+ * GUI thread only. All signals leave on it too, whatever thread an engine speaks on. Messages are
+ * modal: the operation returns when the user has read them.
  */
 class LiveVideoWidget : public QWidget {
     Q_OBJECT

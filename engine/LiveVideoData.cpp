@@ -22,12 +22,12 @@ using std::chrono::steady_clock;
 // On a slow machine every moment that a person will wait counts: a camera that is listed late is
 // one that was not there.
 static const std::chrono::milliseconds listLimit = PatientCall::usualLimit;
-static const int openLimit = 4400; // ms, which leaves a moment for closing what sends nothing
+static const int openLimit = 4400; // ms of longLimit, which leaves a moment for closing again
 // The camera's frame is there; only the disk can make it late, and it is not given up for that.
 static const std::chrono::milliseconds stillLimit(30000);
 static const std::chrono::seconds completionLimit(10);
 static const std::chrono::milliseconds
-    quickListLimit(200); // when a movie waits for the sound server
+    microphoneLimit(200); // when a movie waits for the sound server
 
 class LiveVideoData::Private {
 public:
@@ -292,7 +292,7 @@ void LiveVideoData::Record(const QString &path)
         return;
     }
     MicrophoneFinder::begin();
-    MicrophoneFinder::waitUntil(steady_clock::now() + quickListLimit);
+    MicrophoneFinder::waitUntil(steady_clock::now() + microphoneLimit);
     d->movie.record(path, frame->picture().info);
 }
 

@@ -9,7 +9,7 @@
  * word looks broken, so an operation that has to wait for a camera or a server says so: after a
  * quarter of a second the wait cursor is shown until the operation returns, and while it waits the
  * windows are painted again and again, in case something had covered them. All waits of one
- * operation together end at its limit.
+ * operation together end at its limit; LiveVideoData.h says which operation has which.
  *
  * No event is handled meanwhile: whoever called the engine finds everything as it was.
  *
@@ -18,9 +18,9 @@
  */
 class PatientCall {
 public:
-    /// A person waits for three seconds; what usually takes longer has a limit of its own.
+    /// A person waits for three seconds, of which a moment is left for what is no waiting.
     static constexpr std::chrono::milliseconds usualLimit{2800};
-    /// For a camera that is slow to send its first frame, and for the end of a movie.
+    /// For a camera that is slow to send its first frame, and for the end of a movie: five seconds.
     static constexpr std::chrono::milliseconds longLimit{4800};
 
     explicit PatientCall(std::chrono::nanoseconds limit = usualLimit);

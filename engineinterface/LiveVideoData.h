@@ -17,11 +17,20 @@ class QWidget;
  * The capture engine: one camera, its live picture in a widget of the caller's, stills and movies.
  *
  * Every operation is called on the GUI thread, in any state and in any order; none throws. One that
- * waits for a camera or a server shows the wait cursor after 0.3 s, keeps the windows painted and
- * handles no event meanwhile. It returns within 3 s, whatever the camera or the server does;
- * opening a camera and ending a movie may take 5 s, and the engine's end waits 10 s more for a
- * movie that is still being completed. The very first call in a session may take longer while
- * GStreamer indexes its plug-ins.
+ * waits for a camera, a server or a disk shows the wait cursor after 0.25 s, keeps the windows
+ * painted and handles no event meanwhile. All that one operation waits for together ends at its
+ * limit, whatever the camera, the server or the disk does:
+ *
+ *   limit   operations
+ *   ------  ----------------------------------------------------------------------------------
+ *   2.8 s   every one that is not named below
+ *   4.8 s   Create, SetResolution, RecordStop; Release, the engine's end and the loss of a camera
+ *           while a movie is recorded
+ *   10 s    CompleteMovies; the engine's end waits so long in addition
+ *   30 s    SaveBitmap
+ *
+ * What they do besides waiting takes a few hundredths of a second, more on a busy machine. The very
+ * first call in a session may take longer while GStreamer indexes its plug-ins.
  *
  * What an operation does in which state ("-" is nothing at all):
  *
@@ -56,7 +65,9 @@ class QWidget;
  * resized, hidden, given another parent or destroyed at any time. No picture is converted while it
  * is hidden.
  *
- * Threads: frames are taken and converted on a GrabThread. All signals leave on the GUI thread.
+ * Threads: frames are taken and converted on a GrabThread. All signals leave on the GUI thread:
+ * what happens by itself is told from the event loop, what an operation brings about from within
+ * it.
  */
 class ORVANTA_ENGINE_EXPORT LiveVideoData : public QObject {
     Q_OBJECT
@@ -73,7 +84,7 @@ public:
     void SetTarget(QWidget *target);
 
     /// The cameras' names; the position is the index for SetVideoDevice(). Cameras of one name are
-    /// numbered. Answers within 3 s with what has been found by then.
+    /// numbered. At its limit it answers with what has been found by then.
     QStringList GetVideoDeviceList();
 
     /// Chooses a camera of the last list for the next Create(). The camera is remembered by what it
@@ -81,8 +92,8 @@ public:
     /// list does not have is no camera. Without any choice it is the first one.
     void SetVideoDevice(int index);
 
-    /// Opens the chosen camera in its best mode and returns once its first frame has come; gives up
-    /// after 5 s. Sets all five members below. When it was the only camera at the time of its
+    /// Opens the chosen camera in its best mode and returns once its first frame has come, or at
+    /// its limit. Sets all five members below. When it was the only camera at the time of its
     /// choice and is gone, the first one that is there now is opened in its place.
     void Create();
 
@@ -93,7 +104,7 @@ public:
 
     /// Writes the newest frame at the camera's full size, in the format that the extension of
     /// @p path names. The file appears complete or not at all. False when there is no frame, the
-    /// format is unknown or the file cannot be written. A slow disk is waited for, for up to 30 s.
+    /// format is unknown or the file cannot be written, also when a slow disk reaches the limit.
     bool SaveBitmap(QString path);
 
     /// Begins a movie with sound in @p path. Leaves no file when the camera, the microphone or an
@@ -106,7 +117,7 @@ public:
     void RecordStop();
 
     /// Waits for movies that RecordStop() has left to be completed in the background; false when
-    /// one is not complete after 10 s.
+    /// one is not complete at the limit.
     bool CompleteMovies();
 
     // Right after Record() the three answers below are about that: they say whether the movie

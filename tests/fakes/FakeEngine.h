@@ -21,9 +21,11 @@ struct FakeEngine {
     static FakeEngine &script();
     /// Sets every knob to its first value and forgets all calls; an engine that lives stays open.
     static void reset();
-    /// Emits disconnectDevice() on the calling thread, as the engine may do on its own.
+    /// Emits disconnectDevice() on the calling thread. The engine does so on the GUI thread only,
+    /// from its event loop; called on another it shows what does not rely on that.
     static void loseCamera();
-    /// Emits recordend(), as the engine does when the disk fills during a recording.
+    /// Emits recordend(), as the engine does on the GUI thread when the disk fills during a
+    /// recording.
     static void endRecording();
     /// How often an operation was called, whatever its arguments: callCount("SaveBitmap").
     static int callCount(const QString &operation);
