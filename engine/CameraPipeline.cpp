@@ -133,6 +133,8 @@ QString CameraPipeline::failure()
 
 void CameraPipeline::close()
 {
-    if (m_pipeline)
-        gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
+    if (!m_pipeline)
+        return;
+    dumpPipeline(m_pipeline.get(), "end");
+    gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
 }

@@ -55,6 +55,7 @@ Microphone::Pipeline::~Pipeline()
     const GstMiniHandle<GstMessage> error(gst_bus_pop_filtered(bus.get(), GST_MESSAGE_ERROR));
     if (error)
         qCInfo(engineLog) << "the microphone had failed:" << errorText(error.get());
+    dumpPipeline(m_pipeline.get(), "end");
     gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
 }
 

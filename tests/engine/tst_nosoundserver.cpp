@@ -174,8 +174,8 @@ void TestNoSoundServer::aSoundCardPluggedInLaterIsNoticedAndHeard()
 void TestNoSoundServer::everyPipelineCanBeLookedAt()
 {
     const QDir graphs(m_folder.filePath("graphs"));
-    for (const char *pipeline :
-         {"camera-playing", "microphone-playing", "movie-playing", "movie-end", "trial-end"})
+    for (const char *pipeline : {"camera-playing", "microphone-playing", "microphone-end",
+                                 "movie-playing", "movie-end", "trial-end"})
         QVERIFY2(!graphs.entryList({QStringLiteral("*-%1.dot").arg(pipeline)}).isEmpty(), pipeline);
 }
 
