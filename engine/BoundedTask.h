@@ -30,12 +30,12 @@ private:
 };
 
 /// Work with a result, which goes with the task: when nobody waits for it any more, the result of
-/// work that is done late is destroyed on the thread that worked.
+/// work that is done late is destroyed on the thread that worked, before what the work owned.
 template <typename Result> class BoundedTask {
 public:
     explicit BoundedTask(std::function<Result()> work)
         : m_result(std::make_shared<std::optional<Result>>())
-        , m_task([result = m_result, work = std::move(work)] { result->emplace(work()); })
+        , m_task(Job{std::move(work), m_result})
     {
     }
 
@@ -46,6 +46,13 @@ public:
     }
 
 private:
+    struct Job {
+        void operator()() const { result->emplace(work()); }
+
+        std::function<Result()> work;
+        std::shared_ptr<std::optional<Result>> result; ///< behind work, so that it goes first
+    };
+
     std::shared_ptr<std::optional<Result>> m_result; ///< the thread's, until the work is done
     BoundedTask<void> m_task;
 };

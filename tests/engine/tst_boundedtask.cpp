@@ -17,6 +17,7 @@ private Q_SLOTS:
     void theResultOfFinishedWorkIsReported();
     void workInTheMiddleHasNoResult();
     void aResultThatNobodyWaitsForGoesOnTheThreadThatMadeIt();
+    void aResultThatNobodyWaitsForGoesBeforeWhatItWasMadeOf();
     void hangingWorkIsNotWaitedForLongerThanAsked();
     void whatTheWorkOwnsIsGoneWhenItIsDone();
     void hangingWorkOutlivesWhoeverAskedForIt();
@@ -59,6 +60,36 @@ void TestBoundedTask::aResultThatNobodyWaitsForGoesOnTheThreadThatMadeIt()
     release->set_value();
     QCOMPARE(end.wait_for(milliseconds(5000)), std::future_status::ready);
     QVERIFY(end.get() != std::this_thread::get_id());
+}
+
+// Tells of its end.
+static std::shared_ptr<int> makeToken(const std::function<void()> &gone)
+{
+    return {new int(1),
+            [gone](const int *token) {
+                delete token;
+                gone();
+            }};
+}
+
+void TestBoundedTask::aResultThatNobodyWaitsForGoesBeforeWhatItWasMadeOf()
+{
+    auto release = std::make_shared<std::promise<void>>();
+    auto order = std::make_shared<QStringList>(); // the task's thread only, until the promise
+    auto ended = std::make_shared<std::promise<void>>();
+    std::future<void> end = ended->get_future();
+    {
+        const BoundedTask task([release, order, connection = makeToken([order, ended] {
+                                                    order->append("connection");
+                                                    ended->set_value();
+                                                })] {
+            release->get_future().wait();
+            return makeToken([order] { order->append("result"); });
+        });
+    }
+    release->set_value();
+    QCOMPARE(end.wait_for(milliseconds(5000)), std::future_status::ready);
+    QCOMPARE(*order, (QStringList{"result", "connection"}));
 }
 
 void TestBoundedTask::hangingWorkIsNotWaitedForLongerThanAsked()
