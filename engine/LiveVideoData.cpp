@@ -26,8 +26,8 @@ static const int openLimit = 4400; // ms of longLimit, which leaves a moment for
 // The camera's frame is there; only the disk can make it late, and it is not given up for that.
 static const std::chrono::milliseconds stillLimit(30000);
 static const std::chrono::seconds completionLimit(10);
-static const std::chrono::milliseconds
-    microphoneLimit(200); // when a movie waits for the sound server
+// The sound server was connected to with the camera: a movie waits only for one started anew.
+static const std::chrono::milliseconds microphoneLimit(200);
 
 class LiveVideoData::Private {
 public:
