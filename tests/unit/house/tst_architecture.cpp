@@ -25,7 +25,7 @@ private:
     void addRows(const QRegularExpression &pattern) const;
 
     QString m_text; ///< of ARCHITECTURE.md
-    QString m_code; ///< of all headers and sources
+    QString m_code; ///< of all headers, sources and build scripts
     QStringList m_files; ///< of the house, each with its folder
     QMap<QString, QStringList> m_rooms; ///< which rooms each uses, in order
 };
@@ -82,7 +82,7 @@ void TestArchitecture::initTestCase()
         if (path.startsWith("build/") || path.startsWith(".git/"))
             continue;
         m_files.append(path);
-        if (path.endsWith(".cpp") || path.endsWith(".h"))
+        if (path.endsWith(".cpp") || path.endsWith(".h") || path.endsWith("CMakeLists.txt"))
             m_code += contentOf(path);
     }
     m_rooms = readRooms();
