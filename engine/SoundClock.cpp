@@ -5,6 +5,9 @@
 static const qint64 millisecond = 1000000; // ns
 // What arrives late for longer than this is taken for sound with a gap before it.
 static const qint64 patience = 1000 * millisecond;
+// Before the first piece. A movie has no index, and is lost when the program is killed, until there
+// is sound in it.
+static const qint64 firstPatience = 200 * millisecond;
 static const qint64 inaudible = 15 * millisecond;
 
 void SoundClock::add(const QByteArray &samples, qint64 counted, qint64 length, qint64 arrived)
@@ -23,8 +26,10 @@ qint64 SoundClock::leastDelay() const
 // Later arrivals can only say that a piece was heard earlier.
 bool SoundClock::isPlaced(qint64 delay) const
 {
-    return (m_begun && delay <= m_offset + inaudible)
-        || m_waiting.back().arrived - m_waiting.front().arrived >= patience;
+    const qint64 waited = m_waiting.back().arrived - m_waiting.front().arrived;
+    if (!m_begun)
+        return waited >= firstPatience;
+    return delay <= m_offset + inaudible || waited >= patience;
 }
 
 SoundClock::Piece SoundClock::takeFirst()
