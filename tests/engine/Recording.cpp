@@ -1,6 +1,8 @@
 #include "Recording.h"
 
 #include <QEventLoop>
+#include <QFile>
+#include <QtEndian>
 
 #include <csignal>
 
@@ -8,6 +10,7 @@ namespace {
 
 constexpr int patience = 30000; // ms; longer than any stop may take
 constexpr int cycle = 100; // ms
+constexpr int retry = 50; // ms
 
 } // namespace
 
@@ -50,10 +53,30 @@ void Recording::begin()
     m_timer.start();
     if (m_moment <= 0)
         return;
-    QTimer::singleShot(m_moment, Qt::PreciseTimer, &m_process, [this] {
-        m_length = age();
-        m_process.kill();
-    });
+    QTimer::singleShot(m_moment, Qt::PreciseTimer, &m_process, [this] { killWhenIndexed(); });
+}
+
+// The index stands at the beginning of the file. Before there is anything in it, its first table of
+// sizes (of a version, one size for all, and a count) is empty.
+bool Recording::hasIndex() const
+{
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray begin = file.read(1 << 16);
+    const int table = begin.indexOf("stsz");
+    return table >= 0 && table + 16 <= begin.size()
+        && qFromBigEndian<quint32>(begin.constData() + table + 12) > 0;
+}
+
+void Recording::killWhenIndexed()
+{
+    if (!hasIndex() && age() * 1000 < patience) {
+        QTimer::singleShot(retry, Qt::PreciseTimer, &m_process, [this] { killWhenIndexed(); });
+        return;
+    }
+    m_length = age();
+    m_process.kill();
 }
 
 void Recording::throttle(int percent)

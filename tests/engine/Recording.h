@@ -15,7 +15,8 @@ public:
     Recording(const Recording &) = delete;
     Recording &operator=(const Recording &) = delete;
 
-    /// Kills it as soon as the movie is @p moment ms old.
+    /// Kills it as soon as the movie is @p moment ms old and its file knows of a picture, which a
+    /// busy machine takes its time for.
     void killAt(int moment) { m_moment = moment; }
     /// Lets the program run for so many percent of the time only.
     void throttle(int percent);
@@ -38,6 +39,8 @@ public:
 private:
     void read();
     void begin();
+    bool hasIndex() const;
+    void killWhenIndexed();
 
     const QString m_path;
     QProcess m_process;

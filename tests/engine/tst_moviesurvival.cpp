@@ -3,6 +3,7 @@
 #include "MovieProbe.h"
 #include "Recording.h"
 #include "SmallDisk.h"
+#include "SpareTime.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -102,6 +103,7 @@ void TestMovieSurvival::aKilledProgramLeavesAMovie_data()
 void TestMovieSurvival::aKilledProgramLeavesAMovie()
 {
     QFETCH(QVector<int>, moments);
+    const SpareTime time;
     std::vector<std::unique_ptr<Recording>> recordings;
     for (const int moment : qAsConst(moments)) {
         recordings.push_back(std::make_unique<Recording>("beeper", newPath()));
@@ -111,8 +113,10 @@ void TestMovieSurvival::aKilledProgramLeavesAMovie()
         QTRY_VERIFY_WITH_TIMEOUT(recording->hasEnded(), 2 * patience);
         const double length = recording->length();
         QVERIFY(length > 0);
-        playAndSeek(recording->path(), length - 2, length + 0.3);
-        verifyEveryPlayerTakes(recording->path(), length - 2, length + 0.3);
+        // An encoder without time is behind by what waits for it, and so is the index.
+        const double least = time.isPlenty() ? length - 2 : qMin(length - 2, length / 3);
+        playAndSeek(recording->path(), least, length + 0.3);
+        verifyEveryPlayerTakes(recording->path(), least, length + 0.3);
         QFile::remove(recording->path());
     }
 }
