@@ -143,6 +143,10 @@ void LabCamera::connectStream()
 
 void LabCamera::stateChanged(int state)
 {
+    // Told of a viewer with whom no format could be agreed, too: the camera waits for the next one.
+    if (state == PW_STREAM_STATE_ERROR
+        && pw_stream_get_state(m_stream, nullptr) != PW_STREAM_STATE_ERROR)
+        return;
     m_streaming = state == PW_STREAM_STATE_STREAMING;
     setPaced(m_streaming);
     if (state == PW_STREAM_STATE_PAUSED && !m_announced) {

@@ -21,7 +21,7 @@ public:
                       const QString &beside = QString())
         : m_pipeline(gst_parse_launch(
             QStringLiteral(
-                "pipewiresrc target-object=%1 do-timestamp=true ! %2 ! "
+                "pipewiresrc target-object=%1 do-timestamp=true always-copy=true ! %2 ! "
                 "videoconvert ! video/x-raw,format=BGRx ! appsink name=sink sync=false %3")
                 .arg(camera, decoding, beside)
                 .toUtf8()
@@ -169,6 +169,7 @@ private slots:
     void theToneIsHeardWhenItsFrameIsSeen();
     void theMicrophoneCanBePulledOutAndPluggedInAgain();
     void theServersCanBeRestarted();
+    void aCameraInUseOutlivesTheSessionManager();
     void theDesktopHasAWindowManager();
 };
 
@@ -375,6 +376,18 @@ void TestLab::theServersCanBeRestarted()
     QCOMPARE(labctl({"plug", "cam1", "1280x720"}), 0);
     QCOMPARE(labctl({"plug", "cam2", "640x480", "--format", "YUY2", "--rate", "15"}), 0);
     QVERIFY(outputOf("pw-dump", {}).contains("\"node.name\": \"cam1\""));
+}
+
+// Who looked at it may have to begin anew.
+void TestLab::aCameraInUseOutlivesTheSessionManager()
+{
+    for (int i = 0; i < 3; ++i) {
+        Receiver receiver("cam1", "video/x-raw,format=UYVY,width=1280,height=720,framerate=30/1");
+        QVERIFY(!receiver.next(5000).isNull());
+        QCOMPARE(labctl({"restart-session-manager"}), 0);
+        for (int frame = 0; frame < 30 && !receiver.next(500).isNull(); ++frame) { }
+        QVERIFY(outputOf("pw-dump", {}).contains("\"node.name\": \"cam1\""));
+    }
 }
 
 void TestLab::theDesktopHasAWindowManager()
