@@ -54,10 +54,16 @@ static QString footprint(const Footprint &before, const Footprint &now)
         .arg(now.memory - before.memory, 0, 'f', 1);
 }
 
-static bool hasNotGrown(const Footprint &before)
+// Version 1.4 of the media server's library opens a descriptor for each thread that first has
+// something to say to a connection's frames: for the second one in some runs of a server, in others
+// never. It closes them with the connection. What leaks does so at every restart.
+static constexpr int lateDescriptors = 1;
+
+static bool hasNotGrown(const Footprint &before, int allowedDescriptors)
 {
     const Footprint now = Footprint::now();
-    return now.threads <= before.threads && now.descriptors <= before.descriptors;
+    return now.threads <= before.threads
+        && now.descriptors <= before.descriptors + allowedDescriptors;
 }
 
 void TestRestartingServers::initTestCase()
@@ -167,7 +173,8 @@ void TestRestartingServers::twentyRestartsOfTheMediaServerLeaveNothingBehind()
     restart(20);
     qInfo() << footprint(before, Footprint::now()) << "after 20 restarts, loss told after"
             << m_soonestLoss << "ms";
-    QTRY_VERIFY2(hasNotGrown(before), qPrintable(footprint(before, Footprint::now())));
+    QTRY_VERIFY2(hasNotGrown(before, lateDescriptors),
+                 qPrintable(footprint(before, Footprint::now())));
     // The watch over silence takes a second: it was not that which told.
     QVERIFY2(m_soonestLoss < 500, qPrintable(QString::number(m_soonestLoss)));
     recordAndJudge();
@@ -190,7 +197,8 @@ void TestRestartingServers::aMediaServerThatEndsWhileItHangsIsReplaced()
     restartHanging(2);
     const Footprint before = Footprint::now();
     restartHanging(5);
-    QTRY_VERIFY2(hasNotGrown(before), qPrintable(footprint(before, Footprint::now())));
+    QTRY_VERIFY2(hasNotGrown(before, lateDescriptors),
+                 qPrintable(footprint(before, Footprint::now())));
 }
 
 void TestRestartingServers::aRestartedSoundServerIsFoundWithoutALoss()
@@ -218,7 +226,7 @@ void TestRestartingServers::twentyRestartsOfTheSoundServerLeaveNothingBehind()
     const Footprint before = Footprint::now();
     restart(20);
     qInfo() << footprint(before, Footprint::now()) << "after 20 restarts";
-    QTRY_VERIFY2(hasNotGrown(before), qPrintable(footprint(before, Footprint::now())));
+    QTRY_VERIFY2(hasNotGrown(before, 0), qPrintable(footprint(before, Footprint::now())));
 }
 
 // It may take the camera's link with it, which is a loss like any other.
@@ -226,7 +234,9 @@ void TestRestartingServers::aRestartedSessionManagerLeavesTheCameraUsable()
 {
     QVERIFY(labctl({"restart-session-manager"}));
     QTRY_VERIFY_WITH_TIMEOUT(m_engine->IsValidAudioDevice(), foundLimit);
-    QTest::qWait(1500); // as long as the watch over silence takes
+    QTest::qWait(1500); // until the old picture is over, if it does not go on
+    const QImage picture = m_target.grab().toImage();
+    QTRY_VERIFY_WITH_TIMEOUT(m_losses->count() == 1 || m_target.grab().toImage() != picture, 10000);
     m_engine->Release();
     QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList(), QStringList{"first"}, foundLimit);
     open();
