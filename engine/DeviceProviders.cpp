@@ -7,6 +7,7 @@
 #include "EngineLog.h"
 #include "MediaConnection.h"
 
+#include <QSet>
 #include <QSocketNotifier>
 
 #include <algorithm>
@@ -21,13 +22,63 @@ static ChangeListeners &listeners()
     return *shared;
 }
 
-static GstBusSyncReply onMessage(GstBus *, GstMessage *message, gpointer)
+// What one run of the media server has taken away. Its provider goes on listing a device of which
+// it had told by a new object, as when another camera became the default one: it takes away the
+// old.
+namespace {
+class Departed {
+public:
+    void add(GstDevice *device)
+    {
+        const QByteArray serial = serialOf(device);
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (!serial.isEmpty())
+            m_serials.insert(serial);
+    }
+
+    bool contains(GstDevice *device) const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_serials.contains(serialOf(device));
+    }
+
+private:
+    // Never used twice by one run of the server; empty for a device of the system's own.
+    static QByteArray serialOf(GstDevice *device)
+    {
+        const GstStructureHandle properties(gst_device_get_properties(device));
+        return properties ? gst_structure_get_string(properties.get(), "object.serial") : nullptr;
+    }
+
+    mutable std::mutex m_mutex; ///< guards m_serials
+    QSet<QByteArray> m_serials;
+};
+} // namespace
+
+using DepartedHandle = std::shared_ptr<Departed>;
+
+static void noteDeparture(GstMessage *message, Departed &departed)
 {
-    if (GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_ADDED
-        || GST_MESSAGE_TYPE(message) == GST_MESSAGE_DEVICE_REMOVED)
+    GstDevice *device = nullptr;
+    gst_message_parse_device_removed(message, &device);
+    const GstObjectHandle<GstDevice> held(device);
+    departed.add(held.get());
+}
+
+static GstBusSyncReply onMessage(GstBus *, GstMessage *message, gpointer departed)
+{
+    const GstMessageType type = GST_MESSAGE_TYPE(message);
+    if (type == GST_MESSAGE_DEVICE_REMOVED)
+        noteDeparture(message, **static_cast<DepartedHandle *>(departed));
+    if (type == GST_MESSAGE_DEVICE_ADDED || type == GST_MESSAGE_DEVICE_REMOVED)
         listeners().tell();
     gst_message_unref(message);
     return GST_BUS_DROP;
+}
+
+static void letGoOfDeparted(gpointer departed)
+{
+    delete static_cast<DepartedHandle *>(departed);
 }
 
 // Only after the end of its server.
@@ -59,7 +110,8 @@ static GstObjectHandle<GstDeviceProvider> makeProvider(const char *name)
 }
 
 // May hang. Null when there is no such provider, or nothing behind it.
-static ProviderHandle startProvider(const char *name, const MediaConnection *connection)
+static ProviderHandle startProvider(const char *name, const MediaConnection *connection,
+                                    const DepartedHandle &departed)
 {
     GstObjectHandle<GstDeviceProvider> provider = makeProvider(name);
     if (!provider)
@@ -67,7 +119,7 @@ static ProviderHandle startProvider(const char *name, const MediaConnection *con
     if (connection)
         g_object_set(provider.get(), "fd", connection->descriptor(), nullptr);
     const GstObjectHandle<GstBus> bus(gst_device_provider_get_bus(provider.get()));
-    gst_bus_set_sync_handler(bus.get(), onMessage, nullptr, nullptr);
+    gst_bus_set_sync_handler(bus.get(), onMessage, new DepartedHandle(departed), letGoOfDeparted);
     if (!gst_device_provider_start(provider.get()))
         return nullptr;
     return ProviderHandle(provider.release(), ProviderEnd());
@@ -81,6 +133,7 @@ struct Source {
     std::shared_ptr<MediaConnection> connection; ///< the media server's only
     std::unique_ptr<QSocketNotifier> end; ///< of the connection
     ProviderHandle provider; ///< null until it runs
+    DepartedHandle departed; ///< of the provider that runs or is being started
     std::optional<BoundedTask<ProviderHandle>> task; ///< while it is being started
 };
 
@@ -137,12 +190,14 @@ static void beginToStart(Source &source)
 {
     if (source.provider || source.task)
         return;
-    source.task.emplace([name = source.name, connection = source.connection] {
-        ProviderHandle provider = startProvider(name, connection.get());
-        if (connection)
-            connection->keep(provider);
-        return provider;
-    });
+    source.departed = std::make_shared<Departed>();
+    source.task.emplace(
+        [name = source.name, connection = source.connection, departed = source.departed] {
+            ProviderHandle provider = startProvider(name, connection.get(), departed);
+            if (connection)
+                connection->keep(provider);
+            return provider;
+        });
 }
 
 static void awaitStart(Source &source, steady_clock::time_point deadline)
@@ -188,7 +243,8 @@ static QVector<CameraHandle> camerasOf(const Source &source)
         source.provider ? gst_device_provider_get_devices(source.provider.get()) : nullptr;
     for (GList *entry = list; entry; entry = entry->next) {
         const GstDeviceHandle device(GST_DEVICE(entry->data), GstObjectUnref());
-        if (gst_device_has_classes(device.get(), "Video/Source"))
+        if (gst_device_has_classes(device.get(), "Video/Source")
+            && !source.departed->contains(device.get()))
             cameras.append(std::make_shared<CameraDevice>(device, source.connection));
     }
     g_list_free(list);

@@ -29,6 +29,7 @@ private slots:
     void anotherCameraIsNotTakenForTheChosenOne();
     void theEngineMayBeReleasedFromInsideTheReport();
     void anotherCameraThatGoesIsNoLoss();
+    void aCameraThatBecameTheDefaultLeavesTheListWhenItGoes();
     void aCameraThatPausesIsNoLoss();
     void aProcessThatStoodStillKeepsItsCamera();
     void aCameraThatSendsNothingIsNotOpened();
@@ -167,6 +168,22 @@ void TestEngineLoss::anotherCameraThatGoesIsNoLoss()
     QVERIFY(labctl({"plug", "second", "640x480"}));
     QCOMPARE(m_losses->count(), 0);
     QVERIFY(m_engine->SaveBitmap(m_folder.filePath("still.png")));
+}
+
+// What provides the list tells of such a camera by a new object, and may forget to take that away.
+void TestEngineLoss::aCameraThatBecameTheDefaultLeavesTheListWhenItGoes()
+{
+    const QStringList both{"first", "second"};
+    for (const char *camera : {"first", "second", "first"}) {
+        QVERIFY(labctl({"default-camera", camera}));
+        QCOMPARE(m_engine->GetVideoDeviceList(), both);
+    }
+    QVERIFY(labctl({"default-camera", "second"}));
+    QVERIFY(labctl({"unplug", "second"}));
+    QTRY_COMPARE(m_engine->GetVideoDeviceList(), QStringList{"first"});
+    QVERIFY(labctl({"plug", "second", "640x480"}));
+    QTRY_COMPARE(m_engine->GetVideoDeviceList(), both);
+    QCOMPARE(m_losses->count(), 0);
 }
 
 // For its focus, or to open up in the dark.
