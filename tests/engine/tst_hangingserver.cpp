@@ -79,7 +79,9 @@ void TestHangingServer::loseToHangingServer(LiveVideoData &engine)
     QVERIFY(labctl({"hang-media-server"}));
     const qint64 listing = timeOf([&] { engine.GetVideoDeviceList(); });
     const qint64 asking = timeOf([&] { engine.IsValidAudioDevice(); });
-    QTRY_COMPARE(losses.count(), 1);
+    // From some version on camera and program go on without the server.
+    QVERIFY(labctl({"freeze", "first"}));
+    QTRY_COMPARE_WITH_TIMEOUT(losses.count(), 1, 15000);
     const qint64 closing = timeOf([&] { engine.Release(); });
     const qint64 opening = timeOf([&] { engine.Create(); });
     QVERIFY(!engine.created);
@@ -89,6 +91,7 @@ void TestHangingServer::loseToHangingServer(LiveVideoData &engine)
     QVERIFY(listing < 3500 && again < 3500 && asking < 3500);
     QVERIFY(closing < 2500);
     QVERIFY(opening < 7500);
+    QVERIFY(labctl({"thaw", "first"}));
     QVERIFY(labctl({"wake-media-server"}));
 }
 
