@@ -16,7 +16,8 @@
  * All engines of a process share one set of them. A server may be started anew at any time: its end
  * is noticed at once and counts as the removal of all its cameras, and the next start() finds the
  * new one. The media server's provider is let go only then; it frees memory twice when it is
- * stopped while its server is still answering.
+ * stopped while its server is still answering. It may go on listing what its server has taken away,
+ * and is not believed then.
  *
  * A server that hangs would hang whoever asks it first, so each is started by a BoundedTask; one
  * that does not answer in time is not heard until it does. Everything else is answered from what
