@@ -35,7 +35,9 @@ SmallDisk::~SmallDisk()
 
 QStringList SmallDisk::entrance() const
 {
-    QStringList command{"nsenter", "--target", QString::number(m_keeper.processId()), "--mount"};
+    // Its root too: in a root that is not the machine's own another one would be found in there.
+    QStringList command{"nsenter", "--target", QString::number(m_keeper.processId()), "--mount",
+                        "--root"};
     if (!isAdministrator())
         command += QStringList{"--user", "--preserve-credentials"};
     return command;
