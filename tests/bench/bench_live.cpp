@@ -1,16 +1,20 @@
-// What the live picture costs: 1920x1080 at 30 frames per second, shown in 896x504.
+// What the live picture costs: the program's share of a processor and the X server's together.
 //
-//   bench_live engine SECONDS   processor share of the engine with its target
-//   bench_live bare SECONDS     the same of GStreamer's own shortest pipeline to the screen
-//   bench_live drops SECONDS    frames of the camera that never were on the screen
+//   bench_live engine SECONDS SHOWN            of the engine with its target
+//   bench_live bare SECONDS SHOWN CAPS         of GStreamer's own shortest pipeline to the screen
+//   bench_live drops SECONDS SHOWN             frames of the camera that never were on the screen
 //
-// Runs in a lab with the one camera "bench"; prints one number.
+// SHOWN is the picture's size on the screen, such as 896x504; CAPS what the camera sends. Runs in a
+// lab with the one camera "bench". Prints one number, for a share followed by the X server's part
+// and by the frames per second; where these are fewer than the camera's, the share is what it would
+// be of all of them, since a machine that is too busy to show them all would seem a quick one.
 
 #include "LiveVideoData.h"
 #include "ProcessorShare.h"
 #include "ScreenWatch.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFrame>
 #include <QTimer>
 
@@ -20,58 +24,91 @@
 
 namespace {
 
-const QSize shown(896, 504);
-
-bool startEngine(LiveVideoData &engine, QFrame &target)
+QSize sizeIn(const QString &text)
 {
-    target.setGeometry(40, 40, shown.width(), shown.height());
+    const QStringList parts = text.split('x');
+    return {parts.value(0).toInt(), parts.value(1).toInt()};
+}
+
+bool startEngine(LiveVideoData &engine, QFrame &target, const QSize &shown)
+{
+    target.setGeometry(QRect(QPoint(20, 20), shown));
     engine.SetTarget(&target);
     target.show();
     engine.Create();
     engine.Start();
-    return engine.created && engine.nativeWidth == 1920;
+    return engine.created;
 }
 
-int measureEngine(int seconds)
+constexpr double cameraRate = 30; // frames per second
+
+bool print(const ProcessorShare &share)
+{
+    if (share.rate < cameraRate / 3)
+        return false;
+    const double whole = cameraRate / share.rate;
+    std::printf("%.4f %.4f %.1f\n", (share.program + share.server) * whole, share.server * whole,
+                share.rate);
+    return true;
+}
+
+class PaintCounter : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+int measureEngine(int seconds, const QSize &shown)
 {
     QFrame target(nullptr, Qt::FramelessWindowHint);
     LiveVideoData engine;
-    if (!startEngine(engine, target))
+    if (!startEngine(engine, target, shown))
         return 1;
-    std::printf("%.4f\n", shareOver(seconds));
-    return 0;
+    PaintCounter painted;
+    target.installEventFilter(&painted);
+    return print(shareOver(seconds, [&painted] { return painted.count; })) ? 0 : 1;
 }
 
-int measureBarePipeline(int seconds)
+int measureBarePipeline(int seconds, const QSize &shown, const QString &caps)
 {
     gst_init(nullptr, nullptr);
-    GstElement *pipeline = gst_parse_launch(
-        "pipewiresrc target-object=bench do-timestamp=true ! "
-        "video/x-raw,format=UYVY,width=1920,height=1080,framerate=30/1 ! videoconvertscale ! "
-        "video/x-raw,format=BGRx,width=896,height=504 ! ximagesink name=screen sync=false",
-        nullptr);
+    const QString decoder =
+        caps.startsWith(QLatin1String("image/jpeg")) ? QStringLiteral("! jpegdec ") : QString();
+    const QString text =
+        QStringLiteral("pipewiresrc target-object=bench do-timestamp=true ! %1 %2! "
+                       "videoconvertscale ! video/x-raw,format=BGRx,width=%3,height=%4 ! "
+                       "ximagesink name=screen sync=false")
+            .arg(caps, decoder)
+            .arg(shown.width())
+            .arg(shown.height());
+    GstElement *pipeline = gst_parse_launch(text.toUtf8().constData(), nullptr);
     gst_element_set_state(pipeline, GST_STATE_PLAYING);
-    const double share = shareOver(seconds);
     GstElement *screen = gst_bin_get_by_name(GST_BIN(pipeline), "screen");
-    GstStructure *stats = nullptr;
-    g_object_get(screen, "stats", &stats, nullptr);
-    guint64 rendered = 0;
-    gst_structure_get_uint64(stats, "rendered", &rendered);
-    gst_structure_free(stats);
+    const bool printed = print(shareOver(seconds, [screen] {
+        GstStructure *stats = nullptr;
+        g_object_get(screen, "stats", &stats, nullptr);
+        guint64 rendered = 0;
+        gst_structure_get_uint64(stats, "rendered", &rendered);
+        gst_structure_free(stats);
+        return int(rendered);
+    }));
     gst_object_unref(screen);
     gst_element_set_state(pipeline, GST_STATE_NULL);
     gst_object_unref(pipeline);
-    if (rendered < guint64(seconds) * 25)
-        return 1;
-    std::printf("%.4f\n", share);
-    return 0;
+    return printed ? 0 : 1;
 }
 
-int countDrops(int seconds)
+int countDrops(int seconds, const QSize &shown)
 {
     QFrame target(nullptr, Qt::FramelessWindowHint);
     LiveVideoData engine;
-    if (!startEngine(engine, target))
+    if (!startEngine(engine, target, shown))
         return 1;
     ScreenWatch watch(&target);
     QTimer::singleShot(settleTime, &watch, [&watch] { watch.restart(); });
@@ -91,13 +128,14 @@ int main(int argc, char *argv[])
     const QStringList arguments = QApplication::arguments();
     const QString what = arguments.value(1);
     const int seconds = qMax(2, arguments.value(2).toInt());
+    const QSize shown = sizeIn(arguments.value(3));
     int status = 2;
     if (what == QLatin1String("engine"))
-        status = measureEngine(seconds);
+        status = measureEngine(seconds, shown);
     else if (what == QLatin1String("bare"))
-        status = measureBarePipeline(seconds);
+        status = measureBarePipeline(seconds, shown, arguments.value(4));
     else if (what == QLatin1String("drops"))
-        status = countDrops(seconds);
+        status = countDrops(seconds, shown);
     if (status != 0)
         std::fprintf(stderr, "bench_live: cannot measure \"%s\"\n", qPrintable(what));
     return status;

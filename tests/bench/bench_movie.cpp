@@ -43,7 +43,7 @@ int measureEngine(const QString &path, int seconds)
     engine.Record(path);
     if (engine.nativeWidth != 1920 || !engine.IsValidVideoDevice() || !engine.IsValidAudioDevice())
         return 1;
-    const double share = shareOver(seconds);
+    const double share = shareOver(seconds).program;
     QElapsedTimer timer;
     timer.start();
     engine.RecordStop();
@@ -135,7 +135,7 @@ int measureBarePipeline(const QString &path, int seconds)
     if (!pipeline)
         return 1;
     gst_element_set_state(pipeline, GST_STATE_PLAYING);
-    const double share = shareOver(seconds);
+    const double share = shareOver(seconds).program;
     gint64 position = 0;
     gst_element_query_position(pipeline, GST_FORMAT_TIME, &position);
     gst_element_set_state(pipeline, GST_STATE_NULL);
