@@ -49,16 +49,25 @@ QImage PictureConverter::convert(const CameraFrame &frame, const QSize &size, QI
     QImage image = std::move(reuse);
     if (image.size() != size || image.format() != m_format || !image.isDetached())
         image = QImage(size, m_format);
-    const GstVideoFrame whole = asWhole(frame.picture());
-    if (image.isNull() || !prepare(whole.info, image))
+    if (image.isNull())
         return {};
-    const GstMiniHandle<GstBuffer> buffer(
-        gst_buffer_new_wrapped_full(GstMemoryFlags(0), image.bits(), gsize(image.sizeInBytes()), 0,
-                                    gsize(image.sizeInBytes()), nullptr, nullptr));
+    const GstVideoFrame whole = asWhole(frame.picture());
+    if (m_format == QImage::Format_RGB32 && m_screen.convert(whole, &image))
+        return image;
+    return convertWithGStreamer(whole, &image) ? image : QImage();
+}
+
+bool PictureConverter::convertWithGStreamer(const GstVideoFrame &frame, QImage *image)
+{
+    if (!prepare(frame.info, *image))
+        return false;
+    const gsize size = gsize(image->sizeInBytes());
+    const GstMiniHandle<GstBuffer> buffer(gst_buffer_new_wrapped_full(
+        GstMemoryFlags(0), image->bits(), size, 0, size, nullptr, nullptr));
     GstVideoFrame target;
     if (!gst_video_frame_map(&target, &m_to, buffer.get(), GST_MAP_WRITE))
-        return {};
-    gst_video_converter_frame(m_converter.get(), &whole, &target);
+        return false;
+    gst_video_converter_frame(m_converter.get(), &frame, &target);
     gst_video_frame_unmap(&target);
-    return image;
+    return true;
 }

@@ -2,14 +2,16 @@
 #define PICTURECONVERTER_H
 
 #include "CameraFrame.h"
+#include "ScreenConverter.h"
 
 #include <QImage>
 
 #include <memory>
 
 /**
- * Turns camera frames into images, colours and size in one step. Keeps what it worked out for the
- * last format and size; one thread at a time.
+ * Turns camera frames into images, colours and size in one step: with GStreamer's converter, or for
+ * the screen, where thirty a second have to be made, with the quicker ScreenConverter where that
+ * knows the format. Keeps what it worked out for the last format and size; one thread at a time.
  */
 class PictureConverter {
 public:
@@ -25,9 +27,11 @@ private:
         void operator()(GstVideoConverter *converter) const { gst_video_converter_free(converter); }
     };
 
+    bool convertWithGStreamer(const GstVideoFrame &frame, QImage *image);
     bool prepare(const GstVideoInfo &from, const QImage &to);
 
     QImage::Format m_format;
+    ScreenConverter m_screen;
     GstVideoInfo m_from;
     GstVideoInfo m_to;
     std::unique_ptr<GstVideoConverter, ConverterFree> m_converter;
