@@ -6,6 +6,7 @@
 #include "PatientWait.h"
 #include "PictureConverter.h"
 #include "SilenceWatch.h"
+#include "SparePictures.h"
 
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
@@ -28,7 +29,7 @@ public:
     // Worker only.
     std::unique_ptr<CameraPipeline> camera; ///< handed over before the worker starts
     PictureConverter converter{QImage::Format_RGB32};
-    QImage spare; ///< memory of a picture that was replaced, for the next one
+    SparePictures spares;
     quint64 frames = 0;
     quint64 pictures = 0;
 
@@ -199,7 +200,7 @@ void GrabThread::makePicture(const CameraFrame &frame)
             return;
         size = d->pictureSize;
     }
-    QImage picture = d->converter.convert(frame, size, std::move(d->spare));
+    QImage picture = d->converter.convert(frame, size, d->spares.take());
     ++d->pictures;
     bool announce = false;
     {
@@ -211,7 +212,7 @@ void GrabThread::makePicture(const CameraFrame &frame)
         announce = !d->announced;
         d->announced = true;
     }
-    d->spare = std::move(picture);
+    d->spares.keep(std::move(picture));
     if (announce)
         Q_EMIT grabtrue();
 }
