@@ -44,7 +44,7 @@ constexpr double cameraRate = 30; // frames per second
 
 bool print(const ProcessorShare &share)
 {
-    if (share.rate < cameraRate / 3)
+    if (share.rate < cameraRate / 10)
         return false;
     const double whole = cameraRate / share.rate;
     std::printf("%.4f %.4f %.1f\n", (share.program + share.server) * whole, share.server * whole,
