@@ -1,6 +1,7 @@
 #include "MovieWidget.h"
 
 #include "PictureLoader.h"
+#include "WebcamUtil.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -89,10 +90,8 @@ bool MovieWidget::Create(const QString &filename)
 
 void MovieWidget::showStillPicture(const QString &movie)
 {
-    QString still = movie;
-    still.replace(QLatin1String(".mov"), QLatin1String("tmp.png"));
     m_stillPicture->setGeometry(rect());
-    m_stillPicture->loadLater(still);
+    m_stillPicture->loadLater(WebcamUtil::stillNameOf(movie));
     m_stillPicture->show();
     mediaObject()->setTickInterval(positionIntervalMs);
     connect(mediaObject(), &Phonon::MediaObject::tick, this, &MovieWidget::hideStillPicture,

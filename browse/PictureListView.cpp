@@ -75,10 +75,7 @@ QListWidgetItem *PictureListView::addItem(const QString &name)
     // the strip is high. One tile fills the height, so the next one starts a column.
     item->setSizeHint(QSize(height(), iconSize().width()));
     item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-    QString text = name;
-    if (m_movieMode)
-        text.replace(QLatin1String("tmp.png"), QLatin1String(".mov"));
-    item->setText(text);
+    item->setText(m_movieMode ? WebcamUtil::movieNameOf(name) : name);
     m_itemNames.append(name);
     return item;
 }
@@ -142,7 +139,7 @@ void PictureListView::OnSelect(const QString &name)
     }
     QString taken = name;
     if (m_movieMode) {
-        // A pattern on purpose: its dot stands for any character.
+        // A pattern, so that a name with any other sign than a dot there finds its picture as well.
         taken.replace(QRegularExpression(QStringLiteral(".mov")), QStringLiteral("tmp.png"));
         m_selectedNames.clear();
     }

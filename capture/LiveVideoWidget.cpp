@@ -195,9 +195,8 @@ bool LiveVideoWidget::Record()
         WebcamUtil::WarningMessage(invalidVideoText(), this);
         return false;
     }
-    QString stillPath = m_movieFileName;
-    stillPath.replace(QLatin1String(".mov"), QLatin1String("tmp.png"));
-    m_engine.SaveBitmap(stillPath); // a movie without its still picture is still a movie
+    // A movie without its still picture is still a movie.
+    m_engine.SaveBitmap(WebcamUtil::stillNameOf(m_movieFileName));
     return true;
 }
 

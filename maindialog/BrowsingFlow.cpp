@@ -87,8 +87,7 @@ void CVistrelDlg::OnShow()
     m_pictureList->hide();
     m_pictureView->hide();
     if (m_pictureList->movieMode()) {
-        QString movie = m_pictureList->lastSelected();
-        movie.replace(QLatin1String("tmp.png"), QLatin1String(".mov"));
+        const QString movie = WebcamUtil::movieNameOf(m_pictureList->lastSelected());
         m_moviePath = WebcamUtil::getTemporaryPath() + QLatin1Char('/') + movie;
         TransitionMode(MovieMode);
         m_movieView->Create(m_moviePath);

@@ -88,6 +88,13 @@ public:
     static QString CreateMoviefilename(const QDateTime &moment = QDateTime::currentDateTime());
     /** Full path in the temporary area: "movie" + seconds + "tmpphoto", with no suffix. */
     static QString CreateTempMoviefilename(const QDateTime &moment = QDateTime::currentDateTime());
+    /**
+     * The still picture of @p movie, a name or a path: "....mov" becomes "...tmp.png". Lists and
+     * views handle a movie by it, since a movie without one cannot be shown.
+     */
+    static QString stillNameOf(const QString &movie);
+    /** The movie of a still picture, the way back from stillNameOf(). */
+    static QString movieNameOf(const QString &still);
     /** Makes the day's folder below @p base; its absolute path, or empty if it cannot be made. */
     static QString CreateSavePath(const QString &base,
                                   const QDateTime &moment = QDateTime::currentDateTime());

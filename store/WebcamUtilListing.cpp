@@ -105,21 +105,20 @@ void WebcamUtil::setTempMovieFilnameList() { }
 
 QStringList WebcamUtil::getMovieFileList()
 {
-    const QString movieSuffix = QStringLiteral(".mov");
-    QStringList movies;
+    QStringList stillsOfMovies;
     QSet<QString> pictures;
-    for (const QString &name : getFileList({QStringLiteral("movie*")}))
-        if (name.contains(movieSuffix))
-            movies.append(name);
+    for (const QString &name : getFileList({QStringLiteral("movie*")})) {
+        const QString still = stillNameOf(name);
+        if (still != name)
+            stillsOfMovies.append(still);
         else
             pictures.insert(name);
+    }
 
     QStringList complete;
-    for (QString picture : qAsConst(movies)) {
-        picture.replace(movieSuffix, QStringLiteral("tmp.png"));
-        if (pictures.contains(picture))
-            complete.append(picture);
-    }
+    for (const QString &still : qAsConst(stillsOfMovies))
+        if (pictures.contains(still))
+            complete.append(still);
     return complete;
 }
 

@@ -6,6 +6,16 @@
 
 namespace {
 
+QString movieSuffix()
+{
+    return QStringLiteral(".mov");
+}
+
+QString stillSuffix()
+{
+    return QStringLiteral("tmp.png");
+}
+
 /** Always plain digits: a file name must not change with the language of the desktop. */
 QString stamp(const QDateTime &moment, const QString &layout)
 {
@@ -36,19 +46,29 @@ QString WebcamUtil::CreatePhotofilename(const QDateTime &moment)
 
 QString WebcamUtil::CreateTempPhotofilename(const QDateTime &moment)
 {
-    return QStringLiteral("photo") + CurrentTimeQString(moment) + QStringLiteral("tmp.png");
+    return QStringLiteral("photo") + CurrentTimeQString(moment) + stillSuffix();
 }
 
 QString WebcamUtil::CreateMoviefilename(const QDateTime &moment)
 {
     return getTemporaryPath() + QStringLiteral("/movie") + CurrentSecondString(moment)
-        + QStringLiteral(".mov");
+        + movieSuffix();
 }
 
 QString WebcamUtil::CreateTempMoviefilename(const QDateTime &moment)
 {
     return getTemporaryPath() + QStringLiteral("/movie") + CurrentSecondString(moment)
         + QStringLiteral("tmpphoto");
+}
+
+QString WebcamUtil::stillNameOf(const QString &movie)
+{
+    return QString(movie).replace(movieSuffix(), stillSuffix());
+}
+
+QString WebcamUtil::movieNameOf(const QString &still)
+{
+    return QString(still).replace(stillSuffix(), movieSuffix());
 }
 
 QString WebcamUtil::CreateSavePath(const QString &base, const QDateTime &moment)

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void aPhotoAfterMidnightKeepsItsZeros();
     void aMovieIsNamedByTheSecondInTheTemporaryArea();
     void twoMoviesOfTheSameSecondShareTheirName();
+    void aMovieAndItsStillPictureAreFoundByEachOther_data();
+    void aMovieAndItsStillPictureAreFoundByEachOther();
     void theDaysFolderIsMadeAndMadeOnce();
     void theDaysFolderIsEmptyWhereItCannotBeMade();
 };
@@ -149,6 +151,25 @@ void WebcamUtilNamesTest::twoMoviesOfTheSameSecondShareTheirName()
              WebcamUtil::CreateMoviefilename(moment.addMSecs(900)));
     QVERIFY(WebcamUtil::CreateMoviefilename(moment)
             != WebcamUtil::CreateMoviefilename(moment.addMSecs(1000)));
+}
+
+void WebcamUtilNamesTest::aMovieAndItsStillPictureAreFoundByEachOther_data()
+{
+    QTest::addColumn<QString>("movie");
+    QTest::addColumn<QString>("still");
+    QTest::newRow("a name") << "movie20090304090507.mov" << "movie20090304090507tmp.png";
+    QTest::newRow("a path") << "/tmp/area/movie1.mov" << "/tmp/area/movie1tmp.png";
+    QTest::newRow("no movie") << "photo20090304090507042.png" << "photo20090304090507042.png";
+    QTest::newRow("capital letters") << "movie1.MOV" << "movie1.MOV";
+    QTest::newRow("nothing") << QString() << QString();
+}
+
+void WebcamUtilNamesTest::aMovieAndItsStillPictureAreFoundByEachOther()
+{
+    QFETCH(QString, movie);
+    QFETCH(QString, still);
+    QCOMPARE(WebcamUtil::stillNameOf(movie), still);
+    QCOMPARE(WebcamUtil::movieNameOf(still), movie);
 }
 
 void WebcamUtilNamesTest::theDaysFolderIsMadeAndMadeOnce()
