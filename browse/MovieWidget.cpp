@@ -1,5 +1,6 @@
 #include "MovieWidget.h"
 
+#include "GreenCaption.h"
 #include "PictureLoader.h"
 #include "WebcamUtil.h"
 
@@ -61,16 +62,12 @@ MovieWidget::MovieWidget(QWidget *parent)
     , m_stillPicture(new StillPicture(this))
     , m_label(new QLabel(tr("Movie"), this))
 {
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, Qt::black);
-    colors.setColor(QPalette::WindowText, Qt::green);
-    setPalette(colors);
+    setPalette(GreenCaption::palette(palette()));
     setAccessibleName(tr("Movie"));
     setAccessibleDescription(tr("Plays a recorded movie"));
 
-    m_label->setPalette(colors);
-    // The weight, 5 of 99, is meant: the caption is to be as thin as the font has it.
-    m_label->setFont(QFont(QStringLiteral("Arial"), 24, 5, false));
+    m_label->setPalette(palette());
+    m_label->setFont(GreenCaption::font());
     m_label->adjustSize();
     m_stillPicture->hide();
 }

@@ -2,6 +2,7 @@
 
 #include "CStretchBitmapButton.h"
 #include "CapturedPicture.h"
+#include "GreenCaption.h"
 #include "PictureLoader.h"
 
 #include <QLabel>
@@ -11,18 +12,14 @@ PictureWidget::PictureWidget(QWidget *parent, Qt::WindowFlags f)
     : QWidget(parent, f)
     , m_label(new QLabel(tr("Photo"), this))
 {
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, Qt::black);
-    colors.setColor(QPalette::WindowText, Qt::green);
-    setPalette(colors);
+    setPalette(GreenCaption::palette(palette()));
     setAutoFillBackground(true);
     setAccessibleName(tr("Photo"));
     setAccessibleDescription(tr("A captured photo"));
 
-    m_label->setPalette(colors);
+    m_label->setPalette(palette());
     m_label->setAutoFillBackground(true);
-    // The weight, 5 of 99, is meant: the caption is to be as thin as the font has it.
-    m_label->setFont(QFont(QStringLiteral("Arial"), 24, 5, false));
+    m_label->setFont(GreenCaption::font());
     m_label->adjustSize();
 }
 

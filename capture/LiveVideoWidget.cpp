@@ -1,12 +1,12 @@
 #include "LiveVideoWidget.h"
 
+#include "GreenCaption.h"
 #include "WebcamUtil.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLoggingCategory>
-#include <QPalette>
 #include <QTimer>
 
 namespace {
@@ -14,16 +14,6 @@ namespace {
 Q_LOGGING_CATEGORY(lcCapture, "orvanta.capture", QtWarningMsg)
 
 constexpr int kBurstIntervalMs = 5000;
-
-// Nearly a hairline (normal is 50), so that the word hides as little of the picture as it can.
-constexpr int kHairlineWeight = 5;
-
-QPalette greenOnBlack(QPalette palette)
-{
-    palette.setBrush(QPalette::Window, QBrush(Qt::black));
-    palette.setBrush(QPalette::WindowText, QBrush(Qt::green));
-    return palette;
-}
 
 } // namespace
 
@@ -35,7 +25,7 @@ LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags f)
     setAttribute(Qt::WA_OpaquePaintEvent, false);
     setAttribute(Qt::WA_NoSystemBackground, false);
     setAttribute(Qt::WA_PaintOnScreen, false);
-    setPalette(greenOnBlack(palette()));
+    setPalette(GreenCaption::palette(palette()));
     // Black until the first picture comes, instead of the window behind.
     setAutoFillBackground(true);
     setAccessibleName(tr("Live picture"));
@@ -65,8 +55,8 @@ void LiveVideoWidget::createLiveLabel()
 {
     m_liveLabel = new QLabel(tr("LIVE"), this);
     m_liveLabel->setAutoFillBackground(true);
-    m_liveLabel->setPalette(greenOnBlack(m_liveLabel->palette()));
-    m_liveLabel->setFont(QFont(QStringLiteral("Arial"), 24, kHairlineWeight, false));
+    m_liveLabel->setPalette(GreenCaption::palette(m_liveLabel->palette()));
+    m_liveLabel->setFont(GreenCaption::font());
     m_liveLabel->adjustSize();
     m_liveLabel->raise();
     m_liveLabel->hide();

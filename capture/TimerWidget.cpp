@@ -1,7 +1,8 @@
 #include "TimerWidget.h"
 
+#include "GreenCaption.h"
+
 #include <QGuiApplication>
-#include <QPalette>
 #include <QScreen>
 #include <QTimer>
 
@@ -9,9 +10,6 @@ namespace {
 
 constexpr int kTickMs = 1000;
 constexpr int kLongestRecordingS = 600;
-
-// Nearly a hairline (normal is 50), so that the digits hide as little of the picture as they can.
-constexpr int kHairlineWeight = 5;
 
 QString twoDigits(int number)
 {
@@ -26,11 +24,8 @@ TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags f)
     , m_tickTimer(new QTimer(this))
 {
     setAutoFillBackground(true);
-    QPalette colours = palette();
-    colours.setBrush(QPalette::Window, QBrush(Qt::black));
-    colours.setBrush(QPalette::WindowText, QBrush(Qt::green));
-    setPalette(colours);
-    setFont(QFont(QStringLiteral("Arial"), 24, kHairlineWeight, false));
+    setPalette(GreenCaption::palette(palette()));
+    setFont(GreenCaption::font());
     // The name is left to the text itself, so that a screen reader reads the time.
     setAccessibleDescription(tr("Self-timer, recording time or playing time"));
 
