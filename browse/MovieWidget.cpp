@@ -81,6 +81,10 @@ bool MovieWidget::Create(const QString &filename)
     // The player makes its video surface on first use, and puts it above the other children.
     m_stillPicture->raise();
     m_label->raise();
+    // Not before the first movie: the player, which may have to wait for the sound server, is made
+    // by asking for it.
+    connect(mediaObject(), &Phonon::MediaObject::totalTimeChanged, this, &MovieWidget::lengthKnown,
+            Qt::UniqueConnection);
     m_created = true;
     return true;
 }

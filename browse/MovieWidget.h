@@ -24,6 +24,11 @@ public:
 
     bool isCreated() const { return m_created; } ///< a movie has been given at least once
 
+Q_SIGNALS:
+    /// The player has learnt how long the movie is (ms), a moment after it began to play; 0 or less
+    /// when it forgets it again.
+    void lengthKnown(qint64 length);
+
 public Q_SLOTS:
     /// Loads the movie at the absolute path @p filename; playback waits for Play(). Its still
     /// picture is read ahead in the size that the widget has now, from the temporary area. Always

@@ -213,6 +213,7 @@ void CVistrelDlg::SetLocalConnect()
          {LiveButton, CloseButton, MovieButton, MoviePlayButton, MovieStopButton, MoviePauseButton})
         connectButton(which);
     connect(m_movieView, &MovieWidget::finished, this, &CVistrelDlg::OnMovieFinished);
+    connect(m_movieView, &MovieWidget::lengthKnown, this, &CVistrelDlg::showMovieLength);
     connect(m_timerWidget, &TimerWidget::movieTimeOver, this, &CVistrelDlg::OnMovieStop);
     for (Button which : {PhotoButton, RetryButton, ApplyButton, PutPhotoButton, PutMovieButton,
                          ListButton, ShowButton, PhotoMultiButton})

@@ -14,7 +14,6 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QStyleHints>
-#include <phonon/mediaobject.h>
 
 namespace {
 
@@ -135,8 +134,6 @@ void CVistrelDlg::OnMoviePlay()
         m_movieView->Stop();
     }
     m_timerWidget->show();
-    connect(m_movieView->mediaObject(), &Phonon::MediaObject::totalTimeChanged, this,
-            &CVistrelDlg::showMovieLength, Qt::UniqueConnection);
     m_movieView->Play();
     m_timerWidget->run();
     button(MoviePlayButton)->hide();

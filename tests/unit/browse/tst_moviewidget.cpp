@@ -36,6 +36,7 @@ private slots:
     void theStillPictureStandsWheneverThePlayerIsBlack();
     void aMovieWaitsForPlay();
     void playingRunsToItsEndAndIsThenComplete();
+    void theLengthIsToldOnceForEachMovieThatBeginsToPlay();
     void playWhilePlayingLeavesPlaybackWhereItIs();
     void playResumesWherePauseStopped();
     void resetPlaysFromTheBeginning();
@@ -152,6 +153,23 @@ void TestMovieWidget::playingRunsToItsEndAndIsThenComplete()
     QVERIFY2(qAbs(player.totalTime() - movieMs) < 200, position(player).constData());
     QVERIFY(finished.wait(patienceMs));
     QVERIFY2(player.isComplete(), position(player).constData());
+}
+
+void TestMovieWidget::theLengthIsToldOnceForEachMovieThatBeginsToPlay()
+{
+    MovieWidget player(nullptr);
+    int timesKnown = 0;
+    connect(&player, &MovieWidget::lengthKnown, this, [&timesKnown](qint64 length) {
+        if (length > 0 && qAbs(length - movieMs) < 200)
+            ++timesKnown;
+    });
+    for (int movie = 1; movie <= 2; ++movie) {
+        player.Create(m_movie);
+        player.Play();
+        QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 500, patienceMs);
+        QCOMPARE(timesKnown, movie);
+        player.Stop();
+    }
 }
 
 void TestMovieWidget::playWhilePlayingLeavesPlaybackWhereItIs()
