@@ -75,7 +75,7 @@ CVistrelDlg::CVistrelDlg(QWidget *parent, Qt::WindowFlags flags)
         return;
     GetSetting();
     setWindowLook();
-    openCamera();
+    showFirstScreen();
     SetLocalConnect();
     InitialVal();
 }
@@ -169,23 +169,15 @@ void CVistrelDlg::setWindowLook()
     setWindowIcon(QIcon(QStringLiteral(":/res/Vistrel.ico")));
 }
 
-void CVistrelDlg::copyDevicePresence()
-{
-    m_videoPresent = m_liveView->isVideoValid();
-    m_audioPresent = m_liveView->isAudioPresent();
-}
-
-void CVistrelDlg::openCamera()
+void CVistrelDlg::showFirstScreen()
 {
     // Earlier than the other connections: the first screen may wait at a disk warning, and a loss
     // that nobody is told of would leave a dead camera that counts as open.
     connect(m_liveView, &LiveVideoWidget::disconnectDevice, this, &CVistrelDlg::changeNodevicemode);
     connect(m_liveView, &LiveVideoWidget::recordingEnded, this, &CVistrelDlg::endBrokenRecording);
     button(MovieStopButton)->installEventFilter(this);
-    m_liveView->Create();
-    copyDevicePresence();
-    if (!m_videoPresent || !m_liveView->isCreate())
-        m_error = true;
+    if (!openCamera())
+        return;
     SetBaseRect();
     m_liveView->setGeometry(m_videoRect);
     m_liveView->Start();

@@ -188,11 +188,10 @@ private:
     void SetButtonCaptionText();
     void SetChildInstance();
     void setWindowLook();
-    void openCamera();
+    void showFirstScreen();
     void SetBaseRect();
     void SetLocalConnect();
     void connectButton(Button which);
-    void copyDevicePresence();
 
     std::array<CStretchBitmapButton *, ButtonCount> m_buttons{};
     LiveVideoWidget *m_liveView = nullptr; ///< null once the window has closed
@@ -218,9 +217,21 @@ private:
     DisplayMode m_displayMode = LiveMode;
     bool m_error = false;
 
-    // --- PhotoFlow.cpp ---------------------------------------------------------------------
+    // --- CaptureConditions.cpp -------------------------------------------------------------
+    /// Opens the camera unless it is open, and notes what is missing. False: the window was closed
+    /// meanwhile, at a message.
+    bool openCamera();
+    /// Notes whether camera and microphone are there, by what the live view has found out.
+    void copyDevicePresence();
+    /// Called first by every flow that captures: ends the raising and asks for room on the disk.
+    /// False when there is none, which has been told and leaves only what browses, or when the
+    /// window is closed.
     bool hasSpaceToCapture();
 
+    bool m_videoPresent = false;
+    bool m_audioPresent = false;
+
+    // --- PhotoFlow.cpp ---------------------------------------------------------------------
     QString m_currentPhotoName; ///< bare name of the last photo, null when there is none
     QSound *m_shutterSound = nullptr;
     bool m_photoPreview = true;
@@ -249,8 +260,6 @@ private:
     // --- DeviceFlow.cpp --------------------------------------------------------------------
     void warnOfInvalidVideo();
 
-    bool m_videoPresent = false;
-    bool m_audioPresent = false;
     bool m_deviceSelected = false;
 
     // --- BrowsingFlow.cpp ------------------------------------------------------------------

@@ -14,20 +14,6 @@
 #include <QFile>
 #include <QSound>
 
-bool CVistrelDlg::hasSpaceToCapture()
-{
-    if (isClosed())
-        return false;
-    stop_window();
-    if (WebcamUtil::chkdiskFreeSpace())
-        return true;
-    endCountdown(); // no photo may be taken behind the message that none can be
-    WebcamUtil::ShowDiskWorningMessage(this);
-    m_error = true;
-    setErrModeButtonEnable();
-    return false;
-}
-
 void CVistrelDlg::OnLive()
 {
     if (m_displayMode == LiveMode || isClosed())
@@ -36,14 +22,8 @@ void CVistrelDlg::OnLive()
     hiddenPictList();
     stopPlayback();
     m_error = false;
-    if (!m_liveView->isCreate()) {
-        m_liveView->Create();
-        if (isClosed())
-            return;
-        copyDevicePresence();
-        if (!m_videoPresent || !m_liveView->isCreate())
-            m_error = true;
-    }
+    if (!openCamera())
+        return;
     m_liveView->setGeometry(m_videoRect);
     m_liveView->Start();
     hiddenPictList();
