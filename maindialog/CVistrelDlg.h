@@ -103,6 +103,8 @@ public:
 
     // --- HandOver.cpp ----------------------------------------------------------------------
     void setTVSButton();
+
+    // --- ShutterSound.cpp ------------------------------------------------------------------
     /// @p path is the folder of the program, without a trailing slash; "photo.wav" in it becomes
     /// the shutter sound.
     void SetPluginPath(const QString &path);
@@ -233,8 +235,12 @@ private:
 
     // --- PhotoFlow.cpp ---------------------------------------------------------------------
     QString m_currentPhotoName; ///< bare name of the last photo, null when there is none
-    QSound *m_shutterSound = nullptr;
     bool m_photoPreview = true;
+
+    // --- ShutterSound.cpp ------------------------------------------------------------------
+    void playShutterSound();
+
+    QSound *m_shutterSound = nullptr; ///< null when there is none
 
     // --- SeriesFlow.cpp --------------------------------------------------------------------
     void startSeries();
@@ -271,9 +277,8 @@ private:
     QRect m_selectionRect; ///< size of the tile zoomed last, at (0, 0)
     QPoint m_zoomedTilePosition;
 
-    // --- ClosingFlow.cpp, SettingsFlow.cpp, HandOver.cpp -----------------------------------
+    // --- SettingsFlow.cpp ------------------------------------------------------------------
     QString m_saveDirectory;
-    QString m_pluginPath;
 };
 
 #endif

@@ -1,6 +1,5 @@
 // "Paste": a small text file dropped into a folder that the whiteboard software watches names the
-// pictures to fetch. There is no answer and no other channel. The shutter sound is loaded here too,
-// since it lies in the same program folder that is handed over at start.
+// pictures to fetch. There is no answer and no other channel.
 
 #include "CVistrelDlg.h"
 
@@ -9,7 +8,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSound>
 #include <QTextStream>
 
 void CVistrelDlg::setTVSButton()
@@ -56,12 +54,4 @@ void CVistrelDlg::PutTVSMovie()
 void CVistrelDlg::isPutCompeate()
 {
     // A hand-over is never acknowledged.
-}
-
-void CVistrelDlg::SetPluginPath(const QString &path)
-{
-    m_pluginPath = path;
-    const QString sound = path + QStringLiteral("/photo.wav");
-    if (QFile::exists(sound))
-        m_shutterSound = new QSound(sound, this);
 }

@@ -12,7 +12,6 @@
 #include "WebcamUtil.h"
 
 #include <QFile>
-#include <QSound>
 
 void CVistrelDlg::OnLive()
 {
@@ -41,8 +40,7 @@ void CVistrelDlg::OnPhoto()
     if (!hasSpaceToCapture())
         return;
     allWidgethide();
-    if (m_shutterSound)
-        m_shutterSound->play();
+    playShutterSound();
     TransitionMode(PhotoMode);
     if (m_photoPreview)
         m_liveView->show();

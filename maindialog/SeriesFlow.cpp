@@ -10,8 +10,6 @@
 #include "PictureWidget.h"
 #include "TimerWidget.h"
 
-#include <QSound>
-
 void CVistrelDlg::OnPhotSeq()
 {
     if (!hasSpaceToCapture())
@@ -63,8 +61,7 @@ void CVistrelDlg::OnShot()
     if (isClosed())
         return;
     stop_window();
-    if (m_shutterSound)
-        m_shutterSound->play();
+    playShutterSound();
     m_currentPhotoName = m_liveView->SaveBmp();
     m_pictureView->Loadbmp(m_currentPhotoName);
     m_pictureView->setLabelText(QString::number(m_shotCounter + 1) + tr("/")
