@@ -215,6 +215,9 @@ private:
         bool sharesCell = false; ///< stands where the button before it stands
     };
     void layRow(double left, std::initializer_list<RowCell> cells);
+    /// Switches to the photo alone, as SetPhotoMode() does when the preview is off.
+    void setAcceptedPhotoMode();
+    void layOutPhoto();
 
     DisplayMode m_displayMode = LiveMode;
     bool m_error = false;

@@ -153,10 +153,20 @@ void CVistrelDlg::setMovieModeButton()
 
 void CVistrelDlg::SetPhotoMode()
 {
-    if (m_photoPreview) {
+    if (m_photoPreview)
         SetLivePhotoMode();
-        return;
-    }
+    else
+        layOutPhoto();
+}
+
+void CVistrelDlg::setAcceptedPhotoMode()
+{
+    layOutPhoto();
+    m_displayMode = PhotoMode;
+}
+
+void CVistrelDlg::layOutPhoto()
+{
     m_pictureView->setGeometry(m_videoRect);
     button(LiveButton)->setGeometry(m_geometry.buttonCell());
     button(LiveButton)->show();

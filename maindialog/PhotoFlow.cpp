@@ -61,11 +61,7 @@ void CVistrelDlg::OnAply()
         m_movieView->Release();
     m_movieView->hide();
     m_liveView->hide();
-    // The photo's own screen is wanted, not the preview again; the setting stays what it was.
-    const bool preview = m_photoPreview;
-    m_photoPreview = false;
-    TransitionMode(PhotoMode);
-    m_photoPreview = preview;
+    setAcceptedPhotoMode(); // the photo's own screen, not the preview again
     update();
 }
 
