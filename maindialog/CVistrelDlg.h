@@ -113,34 +113,35 @@ Q_SIGNALS:
     void comp(bool ret); ///< declared for the window's users; nothing emits it
 
 public Q_SLOTS:
-    // One slot a button or view signal; sorted as the window's users know them.
-    void OnClose();
-    void OnLive();
-    void OnPhoto();
-    void OnAply();
-    void OnRecord();
-    void OnMovieStop();
-    void OnMoviePlay();
-    void OnMoviePause();
-    void OnRetake();
-    void OnPhotSeq();
-    void OnShot();
-    void OnList();
-    void OnPictureList();
-    void OnShow();
-    void PictureSelected();
-    void OnSettingDlg();
-    void OnZoom(PictureWidget *pict);
-    void OnBack(PictureWidget *pict);
-    void PutTVSMovie();
-    void PutTVSPhoto();
-    void OnTVS();
-    void isPutCompeate();
-    void setMovieTime();
-    void OnMovieFinished();
-    void OnMovieChange();
-    void OnPhotoChange();
-    void changeNodevicemode();
+    // One slot a button or view signal, in the order the window's users know; behind each stands
+    // the file that holds it.
+    void OnClose(); ///< ClosingFlow.cpp
+    void OnLive(); ///< PhotoFlow.cpp
+    void OnPhoto(); ///< PhotoFlow.cpp
+    void OnAply(); ///< PhotoFlow.cpp
+    void OnRecord(); ///< MovieFlow.cpp
+    void OnMovieStop(); ///< MovieFlow.cpp
+    void OnMoviePlay(); ///< MovieFlow.cpp
+    void OnMoviePause(); ///< MovieFlow.cpp
+    void OnRetake(); ///< PhotoFlow.cpp
+    void OnPhotSeq(); ///< SeriesFlow.cpp
+    void OnShot(); ///< SeriesFlow.cpp
+    void OnList(); ///< BrowsingFlow.cpp
+    void OnPictureList(); ///< BrowsingFlow.cpp
+    void OnShow(); ///< BrowsingFlow.cpp
+    void PictureSelected(); ///< BrowsingFlow.cpp
+    void OnSettingDlg(); ///< SettingsFlow.cpp
+    void OnZoom(PictureWidget *pict); ///< BrowsingFlow.cpp
+    void OnBack(PictureWidget *pict); ///< BrowsingFlow.cpp
+    void PutTVSMovie(); ///< HandOver.cpp
+    void PutTVSPhoto(); ///< HandOver.cpp
+    void OnTVS(); ///< HandOver.cpp
+    void isPutCompeate(); ///< HandOver.cpp
+    void setMovieTime(); ///< MovieFlow.cpp
+    void OnMovieFinished(); ///< MovieFlow.cpp
+    void OnMovieChange(); ///< BrowsingFlow.cpp
+    void OnPhotoChange(); ///< BrowsingFlow.cpp
+    void changeNodevicemode(); ///< DeviceFlow.cpp
 
 protected:
     // --- ClosingFlow.cpp -------------------------------------------------------------------
@@ -149,6 +150,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    // --- ClosingFlow.cpp -------------------------------------------------------------------
     /// The window may be closed while a box stands over it or a shot falls due: what returns from
     /// a box, and every slot that needs the camera, asks first.
     bool isClosed() const { return m_liveView == nullptr; }
@@ -258,6 +260,7 @@ private:
 
     // --- MovieFlow.cpp ---------------------------------------------------------------------
     void showMovieLength(qint64 total);
+    void showPlayButton(); ///< in place of "Pause"
     /// The recorder cannot go on: keeps the movie up to there and tells why.
     void endBrokenRecording();
     void stopPlayback();
@@ -273,7 +276,6 @@ private:
 
     // --- BrowsingFlow.cpp ------------------------------------------------------------------
     enum ListKind { PhotoList = 0, MovieList = 1 };
-    void showPlayButton();
 
     ListKind m_listKind = PhotoList; ///< what "List" opens
     QVector<PictureWidget *> m_tiles;

@@ -157,10 +157,14 @@ void WebcamUtilNamesTest::aMovieAndItsStillPictureAreFoundByEachOther_data()
 {
     QTest::addColumn<QString>("movie");
     QTest::addColumn<QString>("still");
-    QTest::newRow("a name") << "movie20090304090507.mov" << "movie20090304090507tmp.png";
-    QTest::newRow("a path") << "/tmp/area/movie1.mov" << "/tmp/area/movie1tmp.png";
-    QTest::newRow("no movie") << "photo20090304090507042.png" << "photo20090304090507042.png";
-    QTest::newRow("capital letters") << "movie1.MOV" << "movie1.MOV";
+    QTest::newRow("a name") << "movie20090304090507.mov"
+                            << "movie20090304090507tmp.png";
+    QTest::newRow("a path") << "/tmp/area/movie1.mov"
+                            << "/tmp/area/movie1tmp.png";
+    QTest::newRow("no movie") << "photo20090304090507042.png"
+                              << "photo20090304090507042.png";
+    QTest::newRow("capital letters") << "movie1.MOV"
+                                     << "movie1.MOV";
     QTest::newRow("nothing") << QString() << QString();
 }
 
