@@ -245,7 +245,6 @@ void LiveVideoWidget::ContinuesShot(int max)
 {
     m_shotCount = 0;
     m_maximumShots = max;
-    m_shotList.clear();
     m_shotTimer->start(kBurstIntervalMs);
 }
 
@@ -254,7 +253,6 @@ void LiveVideoWidget::execShot()
     // The bare name, unlike a photo's: a burst writes into the current folder.
     const QString name = WebcamUtil::CreatePhotofilename();
     m_engine.SaveBitmap(name);
-    m_shotList.append(name);
     ++m_shotCount;
     if (m_shotCount >= m_maximumShots) {
         m_shotTimer->stop();

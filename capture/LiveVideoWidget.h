@@ -116,7 +116,6 @@ private:
     QFrame *m_videoFrame; ///< the engine shows the picture in it
     bool m_videoValid = true;
     bool m_audioValid = true;
-    QStringList m_shotList; ///< names of the current burst's photos
 };
 
 #endif

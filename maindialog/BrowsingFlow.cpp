@@ -133,8 +133,6 @@ void CVistrelDlg::hiddenPictList()
 
 void CVistrelDlg::OnZoom(PictureWidget *pict)
 {
-    m_selectionRect = QRect(QPoint(0, 0), pict->size());
-    m_zoomedTilePosition = pict->pos();
     for (PictureWidget *tile : qAsConst(m_tiles))
         tile->hide();
     pict->Loadbmp(QString()); // its own file again, at full quality

@@ -226,7 +226,6 @@ void CVistrelDlg::InitialVal()
     m_seriesList.clear();
     m_displayMode = LiveMode;
     m_listKind = PhotoList;
-    m_selectionRect = QRect();
     // Pictures are never mirrored, whatever way the language reads.
     m_liveView->setLayoutDirection(Qt::LeftToRight);
     m_movieView->setLayoutDirection(Qt::LeftToRight);

@@ -279,8 +279,6 @@ private:
 
     ListKind m_listKind = PhotoList; ///< what "List" opens
     QVector<PictureWidget *> m_tiles;
-    QRect m_selectionRect; ///< size of the tile zoomed last, at (0, 0)
-    QPoint m_zoomedTilePosition;
 
     // --- SettingsFlow.cpp ------------------------------------------------------------------
     QString m_saveDirectory;
