@@ -45,7 +45,7 @@ public:
      */
     bool send(const QString &message, int timeoutMs);
 
-signals:
+Q_SIGNALS:
     /// In the first only: somebody's message has come in and was answered.
     void messageReceived(const QString &message);
 

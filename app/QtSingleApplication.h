@@ -28,7 +28,7 @@ public:
     /// True when this copy is known to be the first; of several copies one at most.
     bool isFirst();
 
-signals:
+Q_SIGNALS:
     /// In the first copy: another one has sent this.
     void messageReceived(const QString &message);
 

@@ -9,7 +9,8 @@ add_library(orvanta_options INTERFACE)
 target_compile_options(orvanta_options INTERFACE
     -Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
     $<$<BOOL:${ORVANTA_WERROR}>:-Werror>)
-target_compile_definitions(orvanta_options INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH)
+target_compile_definitions(orvanta_options INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH
+    QT_NO_KEYWORDS)
 if(ORVANTA_SANITIZE)
     target_compile_options(orvanta_options INTERFACE "-fsanitize=${ORVANTA_SANITIZE}")
     target_link_options(orvanta_options INTERFACE "-fsanitize=${ORVANTA_SANITIZE}")

@@ -12,7 +12,7 @@
 class TestCameraPipeline : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { QVERIFY(startGstreamer()); }
     void damagedPicturesAreLeftOut();
 

@@ -7,7 +7,7 @@
 class TestCapsModes : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void modesAreReadFromCaps_data();
     void modesAreReadFromCaps();

@@ -67,7 +67,7 @@ Q_DECLARE_METATYPE(DeviceRecord)
 class TestDeviceList : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void camerasAreListed_data();
     void camerasAreListed();
     void theOrderOfTheRecordsDoesNotMatter();

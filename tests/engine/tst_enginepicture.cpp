@@ -29,7 +29,7 @@ static void keepEngineLog(QtMsgType, const QMessageLogContext &context, const QS
 class TestEnginePicture : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();

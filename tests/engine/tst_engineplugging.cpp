@@ -13,7 +13,7 @@
 class TestEnginePlugging : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void fiftyLossesLeaveNothingBehind();
 };
 

@@ -29,7 +29,7 @@ Q_DECLARE_METATYPE(Operation)
 class TestEngineStates : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();

@@ -13,7 +13,7 @@
 class TestHangingServer : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase();
     void theListComesInTimeAndTheCamerasLater();

@@ -21,7 +21,7 @@ Q_DECLARE_METATYPE(CameraMode)
 class TestModeChooser : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void theBestModeIsChosen_data();
     void theBestModeIsChosen();
     void aCameraWithoutModesHasNoBestOne();

@@ -18,7 +18,7 @@ using std::chrono::steady_clock;
 class TestNewFile : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void aMissingFileIsMade();
     void whatIsThereIsLeftAsItIs_data();

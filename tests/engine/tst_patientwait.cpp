@@ -13,7 +13,7 @@ using std::chrono::steady_clock;
 class TestPatientWait : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void cleanup();
     void aShortWaitShowsNothing();
     void aLongWaitShowsTheCursorUntilTheOperationReturns();

@@ -33,7 +33,7 @@ static bool isNear(QRgb left, QRgb right)
 class TestPictureConverter : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { QVERIFY(startGstreamer()); }
     void coloursAndSizeComeOut_data();
     void coloursAndSizeComeOut();

@@ -7,7 +7,7 @@ using std::chrono::milliseconds;
 class TestSilenceWatch : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aCameraMayPauseForThreeSecondsOrFifteenFrames_data();
     void aCameraMayPauseForThreeSecondsOrFifteenFrames();
     void aFrameEndsThePause();

@@ -24,7 +24,7 @@ Q_DECLARE_METATYPE(Operation)
 class TestStandstill : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();

@@ -29,7 +29,7 @@ static QImage picture(const QSize &size)
 class TestStillWriter : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void theFileHoldsExactlyThePicture_data();

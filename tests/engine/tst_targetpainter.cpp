@@ -7,7 +7,7 @@
 class TestTargetPainter : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void theTargetIsBlackWithoutAPicture();

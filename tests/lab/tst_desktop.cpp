@@ -21,7 +21,7 @@ QPoint centreOf(const QWidget *widget)
 class TestDesktop : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void theScreenHasTheSizeTheLabWasAskedFor();

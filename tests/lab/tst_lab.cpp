@@ -153,7 +153,7 @@ int gapsIn(const QVector<int> &counters)
 class TestLab : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void theMachinesOwnDevicesAreNotLookedFor();
     void theCounterCanBeReadBackFromEveryFrame();

@@ -12,7 +12,7 @@
 class TestBesidePanels : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void theWindowFillsTheFreeAreaAndCoversNoPanel();
     void theWindowGoesThereByItself();

@@ -35,7 +35,7 @@ QString black(const QImage &picture)
 class TestBrowsing : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void photosAndMoviesAreListedApart();

@@ -18,7 +18,7 @@ bool labctl(const QStringList &arguments)
 class TestChoosingACamera : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void theMakersCameraIsOnTop();
     void theOtherCameraIsTheSecondEntry();

@@ -17,7 +17,7 @@ Q_DECLARE_METATYPE(Step)
 class TestEnding : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();

@@ -11,7 +11,7 @@
 class TestKeepingSettings : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void aChangedSettingActsAtOnceAndAfterARestart();

@@ -8,7 +8,7 @@
 class TestKeyboard : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void tabMarksAButtonAndSpacePressesIt();
     void theMouseLeavesNoMark();
 

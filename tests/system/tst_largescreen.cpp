@@ -10,7 +10,7 @@
 class TestLargeScreen : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void thePictureAndTheButtonsAreTwiceAsLarge();
     void aPhotoIsTakenAndHandedOverInItsSizeOnTheScreen();
 };

@@ -39,7 +39,7 @@ bool makeMovie(const QString &path)
 class TestLosingMidway : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void inTheMiddleOfASeries();

@@ -16,7 +16,7 @@ const char lostText[] = "The video device is invalid. Please confirm whether the
 class TestLosingTheCamera : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void theUserIsToldOnceAndOnlyListAndExitAreLeft();

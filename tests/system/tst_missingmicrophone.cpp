@@ -17,7 +17,7 @@ bool labctl(const QStringList &arguments)
 class TestMissingMicrophone : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void whatIsMissingIsToldOnce_data();
     void whatIsMissingIsToldOnce();
 

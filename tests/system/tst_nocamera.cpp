@@ -8,7 +8,7 @@
 class TestNoCamera : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void theUserIsToldAndOnlyListAndExitAreLeft();

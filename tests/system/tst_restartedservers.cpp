@@ -26,7 +26,7 @@ bool labctl(const QStringList &arguments)
 class TestRestartedServers : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void theProgramGoesOnAsIfTheCameraHadBeenUnplugged();
     void aServerThatHangsForEverDoesNotKeepTheProgramFromEnding();
 };

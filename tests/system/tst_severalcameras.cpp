@@ -9,7 +9,7 @@
 class TestSeveralCameras : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void theChosenCameraIsShown_data();
     void theChosenCameraIsShown();
     void afterTheChoiceTheWindowComesBackInFront();

@@ -9,7 +9,7 @@
 class TestShutterSound : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aPhotoIsHeard();
     void eachPhotoOfASeriesIsHeard();
 };

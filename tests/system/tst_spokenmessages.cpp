@@ -8,7 +8,7 @@
 class TestSpokenMessages : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aMissingCameraIsToldInTheLanguage_data();
     void aMissingCameraIsToldInTheLanguage();
     void cleanup();

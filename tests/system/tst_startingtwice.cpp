@@ -11,7 +11,7 @@
 class TestStartingTwice : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void theSecondStartEndsSoonAndShowsNothing();
     void theSecondStartEndsWhileTheFirstAsksSomething();
     void theSecondStartEndsInAnotherSession();

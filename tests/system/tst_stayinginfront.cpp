@@ -10,7 +10,7 @@
 class TestStayingInFront : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void theWindowComesBackWithinASecond();

@@ -23,7 +23,7 @@ int momentOf(const QString &photo)
 class TestTakingASeries : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void cleanup();
     void timedPhotosComeOnTimeAndTheNextSeriesFollowsNewSettings();
     void liveDuringASeriesKeepsItsPhotos();

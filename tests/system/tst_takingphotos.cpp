@@ -10,7 +10,7 @@
 class TestTakingPhotos : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void cleanup();
     void theWindowCoversTheScreenAndShowsTheCamera();

@@ -9,7 +9,7 @@
 class TestTwoScreens : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void theWindowFillsThePrimaryScreenAlone();
     void aMessageCanBeReadInWholeAndConfirmed();

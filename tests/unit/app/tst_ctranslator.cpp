@@ -28,7 +28,7 @@ bool touch(const QString &path)
 class tst_CTranslator : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
 
     void theLanguageIsTheWhiteboardsAsFarAsThereIsAFile_data();

@@ -50,7 +50,7 @@ private:
 class tst_InstanceChannel : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
 
     void theFirstToAskIsTheFirst();

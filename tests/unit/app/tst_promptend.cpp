@@ -5,7 +5,7 @@
 class tst_PromptEnd : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aStuckLibraryDoesNotKeepTheProcess();
     void theProcessHasItsTimeToEndByItself();
 };

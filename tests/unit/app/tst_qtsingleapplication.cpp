@@ -61,7 +61,7 @@ private:
 class tst_QtSingleApplication : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
 
     void aSecondCopyEndsWithZeroAndTheFirstStaysAsItWas();

@@ -11,7 +11,7 @@
 class tst_SignalWatcher : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aSignalClosesTheWindowFromTheEventLoop_data();
     void aSignalClosesTheWindowFromTheEventLoop();
     void boxesAreClosedBeforeTheWindow();

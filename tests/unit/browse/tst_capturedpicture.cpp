@@ -6,7 +6,7 @@
 class TestCapturedPicture : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aPhotoIsLoadedPixelForPixel();
     void aPhotoWrittenAgainIsNotRemembered();
     void whatIsNoPictureIsNull_data();

@@ -26,7 +26,7 @@ QByteArray position(const MovieWidget &player)
 class TestMovieWidget : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
 
     void aFreshWidgetIsComplete();

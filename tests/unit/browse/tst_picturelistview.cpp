@@ -53,7 +53,7 @@ struct Strip {
 class TestPictureListView : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
 
     void theSameNameTwiceIsOnePicture();

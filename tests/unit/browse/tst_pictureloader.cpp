@@ -29,7 +29,7 @@ QString photo(int number)
 class TestPictureLoader : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void pixelsAreThoseOfAPixmapScaledOneByOne_data();
     void pixelsAreThoseOfAPixmapScaledOneByOne();
     void everyPictureIsDeliveredOnce();

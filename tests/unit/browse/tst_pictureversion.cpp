@@ -29,7 +29,7 @@ bool backdate(const QString &path, qint64 nanoseconds)
 class TestPictureVersion : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void anUntouchedFileStaysTheSame();
     void anotherTimeSizeOrNameIsAnotherVersion();
     void aMissingFileHasNoBytes();

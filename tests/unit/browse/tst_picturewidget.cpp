@@ -49,7 +49,7 @@ QImage stripes(QSize size)
 class TestPictureWidget : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void anEmptyNameLoadsTheSameFileAgain();
     void afterReleaseTheWidgetIsBlackWithoutCaption();

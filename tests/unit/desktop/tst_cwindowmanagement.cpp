@@ -65,7 +65,7 @@ constexpr int never = 60000; // ms, a period in which no step falls into a test
 class tst_CWindowManagement : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init() { FakeXlib::reset(); }
 
     void withoutAWidgetNothingEverHappens();

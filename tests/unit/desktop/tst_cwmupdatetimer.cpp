@@ -18,7 +18,7 @@ public:
 class tst_CWMUpdateTimer : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void ticksFromConstructionOn();
     void stoppedItTicksNoMore();
     void startingAgainReplacesTheOldPeriod();

@@ -30,7 +30,7 @@ public:
 class tst_RaisedWindow : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase() { QVERIFY(m_desktop.isOpen()); }
 
     void aWindowComesBackInFrontOfTheOneThatCoversIt();

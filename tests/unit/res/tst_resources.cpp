@@ -90,7 +90,7 @@ QRgb faceColour(const QImage &image)
 class TestResources : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void everyBitmapLoadsInItsDecidedSize_data();
     void everyBitmapLoadsInItsDecidedSize();
     void theThreeStatesOfAButtonDifferVisibly_data() { buttonRows(); }

@@ -28,7 +28,7 @@ mode_t modeOf(const QString &path)
 class tst_PrivateFolder : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void init();
     void aMissingFolderIsMadeForThisUserOnly();
     void missingParentsAreMade();

@@ -48,7 +48,7 @@ struct RightToLeft {
 class TestCStretchBitmapButton : public QObject {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void aBitmapIsShrunkToASixthOfTheScreenAndNeverEnlarged_data();
     void aBitmapIsShrunkToASixthOfTheScreenAndNeverEnlarged();
     void captionsShrinkOnNarrowScreens_data();
