@@ -1,9 +1,10 @@
 #include "InstanceChannel.h"
 
+#include "AppLog.h"
+
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QLocalSocket>
-#include <QLoggingCategory>
 #include <QThread>
 #include <QTimer>
 #include <QtEndian>
@@ -11,8 +12,6 @@
 
 #include <sys/socket.h>
 #include <sys/un.h>
-
-Q_LOGGING_CATEGORY(logApp, "orvanta.app", QtCriticalMsg)
 
 namespace {
 
@@ -106,7 +105,7 @@ void InstanceChannel::listen()
     QLocalServer::removeServer(m_socketPath);
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     if (!m_server.listen(m_socketPath))
-        qCWarning(logApp) << "no other copy can be answered:" << m_server.errorString();
+        qCWarning(appLog) << "no other copy can be answered:" << m_server.errorString();
 }
 
 void InstanceChannel::welcomeClients()
@@ -131,7 +130,7 @@ void InstanceChannel::readFrom(QLocalSocket *client)
         return;
     const quint32 length = qFromBigEndian<quint32>(client->peek(headerBytes).constData());
     if (length > maxMessageBytes) {
-        qCWarning(logApp) << "a client announced a message of" << length << "bytes";
+        qCWarning(appLog) << "a client announced a message of" << length << "bytes";
         client->deleteLater();
         return;
     }

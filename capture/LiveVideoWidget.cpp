@@ -1,21 +1,15 @@
 #include "LiveVideoWidget.h"
 
+#include "CaptureLog.h"
 #include "GreenCaption.h"
 #include "WebcamUtil.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLoggingCategory>
 #include <QTimer>
 
-namespace {
-
-Q_LOGGING_CATEGORY(lcCapture, "orvanta.capture", QtWarningMsg)
-
-constexpr int kBurstIntervalMs = 5000;
-
-} // namespace
+static constexpr int burstInterval = 5000; // ms between two photos of a burst
 
 LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags f)
     : QWidget(parent, f)
@@ -103,7 +97,7 @@ void LiveVideoWidget::Create()
     m_audioValid = true;
     if (!m_videoValid) {
         // The window reports a missing camera later and in its own words, so no message here.
-        qCDebug(lcCapture) << tr("Cannot find Video Devices.");
+        qCInfo(captureLog) << tr("Cannot find Video Devices.");
     }
 }
 
@@ -245,7 +239,7 @@ void LiveVideoWidget::ContinuesShot(int max)
 {
     m_shotCount = 0;
     m_maximumShots = max;
-    m_shotTimer->start(kBurstIntervalMs);
+    m_shotTimer->start(burstInterval);
 }
 
 void LiveVideoWidget::execShot()

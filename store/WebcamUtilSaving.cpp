@@ -2,15 +2,13 @@
 
 #include "FileMove.h"
 #include "OpenFolder.h"
+#include "StoreLog.h"
 #include "WebcamUtil.h"
 
 #include <QFile>
 #include <QGuiApplication>
-#include <QLoggingCategory>
 
 #include <unistd.h>
-
-Q_LOGGING_CATEGORY(logStore, "orvanta.store", QtWarningMsg)
 
 namespace {
 
@@ -28,7 +26,7 @@ bool WebcamUtil::saveData(const QString &target, const QDateTime &moment)
     const QString path = CreateSavePath(target, moment);
     const OpenFolder folder(path);
     if (path.isEmpty() || !folder.isOpen()) {
-        qCWarning(logStore) << "cannot make the day's folder below" << target;
+        qCWarning(storeLog) << "cannot make the day's folder below" << target;
         return false;
     }
     // Without an area the list is that of a foreign folder, and nothing there is touched.
@@ -45,7 +43,7 @@ bool WebcamUtil::saveData(const QString &target, const QDateTime &moment)
     for (const FolderFile &file : files) {
         if (!isCaptured(file.name.constData()) || moveFile(area, folder, file.name))
             continue;
-        qCWarning(logStore) << "cannot save" << file.name << "to" << path;
+        qCWarning(storeLog) << "cannot save" << file.name << "to" << path;
         areSaved = false;
     }
     return folder.flush() && areSaved;
