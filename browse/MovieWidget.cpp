@@ -11,12 +11,9 @@
 #include <phonon/mediaobject.h>
 #include <phonon/mediasource.h>
 
-namespace {
-
-// How often the player tells its position: soon enough that nobody sees the still picture linger.
-constexpr int positionIntervalMs = 40;
-
-} // namespace
+// ms between two positions that the player tells: a frame of a movie at 25 fps, so that nobody sees
+// the still picture linger.
+static constexpr int positionInterval = 40;
 
 /** A movie's still picture on black, as large as fits, like the movie's own pictures. */
 class MovieWidget::StillPicture : public QWidget {
@@ -94,7 +91,7 @@ void MovieWidget::showStillPicture(const QString &movie)
     m_stillPicture->setGeometry(rect());
     m_stillPicture->loadLater(WebcamUtil::stillNameOf(movie));
     m_stillPicture->show();
-    mediaObject()->setTickInterval(positionIntervalMs);
+    mediaObject()->setTickInterval(positionInterval);
     connect(mediaObject(), &Phonon::MediaObject::tick, this, &MovieWidget::hideStillPicture,
             Qt::UniqueConnection);
 }

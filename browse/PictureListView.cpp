@@ -7,12 +7,8 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 
-namespace {
-
-constexpr int maximalSelection = 9;
-constexpr int tileSpacing = 10; // px
-
-} // namespace
+static constexpr int maximalSelection = 9; // as many as the window shows side by side
+static constexpr int tileSpacing = 10; // px
 
 PictureListView::PictureListView(QWidget *parent)
     : QListWidget(parent)

@@ -7,15 +7,13 @@
 
 #include <utility>
 
-namespace {
+// KB of pictures that are kept: the thumbnails of several visits to the strip, and nine tiles of a
+// Full-HD screen.
+static constexpr int mostKept = 32 * 1024;
 
-constexpr int mostKept = 32 * 1024; // KB
-
-// Workers that are done wait for the window to take their picture; with these at hand the
-// processors need not wait meanwhile.
-constexpr int stepsAhead = 2;
-
-} // namespace
+// Pictures decoded beyond one a processor. Workers that are done wait for the window to take their
+// picture; with these at hand the processors need not wait meanwhile.
+static constexpr int stepsAhead = 2;
 
 bool operator==(const PictureLoader::Key &left, const PictureLoader::Key &right)
 {

@@ -10,10 +10,10 @@
 
 namespace {
 
-constexpr int kWidthPx = 200;
+constexpr int dialogWidth = 200; // px
 
-// Far lighter than normal text (50), as the other texts of the program are.
-constexpr int kHairlineWeight = 5;
+// Of the normal 50, on the toolkit's scale from 0 to 99: the font's thinnest, like the other texts.
+constexpr int hairlineWeight = 5;
 
 QString ownCameraModel()
 {
@@ -41,7 +41,7 @@ SelectDeviceDlg::SelectDeviceDlg(QWidget *parent)
     setWindowFlags(chooserFlags(windowFlags()));
     setModal(true);
 
-    const QFont font(QStringLiteral("Arial"), 11, kHairlineWeight, false);
+    const QFont font(QStringLiteral("Arial"), 11, hairlineWeight, false);
     m_promptLabel->setFont(font);
     m_okButton->setFont(font);
 
@@ -57,14 +57,14 @@ SelectDeviceDlg::SelectDeviceDlg(QWidget *parent)
     column->addWidget(m_promptLabel);
     column->addWidget(m_deviceBox);
     column->addWidget(m_okButton);
-    setFixedWidth(kWidthPx);
+    setFixedWidth(dialogWidth);
 
     connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
 }
 
 QSize SelectDeviceDlg::sizeHint() const
 {
-    return {kWidthPx, layout()->totalHeightForWidth(kWidthPx)};
+    return {dialogWidth, layout()->totalHeightForWidth(dialogWidth)};
 }
 
 void SelectDeviceDlg::setVideoDeviceList(const QStringList &names)

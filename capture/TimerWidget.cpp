@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int kTickMs = 1000;
-constexpr int kLongestRecordingS = 600;
+constexpr int tick = 1000; // ms
+constexpr int longestRecording = 600; // s
 
 QString twoDigits(int number)
 {
@@ -20,7 +20,7 @@ QString twoDigits(int number)
 
 TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags f)
     : QLabel(parent, f)
-    , m_timeLimit(kLongestRecordingS)
+    , m_timeLimit(longestRecording)
     , m_tickTimer(new QTimer(this))
 {
     setAutoFillBackground(true);
@@ -31,7 +31,7 @@ TimerWidget::TimerWidget(QWidget *parent, Qt::WindowFlags f)
 
     // Only a precise timer keeps to the schedule it began with; a coarse one may be 5 % off.
     m_tickTimer->setTimerType(Qt::PreciseTimer);
-    m_tickTimer->setInterval(kTickMs);
+    m_tickTimer->setInterval(tick);
     connect(m_tickTimer, &QTimer::timeout, this, &TimerWidget::showtime);
 }
 

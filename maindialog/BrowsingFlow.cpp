@@ -14,9 +14,9 @@
 
 namespace {
 
-constexpr int mostPhotosInStrip = 50;
+constexpr int mostPhotosInStrip = 50; // the newest; older ones are kept and saved all the same
 constexpr int mostMoviesInStrip = 25;
-constexpr int mostTiles = 9;
+constexpr int mostTiles = 9; // three rows of three
 
 // The newest of a list that is sorted oldest first.
 QStringList lastOf(const QStringList &names, int most)

@@ -16,11 +16,7 @@
 #include <QPalette>
 #include <QScreen>
 
-namespace {
-
-constexpr int raisePeriod = 500; // ms between two looks at who is in front
-
-}
+static constexpr int raisePeriod = 500; // ms between two looks at who is in front
 
 // A button: the stem of its three bitmaps, which is its object name as well, its caption, what it
 // tells a screen reader, and the slot that a click runs.

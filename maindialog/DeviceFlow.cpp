@@ -10,11 +10,7 @@
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
 
-namespace {
-
-constexpr int raisePeriodAfterChoice = 500; // ms
-
-}
+static constexpr int raisePeriodAfterChoice = 500; // ms, as before the chooser stopped the raising
 
 bool CVistrelDlg::selectVideoDevice()
 {

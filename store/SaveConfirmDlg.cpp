@@ -8,11 +8,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-namespace {
-
-constexpr int discard = -1;
-
-} // namespace
+static constexpr int discard = -1; // beside the toolkit's own results, 0 and 1
 
 SaveConfirmDlg::SaveConfirmDlg(QWidget *parent, Qt::WindowFlags flags)
     : QDialog(parent, flags)

@@ -41,11 +41,7 @@ private:
     std::unique_ptr<Session> m_user;
 };
 
-namespace {
-
-constexpr int busy = 1500; // ms that a busy machine may add
-
-} // namespace
+static constexpr int busy = 1500; // ms that a busy machine may add
 
 void TestEnding::initTestCase()
 {

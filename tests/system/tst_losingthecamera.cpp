@@ -4,13 +4,9 @@
 
 #include <memory>
 
-namespace {
-
 // With its trailing blank.
-const char lostText[] = "The video device is invalid. Please confirm whether the device is "
-                        "correctly connected. ";
-
-} // namespace
+static const char lostText[] = "The video device is invalid. Please confirm whether the device is "
+                               "correctly connected. ";
 
 // The camera's cable is pulled while the program runs.
 class TestLosingTheCamera : public QObject {

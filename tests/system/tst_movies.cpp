@@ -14,11 +14,7 @@
 #include <phonon/mediaobject.h>
 #include <phonon/videoplayer.h>
 
-namespace {
-
-constexpr int kPatienceMs = 10000;
-
-} // namespace
+static constexpr int patienceMs = 10000;
 
 class MoviesTest : public QObject {
     Q_OBJECT
@@ -103,25 +99,25 @@ void MoviesTest::aMovieIsRecordedAndPlayedTwice()
         QTRY_VERIFY_WITH_TIMEOUT(timeLineSays(user, "00:00/00:03")
                                      || timeLineSays(user, "00:00/00:04")
                                      || timeLineSays(user, "00:00/00:05"),
-                                 kPatienceMs);
+                                 patienceMs);
         QVERIFY(user.waitForPressable(WindowMap::PlayingScreen,
                                       {"Live", "MoviePause", "List", "Close"}));
-        QTRY_VERIFY_WITH_TIMEOUT(user.counterAt(picture) > 0, kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(user.counterAt(picture) > 0, patienceMs);
         if (showing == 0) {
             user.press(WindowMap::PlayingScreen, "MoviePause");
             QVERIFY(user.waitForPressable(WindowMap::MovieScreen,
                                           {"Live", "MoviePlay", "List", "Close"}));
-            QTRY_VERIFY_WITH_TIMEOUT(user.isStillAt(picture), kPatienceMs);
+            QTRY_VERIFY_WITH_TIMEOUT(user.isStillAt(picture), patienceMs);
             user.press(WindowMap::MovieScreen, "MoviePlay");
         }
         // Its end brings "Play" back.
         QTRY_VERIFY_WITH_TIMEOUT(
             user.map().look(user.desktop().screenshot(), WindowMap::MovieScreen, "MoviePlay")
                 == WindowMap::Up,
-            kPatienceMs);
+            patienceMs);
     }
     QVERIFY(user.pressWhenReady(WindowMap::MovieScreen, "Live"));
-    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(picture), kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(picture), patienceMs);
 }
 
 void MoviesTest::theFirstPictureStandsBeforePlayAndAfterTheEnd()
@@ -136,12 +132,12 @@ void MoviesTest::theFirstPictureStandsBeforePlayAndAfterTheEnd()
     const QString still = QString(movies(user).first()).replace(".mov", "tmp.png");
     const int first = LabPattern::counterOf(QImage(still));
     QVERIFY(first >= 0);
-    QTRY_COMPARE_WITH_TIMEOUT(user.counterAt(picture), first, kPatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(user.counterAt(picture), first, patienceMs);
     user.press(WindowMap::MovieScreen, "MoviePlay");
-    QTRY_VERIFY_WITH_TIMEOUT(user.counterAt(picture) > first + 15, kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(user.counterAt(picture) > first + 15, patienceMs);
     QVERIFY(
         user.waitForPressable(WindowMap::PlayingScreen, {"Live", "MoviePause", "List", "Close"}));
-    QTRY_COMPARE_WITH_TIMEOUT(user.counterAt(picture), first, kPatienceMs);
+    QTRY_COMPARE_WITH_TIMEOUT(user.counterAt(picture), first, patienceMs);
     QVERIFY(user.waitForPressable(WindowMap::MovieScreen, {"Live", "MoviePlay", "List", "Close"}));
 }
 
@@ -176,7 +172,7 @@ void MoviesTest::rubbishInPlaceOfAMovieHangsNothing()
     QVERIFY(showTheMovie(WindowMap::MovieListScreen));
     QVERIFY(user.pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
     QVERIFY(user.pressWhenReady(WindowMap::PlayingScreen, "Live"));
-    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(map.videoRect()), kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(map.videoRect()), patienceMs);
     QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "Movie")); // and a real one can be made
     QVERIFY(user.waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
 }
@@ -207,7 +203,7 @@ void MoviesTest::aMovieSurvivesTheEndOfTheProgram()
 
     Phonon::VideoPlayer player(Phonon::VideoCategory);
     player.play(Phonon::MediaSource(QUrl::fromLocalFile(movies(user).first())));
-    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.totalTime() > 0, kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.totalTime() > 0, patienceMs);
     QVERIFY2(player.totalTime() > 2200 && player.totalTime() < 6000,
              qPrintable(QString::number(player.totalTime())));
     player.stop();

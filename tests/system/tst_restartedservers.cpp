@@ -12,7 +12,7 @@ namespace {
 const char lostText[] = "The video device is invalid. Please confirm whether the device is "
                         "correctly connected. ";
 
-constexpr int kPatienceMs = 10000;
+constexpr int patienceMs = 10000;
 
 bool labctl(const QStringList &arguments)
 {
@@ -50,7 +50,7 @@ void TestRestartedServers::theProgramGoesOnAsIfTheCameraHadBeenUnplugged()
     QTRY_COMPARE(area.entryList({"movie*.mov"}, QDir::Files).size(), 1);
 
     user.program().terminate();
-    QVERIFY(user.program().hasEndedWithin(kPatienceMs));
+    QVERIFY(user.program().hasEndedWithin(patienceMs));
     QVERIFY(!user.program().hasCrashed());
 }
 
@@ -67,9 +67,9 @@ void TestRestartedServers::aServerThatHangsForEverDoesNotKeepTheProgramFromEndin
     QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "List"));
     QVERIFY(user.pressWhenReady(WindowMap::ListScreen, "Live"));
     QTRY_VERIFY_WITH_TIMEOUT(user.waitForPressable(WindowMap::LiveScreen, {"List", "Close"}),
-                             2 * kPatienceMs);
+                             2 * patienceMs);
     user.program().terminate();
-    const bool hasEnded = user.program().hasEndedWithin(kPatienceMs);
+    const bool hasEnded = user.program().hasEndedWithin(patienceMs);
     QVERIFY(labctl({"wake-media-server"}));
     QVERIFY(hasEnded);
     QVERIFY(!user.program().hasCrashed());

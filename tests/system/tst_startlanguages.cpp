@@ -16,7 +16,7 @@
 namespace {
 
 // Long for a person, but the machine may be building something else meanwhile.
-constexpr int kPatienceMs = 30000;
+constexpr int patienceMs = 30000;
 
 /// The program and all that lies beside it, in a folder that a test may add to and take from. As
 /// further names of the same files: copies of the program for each start keep a disk busy.
@@ -88,7 +88,7 @@ void StartLanguagesTest::startWith(const QString &stored, const QString &missing
     m_program->setLanguage(stored);
     m_program->start();
     QTRY_VERIFY2_WITH_TIMEOUT(isOnTop(QStringLiteral("Orvanta")), qPrintable(m_program->output()),
-                              kPatienceMs);
+                              patienceMs);
 }
 
 /// As a person does it who sees that nothing happens: the first press on a window that has just
@@ -98,7 +98,7 @@ bool StartLanguagesTest::pressUntil(QPoint place, const std::function<bool()> &h
     constexpr int presses = 5;
     for (int i = 0; i < presses; ++i) {
         m_desktop.click(place);
-        if (QTest::qWaitFor(hasHappened, kPatienceMs / presses))
+        if (QTest::qWaitFor(hasHappened, patienceMs / presses))
             return true;
     }
     return false;
@@ -158,7 +158,7 @@ void StartLanguagesTest::speaksTheWhiteboardsLanguage()
     QVERIFY(m_program->isRunning());
     QVERIFY(pressUntil(middleOfSmallButton(1), [&] { return isOnTop(settings); }));
     m_desktop.pressKey("Escape");
-    QTRY_VERIFY_WITH_TIMEOUT(isOnTop(QStringLiteral("Orvanta")), kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(isOnTop(QStringLiteral("Orvanta")), patienceMs);
 }
 
 void StartLanguagesTest::theSaveQuestionReadsInTheDirectionOfTheLanguage_data()
@@ -190,11 +190,11 @@ void StartLanguagesTest::theSaveQuestionReadsInTheDirectionOfTheLanguage()
     const QRect question = top.geometry;
     m_desktop.click(question.bottomRight() - QPoint(question.width() / 6, 22));
     if (isRightToLeft) {
-        QTRY_VERIFY_WITH_TIMEOUT(!m_program->isRunning(), kPatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_program->isRunning(), patienceMs);
         QVERIFY(!QFile::exists(photo));
         QVERIFY(!QDir(m_program->saveFolder()).isEmpty());
     } else {
-        QTRY_COMPARE_WITH_TIMEOUT(m_desktop.topWindowOf(m_program->pid()).id, window, kPatienceMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_desktop.topWindowOf(m_program->pid()).id, window, patienceMs);
         QVERIFY(m_program->isRunning());
         QVERIFY(QFile::exists(photo));
     }

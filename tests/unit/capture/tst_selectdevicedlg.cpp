@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kPatienceMs = 5000; // then a dialog that does not close is closed the wrong way
+constexpr int patienceMs = 5000; // then a dialog that does not close is closed the wrong way
 
 QComboBox *boxOf(const SelectDeviceDlg &dialog)
 {
@@ -106,7 +106,7 @@ void SelectDeviceDlgTest::okAccepts()
     hand.start(0);
     QTimer patience;
     connect(&patience, &QTimer::timeout, &dialog, &QDialog::reject);
-    patience.start(kPatienceMs);
+    patience.start(patienceMs);
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
 }
 
@@ -120,7 +120,7 @@ void SelectDeviceDlgTest::closingRejects()
     hand.start(0);
     QTimer patience;
     connect(&patience, &QTimer::timeout, &dialog, &QDialog::accept);
-    patience.start(kPatienceMs);
+    patience.start(patienceMs);
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
     QVERIFY(closed);
 }

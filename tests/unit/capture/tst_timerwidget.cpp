@@ -9,7 +9,7 @@
 
 namespace {
 
-const QString kNothing;
+const QString nothing;
 
 QTimer *clockOf(const TimerWidget &widget)
 {
@@ -69,10 +69,10 @@ void TimerWidgetTest::beginsIdleEmptyAndNotTicking()
     QSignalSpy set(&widget, &TimerWidget::set);
     QSignalSpy over(&widget, &TimerWidget::movieTimeOver);
     QVERIFY(!clockOf(widget)->isActive());
-    QCOMPARE(widget.text(), kNothing);
+    QCOMPARE(widget.text(), nothing);
     widget.run();
     tick(widget);
-    QCOMPARE(widget.text(), kNothing);
+    QCOMPARE(widget.text(), nothing);
     QCOMPARE(shot.count() + set.count() + over.count(), 0);
 }
 
@@ -113,7 +113,7 @@ void TimerWidgetTest::showsThreeTwoOneThenTakesThePhotoAndStartsOver()
     QCOMPARE(widget.text(), QStringLiteral(" 1 second to capture"));
     QCOMPARE(shot.count(), 0);
     tick(widget);
-    QCOMPARE(widget.text(), kNothing);
+    QCOMPARE(widget.text(), nothing);
     QCOMPARE(shot.count(), 1);
     tick(widget);
     QCOMPARE(widget.text(), QStringLiteral(" 3 second to capture"));
@@ -144,7 +144,7 @@ void TimerWidgetTest::aCountOfZeroTakesAPhotoOnEveryTick()
     QCOMPARE(shot.count(), 1);
     tick(widget, 2);
     QCOMPARE(shot.count(), 3);
-    QCOMPARE(widget.text(), kNothing);
+    QCOMPARE(widget.text(), nothing);
 }
 
 void TimerWidgetTest::aCountStartedWhileIdleShowsItsFirstNumberATickLater()
@@ -153,7 +153,7 @@ void TimerWidgetTest::aCountStartedWhileIdleShowsItsFirstNumberATickLater()
     widget.setcount(3);
     widget.run();
     widget.SetMode(TimerCountdown);
-    QCOMPARE(widget.text(), kNothing);
+    QCOMPARE(widget.text(), nothing);
     QVERIFY(widget.isHidden());
     tick(widget);
     QCOMPARE(widget.text(), QStringLiteral(" 3 second to capture"));
@@ -260,7 +260,7 @@ void TimerWidgetTest::asksForThePlayingTimeOnRunAndOnEveryTick()
     QCOMPARE(set.count(), 1);
     tick(widget, 3);
     QCOMPARE(set.count(), 4);
-    QCOMPARE(widget.text(), kNothing);
+    QCOMPARE(widget.text(), nothing);
 }
 
 void TimerWidgetTest::doesNothingWhileIdle()
@@ -273,7 +273,7 @@ void TimerWidgetTest::doesNothingWhileIdle()
     tick(widget, 2);
     QVERIFY(clockOf(widget)->isActive());
     QCOMPARE(shot.count(), 0);
-    QCOMPARE(widget.text(), kNothing);
+    QCOMPARE(widget.text(), nothing);
 }
 
 void TimerWidgetTest::resetEndsTheJob()
@@ -284,9 +284,9 @@ void TimerWidgetTest::resetEndsTheJob()
     widget.run();
     widget.reset();
     QVERIFY(!clockOf(widget)->isActive());
-    QCOMPARE(widget.text(), kNothing);
+    QCOMPARE(widget.text(), nothing);
     widget.run();
-    QCOMPARE(widget.text(), kNothing); // idle now: no number
+    QCOMPARE(widget.text(), nothing); // idle now: no number
 }
 
 void TimerWidgetTest::aNewModeIsHiddenEmptyAndAsWideAsItsLongestText_data()
@@ -312,7 +312,7 @@ void TimerWidgetTest::aNewModeIsHiddenEmptyAndAsWideAsItsLongestText()
 
     widget.SetMode(mode);
     QVERIFY(widget.isHidden());
-    QCOMPARE(widget.text(), kNothing);
+    QCOMPARE(widget.text(), nothing);
     QCOMPARE(widget.size(), ruler.sizeHint());
     const int screenWidth = QGuiApplication::primaryScreen()->availableGeometry().width();
     QCOMPARE(widget.pos(), QPoint(screenWidth - ruler.sizeHint().width(), 34));

@@ -10,18 +10,14 @@
 #include <QSignalSpy>
 #include <QTest>
 
-namespace {
-
 // Places on the 800x600 screen, worked out by hand from the artwork's 640x288 and 640x144.
-const QStringList liveRow{
+static const QStringList liveRow{
     QStringLiteral("Live 1,541 133x59"),         QStringLiteral("Photo 134,541 133x59"),
     QStringLiteral("PhotoMulti 267,541 133x59"), QStringLiteral("Movie 400,541 133x59"),
     QStringLiteral("List 533,541 133x59"),       QStringLiteral("Settings 667,542 133x29"),
     QStringLiteral("Close 667,571 133x29"),
 };
-const QString closePlace = QStringLiteral("Close 667,571 133x29");
-
-} // namespace
+static const QString closePlace = QStringLiteral("Close 667,571 133x29");
 
 /** Each screen's exact set of buttons: shown where, and which of them can be pressed. */
 class DisplayModesTest : public QObject {

@@ -12,11 +12,7 @@
 #include <QTimer>
 #include <QTouchDevice>
 
-namespace {
-
-constexpr int patience = 10000; // ms
-
-} // namespace
+static constexpr int patience = 10000; // ms
 
 /** Recording a movie, up to where it is ready to be played. */
 class MovieFlowTest : public QObject {

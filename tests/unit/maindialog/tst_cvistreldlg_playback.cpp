@@ -10,11 +10,7 @@
 #include <QTest>
 #include <phonon/mediaobject.h>
 
-namespace {
-
-constexpr int patience = 10000; // ms
-
-} // namespace
+static constexpr int patience = 10000; // ms
 
 /** Playing a movie that was just recorded, or is shown from the list. */
 class PlaybackTest : public QObject {

@@ -13,7 +13,7 @@
 
 namespace {
 
-const QDateTime kLesson({2009, 3, 4}, {9, 5, 7});
+const QDateTime lesson({2009, 3, 4}, {9, 5, 7});
 
 /** No valid UTF-8, as of a file that came from a machine of another time. */
 const QByteArray notText("photo2\xff\xe4.png");
@@ -75,9 +75,9 @@ void FileMoveTest::aNameThatIsNoTextIsSavedAsItIs()
         QVERIFY2(elsewhere->isOther(), "needs a second file system at /dev/shm");
     }
     const QString area = WebcamUtil::getTemporaryPath();
-    QVERIFY(StoreFolders::write(area + "/photo1.png", "older", kLesson));
+    QVERIFY(StoreFolders::write(area + "/photo1.png", "older", lesson));
     QVERIFY(writeBytes(area, notText, "newer"));
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     const QString saved = folders.target() + "/TavelinCamera/20090304";
     QCOMPARE(StoreFolders::read(saved + "/photo1.png"), QByteArray("older"));
     QCOMPARE(readBytes(saved, notText), QByteArray("newer"));
@@ -121,12 +121,12 @@ void FileMoveTest::aDiskThatIsFullOnlyAtTheEndLosesNothing()
             isStillThere = QFile::exists(photo);
             return path.endsWith(told) ? ENOSPC : 0;
         };
-        QVERIFY(!WebcamUtil::saveData(folders.target(), kLesson));
+        QVERIFY(!WebcamUtil::saveData(folders.target(), lesson));
     }
     QVERIFY(isStillThere);
     QCOMPARE(StoreFolders::read(photo), QByteArray("a photo"));
     QCOMPARE(filesIn(saved), QStringList());
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(StoreFolders::read(saved + "/photo1.png"), QByteArray("a photo"));
 }
 
@@ -142,7 +142,7 @@ void FileMoveTest::thePhotoIsOnTheDiskBeforeItIsMoved()
             flushed << path;
             return EIO;
         };
-        QVERIFY(!WebcamUtil::saveData(folders.target(), kLesson));
+        QVERIFY(!WebcamUtil::saveData(folders.target(), lesson));
         QVERIFY(flushed.contains(QFile::encodeName(photo)));
         QCOMPARE(StoreFolders::read(photo), QByteArray("a photo"));
 
@@ -151,7 +151,7 @@ void FileMoveTest::thePhotoIsOnTheDiskBeforeItIsMoved()
             return 0;
         };
         flushed.clear();
-        QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+        QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     }
     // First what is in it, and in the end where it is now.
     const QString saved = folders.target() + "/TavelinCamera/20090304";
@@ -166,7 +166,7 @@ void FileMoveTest::aDiskThatKnowsNoFlushingIsWrittenAllTheSame()
     QVERIFY(StoreFolders::write(WebcamUtil::getTemporaryPath() + "/photo1.png", "a photo"));
     const FakeDisk disk;
     FakeDisk::onFlush = [](const QByteArray &) { return EINVAL; };
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(filesIn(folders.target() + "/TavelinCamera/20090304"), QStringList("photo1.png"));
 }
 
@@ -176,10 +176,10 @@ void FileMoveTest::aCapturedFileThatCannotBeRemovedIsAFailure()
     QVERIFY(user.isOrdinary());
     const FoldersForAll folders;
     const QString area = WebcamUtil::getTemporaryPath();
-    QVERIFY(StoreFolders::write(area + "/photo1.png", "older", kLesson));
+    QVERIFY(StoreFolders::write(area + "/photo1.png", "older", lesson));
     QVERIFY(StoreFolders::write(area + "/photo2.png", "newer"));
     QCOMPARE(chmod(QFile::encodeName(area).constData(), 0500), 0);
-    const bool saved = WebcamUtil::saveData(folders.target(), kLesson);
+    const bool saved = WebcamUtil::saveData(folders.target(), lesson);
     QCOMPARE(chmod(QFile::encodeName(area).constData(), 0700), 0);
     QVERIFY(!saved);
     QCOMPARE(filesIn(area), QStringList({"photo1.png", "photo2.png"}));
@@ -187,7 +187,7 @@ void FileMoveTest::aCapturedFileThatCannotBeRemovedIsAFailure()
     const QString day = folders.target() + "/TavelinCamera/20090304";
     QCOMPARE(StoreFolders::read(day + "/photo1.png"), QByteArray("older"));
     QCOMPARE(StoreFolders::read(day + "/photo2.png"), QByteArray("newer"));
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(filesIn(area), QStringList());
 }
 
@@ -197,12 +197,12 @@ void FileMoveTest::aReadOnlyDaysFolderLeavesAllFiles()
     QVERIFY(user.isOrdinary());
     const FoldersForAll folders;
     const QString area = WebcamUtil::getTemporaryPath();
-    QVERIFY(StoreFolders::write(area + "/photo1.png", "older", kLesson));
+    QVERIFY(StoreFolders::write(area + "/photo1.png", "older", lesson));
     QVERIFY(StoreFolders::write(area + "/photo2.png", "newer"));
     const QString day = folders.target() + "/TavelinCamera/20090304";
     QVERIFY(QDir().mkpath(day));
     QCOMPARE(chmod(QFile::encodeName(day).constData(), 0555), 0);
-    const bool saved = WebcamUtil::saveData(folders.target(), kLesson);
+    const bool saved = WebcamUtil::saveData(folders.target(), lesson);
     QCOMPARE(chmod(QFile::encodeName(day).constData(), 0755), 0);
     QVERIFY(!saved);
     QCOMPARE(filesIn(day), QStringList());
@@ -216,9 +216,9 @@ void FileMoveTest::aFolderThatVanishesMidwayLosesNothing()
     const AreaElsewhere elsewhere(folders);
     QVERIFY2(elsewhere.isOther(), "needs a second file system at /dev/shm");
     const QString area = WebcamUtil::getTemporaryPath();
-    QVERIFY(StoreFolders::write(area + "/photo1.png", "oldest", kLesson));
-    QVERIFY(StoreFolders::write(area + "/photo2.png", "older", kLesson.addSecs(1)));
-    QVERIFY(StoreFolders::write(area + "/photo3.png", "newest", kLesson.addSecs(2)));
+    QVERIFY(StoreFolders::write(area + "/photo1.png", "oldest", lesson));
+    QVERIFY(StoreFolders::write(area + "/photo2.png", "older", lesson.addSecs(1)));
+    QVERIFY(StoreFolders::write(area + "/photo3.png", "newest", lesson.addSecs(2)));
     const QString day = folders.target() + "/TavelinCamera/20090304";
     {
         const FakeDisk disk;
@@ -227,11 +227,11 @@ void FileMoveTest::aFolderThatVanishesMidwayLosesNothing()
                 QDir(day).removeRecursively();
             return 0;
         };
-        QVERIFY(!WebcamUtil::saveData(folders.target(), kLesson));
+        QVERIFY(!WebcamUtil::saveData(folders.target(), lesson));
     }
     // The newest went with the folder that had taken it already.
     QCOMPARE(filesIn(area), QStringList({"photo1.png", "photo2.png"}));
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(StoreFolders::read(day + "/photo1.png"), QByteArray("oldest"));
     QCOMPARE(StoreFolders::read(day + "/photo2.png"), QByteArray("older"));
 }
@@ -243,12 +243,12 @@ void FileMoveTest::halfCopiesOfASaveThatWasCutOffAreRemoved()
     QVERIFY(StoreFolders::write(WebcamUtil::getTemporaryPath() + "/photo9.png"));
     for (const char *name : {".photo1.png.part", ".movie1.mov.part", ".notes.part", ".photo2.png",
                              "photo3.png.part", ".photo4.png.part", ".part"})
-        QVERIFY(StoreFolders::write(day + "/" + name, "half of it", kLesson));
+        QVERIFY(StoreFolders::write(day + "/" + name, "half of it", lesson));
     QVERIFY(QFile::link(day + "/.notes.part", day + "/.photo5.png.part"));
     // The copy of somebody who is saving into the same folder at the moment.
     const WrittenFile held(day + "/.photo4.png.part");
     QVERIFY(held.isHeld());
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(filesIn(day),
              QStringList({".notes.part", ".part", ".photo2.png", ".photo4.png.part",
                           ".photo5.png.part", "photo3.png.part", "photo9.png"}));

@@ -57,8 +57,8 @@ QPoint cornerOfCentred(const QSize &size)
     return {(desktop.width() - size.width()) / 2, (desktop.height() - size.height()) / 2};
 }
 
-const QString kShort = QStringLiteral("Save failed.");
-const QString kLong = QStringLiteral("A sentence that goes on. ").repeated(12);
+const QString shortText = QStringLiteral("Save failed.");
+const QString longText = QStringLiteral("A sentence that goes on. ").repeated(12);
 
 } // namespace
 
@@ -94,11 +94,11 @@ void WebcamUtilMessagesTest::aBoxShowsItsTextWithOneButton()
     QFETCH(Show, show);
     QFETCH(QMessageBox::Icon, icon);
     QWidget parent;
-    const SeenBox seen = see([&] { show(kShort, &parent); });
+    const SeenBox seen = see([&] { show(shortText, &parent); });
     QCOMPARE(seen.count, 1);
     QCOMPARE(seen.icon, icon);
     QCOMPARE(seen.title, QString("Orvanta"));
-    QCOMPARE(seen.text, kShort);
+    QCOMPARE(seen.text, shortText);
     QCOMPARE(seen.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
     QCOMPARE(seen.parent, &parent);
     QVERIFY(seen.modal);
@@ -123,23 +123,23 @@ void WebcamUtilMessagesTest::boxesAreTranslatedInTheGeneralContext()
     ContextTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
     const SeenBox lowDisk = see([] { WebcamUtil::ShowDiskWorningMessage(nullptr); });
-    const SeenBox warning = see([] { WebcamUtil::WarningMessage(kShort, nullptr); });
+    const SeenBox warning = see([] { WebcamUtil::WarningMessage(shortText, nullptr); });
     QCoreApplication::removeTranslator(&translator);
     QCOMPARE(lowDisk.title, QString("QObject: Orvanta"));
     QCOMPARE(lowDisk.text,
              QString("QObject: The disk free space is insufficient.\nQObject: Taking a picture is "
                      "discontinued. Please secure the free space. "));
     QCOMPARE(warning.title, QString("QObject: Orvanta"));
-    QCOMPARE(warning.text, kShort);
+    QCOMPARE(warning.text, shortText);
 }
 
 void WebcamUtilMessagesTest::aBoxIsCentredOnTheDesktopWhereverItsParentIs_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QRect>("parent");
-    QTest::newRow("top left") << kShort << QRect(0, 0, 200, 150);
-    QTest::newRow("bottom right") << kShort << QRect(600, 450, 200, 150);
-    QTest::newRow("a long text") << kLong << QRect(0, 0, 200, 150);
+    QTest::newRow("top left") << shortText << QRect(0, 0, 200, 150);
+    QTest::newRow("bottom right") << shortText << QRect(600, 450, 200, 150);
+    QTest::newRow("a long text") << longText << QRect(0, 0, 200, 150);
 }
 
 void WebcamUtilMessagesTest::aBoxIsCentredOnTheDesktopWhereverItsParentIs()

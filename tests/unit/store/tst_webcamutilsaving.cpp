@@ -15,7 +15,7 @@
 
 namespace {
 
-const QDateTime kLesson({2009, 3, 4}, {9, 5, 7});
+const QDateTime lesson({2009, 3, 4}, {9, 5, 7});
 
 /** No file may grow beyond the limit while it lives: a disk that is full in the middle of a copy.
  */
@@ -83,7 +83,7 @@ void WebcamUtilSavingTest::everythingCapturedMovesIntoTheDaysFolder()
     QVERIFY(StoreFolders::write(folders.area() + "/photo1.png", "a photo"));
     QVERIFY(StoreFolders::write(folders.area() + "/movie1.mov", "a movie"));
     QVERIFY(StoreFolders::write(folders.area() + "/movie1tmp.png", "its picture"));
-    QVERIFY(WebcamUtil::saveData(target, kLesson));
+    QVERIFY(WebcamUtil::saveData(target, lesson));
     const QString saved = target + "/TavelinCamera/20090304";
     QCOMPARE(filesIn(saved), QStringList({"movie1.mov", "movie1tmp.png", "photo1.png"}));
     QCOMPARE(StoreFolders::read(saved + "/photo1.png"), QByteArray("a photo"));
@@ -104,7 +104,7 @@ void WebcamUtilSavingTest::savingIsDatedByTheDayOfSaving()
     QFETCH(QByteArray, zone);
     const TimeZone there(zone);
     const StoreFolders folders;
-    QVERIFY(StoreFolders::write(folders.area() + "/photo20090304090507042.png", "x", kLesson));
+    QVERIFY(StoreFolders::write(folders.area() + "/photo20090304090507042.png", "x", lesson));
     const QString before = TimeZone::localStamp().left(8);
     QVERIFY(WebcamUtil::saveData(folders.target()));
     const QString after = TimeZone::localStamp().left(8);
@@ -119,9 +119,9 @@ void WebcamUtilSavingTest::savingTwiceOnADayFillsOneFolder()
 {
     const StoreFolders folders;
     QVERIFY(StoreFolders::write(folders.area() + "/photo1.png"));
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QVERIFY(StoreFolders::write(folders.area() + "/photo2.png"));
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson.addSecs(3600)));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson.addSecs(3600)));
     QCOMPARE(filesIn(folders.target() + "/TavelinCamera/20090304"),
              QStringList({"photo1.png", "photo2.png"}));
 }
@@ -131,9 +131,9 @@ void WebcamUtilSavingTest::aFileSavedBeforeIsKeptAndTheCapturedOneRemoved()
     const StoreFolders folders;
     const QString saved = folders.target() + "/TavelinCamera/20090304";
     QVERIFY(StoreFolders::write(saved + "/photo1.png", "saved before"));
-    QVERIFY(StoreFolders::write(folders.area() + "/photo1.png", "again", kLesson.addSecs(1)));
-    QVERIFY(StoreFolders::write(folders.area() + "/photo0.png", "older", kLesson));
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(StoreFolders::write(folders.area() + "/photo1.png", "again", lesson.addSecs(1)));
+    QVERIFY(StoreFolders::write(folders.area() + "/photo0.png", "older", lesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(StoreFolders::read(saved + "/photo1.png"), QByteArray("saved before"));
     QCOMPARE(StoreFolders::read(saved + "/photo0.png"), QByteArray("older"));
     QCOMPARE(filesIn(folders.area()), QStringList());
@@ -142,7 +142,7 @@ void WebcamUtilSavingTest::aFileSavedBeforeIsKeptAndTheCapturedOneRemoved()
 void WebcamUtilSavingTest::anEmptyAreaIsNothingToSave()
 {
     const StoreFolders folders;
-    QVERIFY(!WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(!WebcamUtil::saveData(folders.target(), lesson));
 }
 
 void WebcamUtilSavingTest::aStrayFileIsNeitherSavedNorDeleted()
@@ -150,7 +150,7 @@ void WebcamUtilSavingTest::aStrayFileIsNeitherSavedNorDeleted()
     const StoreFolders folders;
     QVERIFY(StoreFolders::write(folders.area() + "/notes.txt"));
     QVERIFY(WebcamUtil::isSaveFile());
-    QVERIFY(!WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(!WebcamUtil::saveData(folders.target(), lesson));
     WebcamUtil::deleteData();
     QCOMPARE(filesIn(folders.area()), QStringList("notes.txt"));
     QCOMPARE(filesIn(folders.target() + "/TavelinCamera/20090304"), QStringList());
@@ -161,7 +161,7 @@ void WebcamUtilSavingTest::aPhotoWithAShortNameIsCapturedToo()
     const StoreFolders folders;
     QVERIFY(StoreFolders::write(folders.area() + "/photoX.png"));
     QCOMPARE(WebcamUtil::getTempPhotoNameList(), QStringList("photoX.png"));
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(filesIn(folders.target() + "/TavelinCamera/20090304"), QStringList("photoX.png"));
 }
 
@@ -170,7 +170,7 @@ void WebcamUtilSavingTest::aNameInAnotherLetterCaseIsNotMoved()
     const StoreFolders folders;
     QVERIFY(StoreFolders::write(folders.area() + "/Photo1.png"));
     QVERIFY(StoreFolders::write(folders.area() + "/photo2.png"));
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(filesIn(folders.area()), QStringList("Photo1.png"));
 }
 
@@ -180,7 +180,7 @@ void WebcamUtilSavingTest::aFolderThatCannotBeMadeLeavesAllFiles()
     const QString file = folders.root() + "/plainfile";
     QVERIFY(StoreFolders::write(file, "still a file"));
     QVERIFY(StoreFolders::write(folders.area() + "/photo1.png", "a photo"));
-    QVERIFY(!WebcamUtil::saveData(file, kLesson));
+    QVERIFY(!WebcamUtil::saveData(file, lesson));
     QCOMPARE(StoreFolders::read(folders.area() + "/photo1.png"), QByteArray("a photo"));
     QCOMPARE(StoreFolders::read(file), QByteArray("still a file"));
 }
@@ -190,11 +190,11 @@ void WebcamUtilSavingTest::whatCannotBeMovedStaysAndTheOthersAreMoved()
     const StoreFolders folders;
     for (int i : {1, 2, 3})
         QVERIFY(StoreFolders::write(folders.area() + QString("/photo%1.png").arg(i), "a photo",
-                                    kLesson.addSecs(i)));
+                                    lesson.addSecs(i)));
     // A folder of the photo's name keeps it out, whoever the user is.
     const QString saved = folders.target() + "/TavelinCamera/20090304";
     QVERIFY(QDir().mkpath(saved + "/photo2.png"));
-    QVERIFY(!WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(!WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(filesIn(saved), QStringList({"photo1.png", "photo3.png"}));
     QCOMPARE(filesIn(folders.area()), QStringList("photo2.png"));
 }
@@ -207,7 +207,7 @@ void WebcamUtilSavingTest::withoutAnAreaNoForeignFileIsTouched()
     QVERIFY(StoreFolders::write(foreign, "not ours"));
     const QString current = QDir::currentPath();
     QVERIFY(QDir::setCurrent(folders.root()));
-    const bool saved = WebcamUtil::saveData(folders.target(), kLesson);
+    const bool saved = WebcamUtil::saveData(folders.target(), lesson);
     WebcamUtil::deleteData();
     QVERIFY(QDir::setCurrent(current));
     QVERIFY(!saved);
@@ -222,15 +222,15 @@ void WebcamUtilSavingTest::anotherFileSystemGetsTheWholeCopy()
     QVERIFY2(elsewhere.isOther(), "needs a second file system at /dev/shm");
     const QString photo = WebcamUtil::getTemporaryPath() + "/photo1.png";
     const QByteArray contents = QByteArray("0123456789abcdef").repeated(200 * 1024) + "the end";
-    QVERIFY(StoreFolders::write(photo, contents, kLesson));
+    QVERIFY(StoreFolders::write(photo, contents, lesson));
     QVERIFY(QFile::setPermissions(photo, QFile::ReadOwner | QFile::WriteOwner));
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
 
     const QString saved = folders.target() + "/TavelinCamera/20090304";
     QCOMPARE(filesIn(saved), QStringList("photo1.png"));
     QVERIFY(StoreFolders::read(saved + "/photo1.png") == contents);
     const QFileInfo copy(saved + "/photo1.png");
-    QCOMPARE(copy.lastModified(), kLesson);
+    QCOMPARE(copy.lastModified(), lesson);
     QVERIFY(!copy.permission(QFile::ReadOther) && !copy.permission(QFile::ReadGroup));
     QCOMPARE(filesIn(WebcamUtil::getTemporaryPath()), QStringList());
 }
@@ -242,13 +242,13 @@ void WebcamUtilSavingTest::aFullDiskLeavesNoHalfFileAndKeepsTheCaptured()
     QVERIFY2(elsewhere.isOther(), "needs a second file system at /dev/shm");
     const QString area = WebcamUtil::getTemporaryPath();
     const QByteArray large(3 * 1024 * 1024, 'm');
-    QVERIFY(StoreFolders::write(area + "/photo1.png", "oldest", kLesson));
-    QVERIFY(StoreFolders::write(area + "/movie1.mov", large, kLesson.addSecs(1)));
-    QVERIFY(StoreFolders::write(area + "/photo2.png", "newest", kLesson.addSecs(2)));
+    QVERIFY(StoreFolders::write(area + "/photo1.png", "oldest", lesson));
+    QVERIFY(StoreFolders::write(area + "/movie1.mov", large, lesson.addSecs(1)));
+    QVERIFY(StoreFolders::write(area + "/photo2.png", "newest", lesson.addSecs(2)));
     bool saved = true;
     {
         const FullDisk disk(rlim_t(2) * 1024 * 1024);
-        saved = WebcamUtil::saveData(folders.target(), kLesson);
+        saved = WebcamUtil::saveData(folders.target(), lesson);
     }
     QVERIFY(!saved);
     const QString folder = folders.target() + "/TavelinCamera/20090304";
@@ -257,7 +257,7 @@ void WebcamUtilSavingTest::aFullDiskLeavesNoHalfFileAndKeepsTheCaptured()
     QVERIFY(StoreFolders::read(area + "/movie1.mov") == large);
 
     // With room again the next attempt saves what was left.
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QVERIFY(StoreFolders::read(folder + "/movie1.mov") == large);
     QCOMPARE(filesIn(folder), QStringList({"movie1.mov", "photo1.png", "photo2.png"}));
     QCOMPARE(filesIn(area), QStringList());
@@ -272,7 +272,7 @@ void WebcamUtilSavingTest::theRestOfABrokenCopyDoesNotHinderTheNext()
     // What a power cut in the middle of a longer copy would leave.
     const QString folder = folders.target() + "/TavelinCamera/20090304";
     QVERIFY(StoreFolders::write(folder + "/.photo1.png.part", "much longer than the photo"));
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(filesIn(folder), QStringList("photo1.png"));
     QCOMPARE(StoreFolders::read(folder + "/photo1.png"), QByteArray("short"));
 }
@@ -284,14 +284,14 @@ void WebcamUtilSavingTest::theWaitCursorIsShownOnlyWhileSaving()
     QVERIFY(QDir().mkpath(folders.target() + "/TavelinCamera/20090304/photo1.png"));
     cursorAtComplaint = Qt::ArrowCursor;
     const QtMessageHandler oldHandler = qInstallMessageHandler(noteCursor);
-    const bool saved = WebcamUtil::saveData(folders.target(), kLesson);
+    const bool saved = WebcamUtil::saveData(folders.target(), lesson);
     qInstallMessageHandler(oldHandler);
     QVERIFY(!saved);
     QCOMPARE(cursorAtComplaint, Qt::WaitCursor);
     QVERIFY(!QGuiApplication::overrideCursor());
 
     QVERIFY(QDir(folders.target() + "/TavelinCamera").removeRecursively());
-    QVERIFY(WebcamUtil::saveData(folders.target(), kLesson));
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QVERIFY(!QGuiApplication::overrideCursor());
 }
 
@@ -324,10 +324,10 @@ void WebcamUtilSavingTest::unfinishedCapturesOfAnEarlierRunAreRemoved()
 {
     const StoreFolders folders;
     const QString area = WebcamUtil::getTemporaryPath();
-    const QDateTime start = kLesson.addSecs(60);
+    const QDateTime start = lesson.addSecs(60);
     for (const char *name :
          {".photo1.png", ".movie1tmp.png", ".photo2.png", ".notes.png", "photo3.png", "notes.txt"})
-        QVERIFY(StoreFolders::write(area + "/" + name, "x", kLesson));
+        QVERIFY(StoreFolders::write(area + "/" + name, "x", lesson));
     QVERIFY(StoreFolders::write(area + "/.photo4.png", "of this run", start.addMSecs(1)));
     QVERIFY(QFile::link(area + "/notes.txt", area + "/.photo5.png"));
     const WrittenFile held(area + "/.photo2.png");

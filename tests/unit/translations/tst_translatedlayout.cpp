@@ -27,10 +27,10 @@
 
 namespace {
 
-const QSize kScreen(1024, 768);
-constexpr int kMostTiles = 9;
+const QSize screenSize(1024, 768);
+constexpr int mostTiles = 9;
 // Of the caption's label, at its right: a text up to the very rim of the bitmap looks cut off.
-constexpr int kRimPx = 6;
+constexpr int rimPx = 6;
 
 struct Text {
     const char *context;
@@ -38,7 +38,7 @@ struct Text {
 };
 
 // What boxes say, but for the full disk, whose two pieces come from the store.
-constexpr Text kMessages[] = {
+constexpr Text boxTexts[] = {
     {"CVistrelDlg", "Save failed."},
     {"CVistrelDlg", "Cannot find Video / Audio Devices."},
     {"CVistrelDlg", "Cannot find Audio Devices."},
@@ -129,7 +129,7 @@ QByteArray clippedCaptionsOf(const QWidget &window)
         button->layout()->activate();
         const QLabel *caption = captionOf(*button);
         const QSize needed = neededBy(*caption);
-        const QSize available = caption->size() - QSize(kRimPx, 0);
+        const QSize available = caption->size() - QSize(rimPx, 0);
         if (!fits(needed, available))
             clipped += complaint(caption->text(), needed, available) + '\n';
     }
@@ -146,7 +146,7 @@ QByteArray troubleWithBoxOf(const std::function<void()> &action)
         if (!box || !box->isVisible())
             return;
         trouble = clippedTextsOf(*box);
-        if (!QRect(QPoint(), kScreen).contains(box->geometry()))
+        if (!QRect(QPoint(), screenSize).contains(box->geometry()))
             trouble += "a box larger than the screen";
         box->close();
     });
@@ -204,7 +204,7 @@ private:
 
 void TranslatedLayoutTest::initTestCase()
 {
-    QCOMPARE(QGuiApplication::primaryScreen()->availableGeometry(), QRect(QPoint(), kScreen));
+    QCOMPARE(QGuiApplication::primaryScreen()->availableGeometry(), QRect(QPoint(), screenSize));
 }
 
 void TranslatedLayoutTest::init()
@@ -263,7 +263,7 @@ void TranslatedLayoutTest::tilesShowTheirNumbersAndButtonsWhole()
     DialogFixture fixture;
     CVistrelDlg &window = fixture.build();
     QStringList names;
-    for (int i = 0; i < kMostTiles; ++i)
+    for (int i = 0; i < mostTiles; ++i)
         names.append(QStringLiteral("photo%1.png").arg(i)); // none is there: the tiles stay black
     window.SetPictureListMode(names);
     int tiles = 0;
@@ -279,7 +279,7 @@ void TranslatedLayoutTest::tilesShowTheirNumbersAndButtonsWhole()
         const QByteArray clipped = clippedTextsOf(*tile);
         QVERIFY2(clipped.isEmpty(), clipped.constData());
     }
-    QCOMPARE(tiles, kMostTiles);
+    QCOMPARE(tiles, mostTiles);
 }
 
 void TranslatedLayoutTest::theFontsHaveEveryLetter()
@@ -294,7 +294,7 @@ void TranslatedLayoutTest::theFontsHaveEveryLetter()
                              Text{"SaveConfirmDlg", "Do you want to save the Photo / Movie data?"},
                              Text{"QPlatformTheme", "Cancel"}})
         texts.append(inLanguage(text));
-    for (const Text &message : kMessages)
+    for (const Text &message : boxTexts)
         texts.append(inLanguage(message));
     DialogFixture fixture;
     for (const CStretchBitmapButton *button : buttonsOf(fixture.build()))
@@ -327,7 +327,7 @@ void TranslatedLayoutTest::messagesAreShownWhole()
 {
     QFETCH(QString, language);
     speak(language);
-    for (const Text &message : kMessages) {
+    for (const Text &message : boxTexts) {
         QVERIFY2(!m_translator->translate(message.context, message.source).isEmpty(),
                  message.source);
         const QByteArray trouble =
@@ -355,7 +355,7 @@ void TranslatedLayoutTest::theSettingsShowTheirTextsWhole()
     speak(language);
     Setting settings(nullptr);
     settings.show();
-    QVERIFY(fits(settings.frameSize(), kScreen));
+    QVERIFY(fits(settings.frameSize(), screenSize));
     QCOMPARE(settings.windowTitle(), QCoreApplication::translate("Setting", "Settings"));
     const QByteArray clipped = clippedTextsOf(settings);
     QVERIFY2(clipped.isEmpty(), clipped.constData());
@@ -367,7 +367,7 @@ void TranslatedLayoutTest::theSaveQuestionFitsTheScreen()
     speak(language);
     SaveConfirmDlg question(nullptr, {});
     question.show();
-    QVERIFY(fits(question.size(), kScreen));
+    QVERIFY(fits(question.size(), screenSize));
     const QByteArray clipped = clippedTextsOf(question);
     QVERIFY2(clipped.isEmpty(), clipped.constData());
 }
@@ -386,7 +386,7 @@ void TranslatedLayoutTest::theCountdownHasRoomForTwoDigits()
     const QSize needed = neededBy(countdown);
     QVERIFY2(fits(needed, countdown.size()),
              complaint(countdown.text(), needed, countdown.size()).constData());
-    QVERIFY(needed.width() < kScreen.width() / 2);
+    QVERIFY(needed.width() < screenSize.width() / 2);
 }
 
 QTEST_MAIN(TranslatedLayoutTest)
