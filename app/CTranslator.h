@@ -11,11 +11,9 @@ class CTranslator {
 public:
     CTranslator() = delete;
 
-    /**
-     * The code of the language that the whiteboard application is set to, as far as dir holds a
-     * translation, a file named prefix + code + ".qm". "en", the language of the source, when
-     * nothing better is found.
-     */
+    /// The code of the language that the whiteboard application is set to, as far as dir holds a
+    /// translation, a file named prefix + code + ".qm". "en", the language of the source, when
+    /// nothing better is found.
     static QString getLocale(const QString &dir, const QString &prefix);
 };
 

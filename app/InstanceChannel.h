@@ -38,11 +38,9 @@ public:
     bool becomeFirst();
     /// True when another copy is the first.
     bool isTaken();
-    /**
-     * True only when the first has answered that it has the message. Waits up to timeoutMs for
-     * that, also for a first that has its lock but does not listen yet. False at once when there is
-     * no other copy, and then this one is the first.
-     */
+    /// True only when the first has answered that it has the message. Waits up to timeoutMs for
+    /// that, also for a first that has its lock but does not listen yet. False at once when there
+    /// is no other copy, and then this one is the first.
     bool send(const QString &message, int timeoutMs);
 
 Q_SIGNALS:

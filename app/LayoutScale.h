@@ -10,16 +10,22 @@
  */
 namespace LayoutScale {
 
-/// Device pixels to one pixel of the layout, in each direction: 1 below 3840x2160, then 2, 3
-/// from 5760x3240 and so on. A screen counts by the lesser of its directions, an empty size as 1.
+/**
+ * Device pixels to one pixel of the layout, in each direction: 1 below 3840x2160, then 2, 3
+ * from 5760x3240 and so on. A screen counts by the lesser of its directions, an empty size as 1.
+ */
 int factorFor(QSize screen);
 
-/// px, the primary monitor; empty when the X server cannot be asked. Needs no application object.
+/**
+ * px, the primary monitor; empty when the X server cannot be asked. Needs no application object.
+ */
 QSize primaryScreenSize();
 
-/// Tells the toolkit the factor for the primary monitor. To be called before the application
-/// object is built; the desktop's own text scaling no longer counts, which the layout, made of
-/// pixels, could not follow.
+/**
+ * Tells the toolkit the factor for the primary monitor. To be called before the application
+ * object is built; the desktop's own text scaling no longer counts, which the layout, made of
+ * pixels, could not follow.
+ */
 void apply();
 
 } // namespace LayoutScale

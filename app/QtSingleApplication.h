@@ -18,10 +18,8 @@ class QtSingleApplication : public QApplication {
 public:
     QtSingleApplication(const QString &id, int &argc, char **argv);
 
-    /**
-     * True when the first copy has acknowledged the message. False after timeout ms when it does
-     * not answer, as when its window is stuck; false at once when this copy is the first.
-     */
+    /// True when the first copy has acknowledged the message. False after timeout ms when it does
+    /// not answer, as when its window is stuck; false at once when this copy is the first.
     bool sendMessage(const QString &message, int timeout = 5000);
     /// True when another copy is the first.
     bool isRunning();

@@ -12,16 +12,20 @@
  */
 namespace CapturedPicture {
 
-/// The full path of a picture that goes by its bare file name.
+/** The full path of a picture that goes by its bare file name. */
 QString path(const QString &name);
 
-/// Decodes the file at @p path, with the pixels that a pixmap of it would have. From any thread;
-/// pictures larger than a camera's usual ones are decoded one at a time, so that several threads
-/// do not hold several of them.
+/**
+ * Decodes the file at @p path, with the pixels that a pixmap of it would have. From any thread;
+ * pictures larger than a camera's usual ones are decoded one at a time, so that several threads
+ * do not hold several of them.
+ */
 QImage read(const QString &path);
 
-/// The picture by its bare file name. The one read last is remembered until its file changes: a
-/// photo just taken is shown at once in several places. GUI thread only.
+/**
+ * The picture by its bare file name. The one read last is remembered until its file changes: a
+ * photo just taken is shown at once in several places. GUI thread only.
+ */
 QImage whole(const QString &name);
 QPixmap load(const QString &name); ///< the same as a pixmap
 

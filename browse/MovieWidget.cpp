@@ -25,7 +25,7 @@ public:
     }
     ~StillPicture() override { PictureLoader::shared().forget(this); }
 
-    /// @p name is a bare file name in the temporary area; black until it has been read.
+    // The name is a bare file name in the temporary area; black until it has been read.
     void loadLater(const QString &name)
     {
         PictureLoader::shared().forget(this);

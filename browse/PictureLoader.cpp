@@ -99,7 +99,7 @@ void PictureLoader::startWaiting()
     }
 }
 
-/// Runs on a worker.
+// Runs on a worker.
 void PictureLoader::work(int number, const Key &key)
 {
     Result result{number, key, scaled(CapturedPicture::read(key.version.path), key.fit)};

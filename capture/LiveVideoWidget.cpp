@@ -56,7 +56,7 @@ void LiveVideoWidget::createLiveLabel()
     m_liveLabel->hide();
 }
 
-/// Null: nothing is ever painted on this widget itself, the engine paints in the frame on top.
+// Null: nothing is ever painted on this widget itself, the engine paints in the frame on top.
 QPaintEngine *LiveVideoWidget::paintEngine() const
 {
     return nullptr;
@@ -190,7 +190,7 @@ QString LiveVideoWidget::invalidVideoText()
               "Please confirm whether the device is correctly connected. ");
 }
 
-/// Always false, for Record() to return.
+// Always false, for Record() to return.
 bool LiveVideoWidget::recordWithoutVideo()
 {
     m_videoValid = false;
@@ -205,7 +205,7 @@ bool LiveVideoWidget::recordWithoutVideo()
     return false;
 }
 
-/// Always false, for Record() to return.
+// Always false, for Record() to return.
 bool LiveVideoWidget::recordWithoutAudio()
 {
     m_audioValid = false;

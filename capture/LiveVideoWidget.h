@@ -61,12 +61,10 @@ public:
     /// Writes one photo into the temporary area. Its bare file name, or a null string on failure.
     QString SaveBmp();
 
-    /**
-     * Starts a movie and saves its first picture beside it. When a device is missing, says so and
-     * returns false; the engine has then been told to record all the same, as it must be before
-     * it can answer for its devices. A movie that does not begin although both devices work is
-     * refused in the words for the camera, and leaves everything as it was.
-     */
+    /// Starts a movie and saves its first picture beside it. When a device is missing, says so and
+    /// returns false; the engine has then been told to record all the same, as it must be before
+    /// it can answer for its devices. A movie that does not begin although both devices work is
+    /// refused in the words for the camera, and leaves everything as it was.
     bool Record();
     void RecordStop();
     /// Waits for movies whose files are still being completed; false when one is not in time.

@@ -20,7 +20,7 @@ QString ownCameraModel()
     return QStringLiteral("Tavelin VX-2K");
 }
 
-/// A dialog above all other windows, the program's own raised one included, without a "?" button.
+// A dialog above all other windows, the program's own raised one included, without a "?" button.
 Qt::WindowFlags chooserFlags(Qt::WindowFlags flags)
 {
     flags &=

@@ -127,7 +127,7 @@ void TimerWidget::setTickInterval(int milliseconds)
     m_tickTimer->setInterval(milliseconds);
 }
 
-/// The longest text of the mode, which the label is made wide enough for.
+// The longest text of the mode, which the label is made wide enough for.
 QString TimerWidget::sizingText(TimerMode mode)
 {
     switch (mode) {

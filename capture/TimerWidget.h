@@ -5,7 +5,7 @@
 
 class QTimer;
 
-/// The job that a TimerWidget does on each tick.
+/** The job that a TimerWidget does on each tick. */
 enum TimerMode {
     TimerCountdown = 0, ///< counts the seconds down to the next photo
     TimerPlayTime = 1, ///< asks the window to write how far a movie has played
@@ -40,11 +40,9 @@ public:
     /// As Stop(), with the text cleared and TimerIdle as the mode.
     void reset();
 
-    /**
-     * Hides the label, whatever @p m is. A mode that differs from the current one also sets the
-     * recording time to 0, the label's width to that of the mode's longest text, its place to the
-     * right edge of the screen, and clears the text.
-     */
+    /// Hides the label, whatever @p m is. A mode that differs from the current one also sets the
+    /// recording time to 0, the label's width to that of the mode's longest text, its place to the
+    /// right edge of the screen, and clears the text.
     void SetMode(TimerMode m);
 
     /// One step of the countdown: shows the seconds left or, at 0, asks for a photo.

@@ -26,11 +26,9 @@ class QWidget;
  */
 class CWindowManagement : public CWMUpdateCallback {
 public:
-    /**
-     * processName is an external program that suspends the raising while it runs, so that its
-     * windows are not covered; empty for none. It becomes part of a shell command as it stands (see
-     * isRunning()): give a name that the program itself knows, never one that a user typed.
-     */
+    /// processName is an external program that suspends the raising while it runs, so that its
+    /// windows are not covered; empty for none. It becomes part of a shell command as it stands
+    /// (see isRunning()): give a name that the program itself knows, never one that a user typed.
     CWindowManagement(QWidget *widget, int periodMs, bool raiseParents, QString processName);
     CWindowManagement(const CWindowManagement &) = delete;
     CWindowManagement &operator=(const CWindowManagement &) = delete;
@@ -50,10 +48,8 @@ public:
     /// Raises one X window, whether the window manager agrees or not.
     void raiseWindowTop(unsigned long windowId);
 
-    /**
-     * True when a line of the process list matches the name, a grep pattern. Blocks the calling
-     * thread for as long as ps takes, some ten milliseconds; false when the list cannot be had.
-     */
+    /// True when a line of the process list matches the name, a grep pattern. Blocks the calling
+    /// thread for as long as ps takes, some ten milliseconds; false when the list cannot be had.
     bool isRunning(std::string &name);
 
     /// True when the line, the output of wc -l, states one process or more.

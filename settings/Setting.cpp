@@ -20,7 +20,7 @@ QString settingsFile()
     return WebcamUtil::getAppPath() + QStringLiteral("/.halcyra_orvantacc.ini");
 }
 
-/** What people type is UTF-8; only an older editor's file is not. */
+// What people type is UTF-8; only an older editor's file is not.
 bool isUtf8(const QByteArray &text)
 {
     QTextCodec::ConverterState state;
@@ -37,7 +37,7 @@ QByteArray contentsOf(const QString &path)
                                                                       : QByteArray();
 }
 
-/** What stands behind the key in the file, to the letter, up to a comment. */
+// What stands behind the key in the file, to the letter, up to a comment.
 QByteArray writtenBehind(const QByteArray &contents, const QByteArray &key)
 {
     QByteArray found;
@@ -53,10 +53,8 @@ QByteArray writtenBehind(const QByteArray &contents, const QByteArray &key)
     return found;
 }
 
-/**
- * The folder under the key. The toolkit writes a comma in quotes and takes one without them for the
- * gap between two values; in a line that was typed by hand it belongs to the name.
- */
+// The folder under the key. The toolkit writes a comma in quotes and takes one without them for the
+// gap between two values; in a line that was typed by hand it belongs to the name.
 QString readFolder(const QSettings &file, const QByteArray &contents, const QString &key)
 {
     const QVariant value = file.value(key, QString());
@@ -66,7 +64,7 @@ QString readFolder(const QSettings &file, const QByteArray &contents, const QStr
     return isUtf8(written) ? QString::fromUtf8(written) : QString::fromLatin1(written);
 }
 
-/** Takes the number under the key, if it is in range; returns what was read in any case. */
+// Takes the number under the key, if it is in range; returns what was read in any case.
 int readNumber(const QSettings &file, const QString &key, int absent, int least, int most,
                int &preference)
 {
@@ -147,10 +145,8 @@ void Setting::setCaptions()
     m_ui.tolSaveDirectory->setAccessibleName(tr("SaveDirectory"));
 }
 
-/**
- * Rows have fixed places. Where a language needs more room all of them become wider together, and
- * the words behind the boxes equally wide, so that the boxes stay in one column.
- */
+// Rows have fixed places. Where a language needs more room all of them become wider together, and
+// the words behind the boxes equally wide, so that the boxes stay in one column.
 void Setting::fitRowsToTexts()
 {
     const std::array<QLabel *, 3> units = {m_ui.lblShootingInterval, m_ui.lblShootingCount,

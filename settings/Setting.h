@@ -25,38 +25,36 @@ class Setting : public QDialog {
 public:
     explicit Setting(QWidget *parent = nullptr);
 
-    /** Reads the file into the preferences, and shows which kind of save folder is chosen. */
+    /// Reads the file into the preferences, and shows which kind of save folder is chosen.
     void readFile();
-    /** Writes what the controls show to the file, all six preferences. */
+    /// Writes what the controls show to the file, all six preferences.
     void SaveFile();
-    /** Shows the preferences in the controls; a value that is not offered shows as another one. */
+    /// Shows the preferences in the controls; a value that is not offered shows as another one.
     void setParam();
 
-    /** Makes up what the boxes offer; setCmbValue() then offers it. */
+    /// Makes up what the boxes offer; setCmbValue() then offers it.
     void setDefaultValue();
     void setCmbValue();
-    /** Puts the texts that users see in place of the form's own. */
+    /// Puts the texts that users see in place of the form's own.
     void setCaptions();
 
     bool getAutoShooting() const;
-    /** Seconds of the self-timer; 0 if none are chosen. */
+    /// Seconds of the self-timer; 0 if none are chosen.
     int getAutoShootingTime() const;
-    /** Shots of one continuous capture; -1 if none are chosen. */
+    /// Shots of one continuous capture; -1 if none are chosen.
     int getContinuousShooting() const;
     bool getPhotoPreview() const;
-    /** The save folder as shown: the home folder if the default location is chosen. */
+    /// The save folder as shown: the home folder if the default location is chosen.
     QString getSaveDirectory() const;
-    /** Width, "x" and height in pixels. */
+    /// Width, "x" and height in pixels.
     QString getResolution() const;
 
-    /**
-     * Offers the resolutions of @p list, each once, and selects the chosen one, or else the entry
-     * at half the length of @p list as given, which leaves none selected if repetitions made the
-     * box that much shorter. An empty list changes nothing.
-     */
+    /// Offers the resolutions of @p list, each once, and selects the chosen one, or else the entry
+    /// at half the length of @p list as given, which leaves none selected if repetitions made the
+    /// box that much shorter. An empty list changes nothing.
     void setResolutionList(const QStringList &list);
     void setCmbResoEnable(bool enable);
-    /** Takes the "..." button out of the hands of the radio buttons and sets it once for all. */
+    /// Takes the "..." button out of the hands of the radio buttons and sets it once for all.
     void setBtnSaveEnable(bool enable);
 
 protected:

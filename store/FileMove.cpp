@@ -41,7 +41,7 @@ bool isThere(const OpenFolder &folder, const QByteArray &name, struct stat &stat
     return fstatat(folder.descriptor(), name.constData(), &status, 0) == 0;
 }
 
-/** Renames within one file system and never over another file. */
+// Renames within one file system and never over another file.
 bool renameFile(const OpenFolder &from, const QByteArray &oldName, const OpenFolder &to,
                 const QByteArray &newName)
 {
@@ -85,7 +85,7 @@ bool copyContents(int from, int to)
     }
 }
 
-/** The mode and the time of the one file for the other, as far as its disk knows such things. */
+// The mode and the time of the one file for the other, as far as its disk knows such things.
 void copyRecord(int from, int to)
 {
     struct stat status = {};
@@ -96,7 +96,7 @@ void copyRecord(int from, int to)
     (void)futimens(to, times);
 }
 
-/** Copies to another file system, down to the disk. */
+// Copies to another file system, down to the disk.
 bool copyFile(int source, const OpenFolder &to, const QByteArray &name)
 {
     const QByteArray partial = '.' + name + partialSuffix;

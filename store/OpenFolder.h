@@ -22,27 +22,25 @@ struct FolderFile {
  */
 class OpenFolder {
 public:
-    /** An empty path is the folder that the program runs in. */
+    /// An empty path is the folder that the program runs in.
     explicit OpenFolder(const QString &path);
     ~OpenFolder();
     Q_DISABLE_COPY(OpenFolder)
 
     bool isOpen() const { return m_descriptor >= 0; }
-    /** For the calls of the system that take a folder; below 0 if it could not be opened. */
+    /// For the calls of the system that take a folder; below 0 if it could not be opened.
     int descriptor() const { return m_descriptor; }
-    /** Its path for this process alone, never long, as long as the object lives. */
+    /// Its path for this process alone, never long, as long as the object lives.
     QString shortPath() const;
 
-    /** The regular files, no links, that @p isWanted by their names, in no order. */
+    /// The regular files, no links, that @p isWanted by their names, in no order.
     std::vector<FolderFile> files(const std::function<bool(const char *)> &isWanted) const;
-    /** True when what was made, renamed or removed in it will outlast a power cut. */
+    /// True when what was made, renamed or removed in it will outlast a power cut.
     bool flush() const;
 
-    /**
-     * Removes the files that some writer left unfinished: this user's own ones of those that
-     * @p isWanted, last written before @p before (s since 1970), and held by no writer any more
-     * (see holdUnfinished()). On a disk that knows no locks none is removed.
-     */
+    /// Removes the files that some writer left unfinished: this user's own ones of those that
+    /// @p isWanted, last written before @p before (s since 1970), and held by no writer any more
+    /// (see holdUnfinished()). On a disk that knows no locks none is removed.
     void removeUnfinished(const std::function<bool(const char *)> &isWanted,
                           const timespec &before) const;
 

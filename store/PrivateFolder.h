@@ -11,15 +11,13 @@ class PrivateFolder {
 public:
     PrivateFolder() = delete;
 
-    /**
-     * Makes the folder @p path with its parents, if it is missing, and closes it to everybody else
-     * (mode 0700), if it is not. Returns its absolute path.
-     *
-     * Empty when it cannot be made or cannot be trusted: what is there is a symbolic link, belongs
-     * to somebody else, or is open to others and stays so, as on a disk that knows no modes.
-     */
+    /// Makes the folder @p path with its parents, if it is missing, and closes it to everybody else
+    /// (mode 0700), if it is not. Returns its absolute path.
+    ///
+    /// Empty when it cannot be made or cannot be trusted: what is there is a symbolic link, belongs
+    /// to somebody else, or is open to others and stays so, as on a disk that knows no modes.
     static QString ensure(const QString &path);
-    /** Whether @p path is a real folder, no link, and this user's own, whatever its mode. */
+    /// Whether @p path is a real folder, no link, and this user's own, whatever its mode.
     static bool isOwn(const QString &path);
 };
 

@@ -21,7 +21,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private Q_SLOTS:
-    /** Ends the dialog with "discard". */
+    /// Ends the dialog with "discard".
     void savecancel();
 
 private:

@@ -15,14 +15,14 @@
 
 namespace {
 
-/** Newest first. Names carry the time of capture, so they decide between equal times. */
+// Newest first. Names carry the time of capture, so they decide between equal times.
 bool isNewer(const FolderFile &left, const FolderFile &right)
 {
     return std::tie(left.modified.tv_sec, left.modified.tv_nsec, left.name)
         > std::tie(right.modified.tv_sec, right.modified.tv_nsec, right.name);
 }
 
-/** Folded by hand: to the C library a Turkish I is the capital letter of another i. */
+// Folded by hand: to the C library a Turkish I is the capital letter of another i.
 QByteArray inSmallLetters(QByteArray name)
 {
     std::transform(name.begin(), name.end(), name.begin(), [](char letter) {
@@ -48,11 +48,9 @@ bool WebcamUtil::isCaptured(const char *name)
     return std::strncmp(name, "photo", 5) == 0 || std::strncmp(name, "movie", 5) == 0;
 }
 
-/**
- * The files of the temporary area that match one of the patterns (any case) and are not hidden,
- * newest first; all of them if there is no pattern. If there is no area, its empty path means the
- * folder the program runs in.
- */
+// The files of the temporary area that match one of the patterns (any case) and are not hidden,
+// newest first; all of them if there is no pattern. If there is no area, its empty path means the
+// folder the program runs in.
 std::vector<FolderFile> WebcamUtil::readTemporaryArea(const QStringList &patterns)
 {
     std::vector<QByteArray> encoded;
@@ -68,7 +66,7 @@ std::vector<FolderFile> WebcamUtil::readTemporaryArea(const QStringList &pattern
     return files;
 }
 
-/** Their names in the user's letters, for lists and for the screen. */
+// Their names in the user's letters, for lists and for the screen.
 QStringList WebcamUtil::listTemporaryArea(const QStringList &patterns)
 {
     const std::vector<FolderFile> files = readTemporaryArea(patterns);

@@ -16,7 +16,7 @@ QString stillSuffix()
     return QStringLiteral("tmp.png");
 }
 
-/** Always plain digits: a file name must not change with the language of the desktop. */
+// Always plain digits: a file name must not change with the language of the desktop.
 QString stamp(const QDateTime &moment, const QString &layout)
 {
     return QLocale::c().toString(moment, layout);

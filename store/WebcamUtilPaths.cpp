@@ -93,7 +93,7 @@ bool WebcamUtil::hasWriteAccess(const QString &path)
     return writable.contains(name, Qt::CaseSensitive);
 }
 
-/** The absolute path of the folder, made with its parents if need be; empty if it cannot be. */
+// The absolute path of the folder, made with its parents if need be; empty if it cannot be.
 QString WebcamUtil::ensuredFolder(const QString &path)
 {
     const QDir folder(path);

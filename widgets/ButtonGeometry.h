@@ -3,11 +3,13 @@
 
 #include <QSize>
 
-/// The size rules of the bitmap buttons, free of any screen so that every width can be tried.
+/** The size rules of the bitmap buttons, free of any screen so that every width can be tried. */
 namespace ButtonGeometry {
 
-/// The size of a button whose bitmap is @p bitmap: six of them fit side by side on a screen of
-/// @p availableWidth px. Bitmaps are only ever shrunk, and keep their shape.
+/**
+ * The size of a button whose bitmap is @p bitmap: six of them fit side by side on a screen of
+ * @p availableWidth px. Bitmaps are only ever shrunk, and keep their shape.
+ */
 inline QSize fittedBitmapSize(QSize bitmap, int availableWidth)
 {
     const int cellWidth = availableWidth / 6;
@@ -15,7 +17,7 @@ inline QSize fittedBitmapSize(QSize bitmap, int availableWidth)
     return bitmap.scaled(width, bitmap.height(), Qt::KeepAspectRatio);
 }
 
-/// Points; captions shrink with the buttons on screens narrower than 1024 px.
+/** Points; captions shrink with the buttons on screens narrower than 1024 px. */
 inline int captionPointSize(int availableWidth)
 {
     return availableWidth < 1024 ? static_cast<int>(availableWidth * (1.0 / 1024) * 11) : 11;

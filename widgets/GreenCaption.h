@@ -10,10 +10,12 @@
  */
 namespace GreenCaption {
 
-/// Of the normal 50, on the toolkit's scale from 0 to 99: less than any font has, so its thinnest.
+/**
+ * Of the normal 50, on the toolkit's scale from 0 to 99: less than any font has, so its thinnest.
+ */
 constexpr int hairlineWeight = 5;
 
-/// @p base in green on black, for a caption or for a view whose captions take after it.
+/** @p base in green on black, for a caption or for a view whose captions take after it. */
 inline QPalette palette(QPalette base)
 {
     base.setColor(QPalette::Window, Qt::black);
@@ -21,7 +23,7 @@ inline QPalette palette(QPalette base)
     return base;
 }
 
-/// 24 points.
+/** 24 points. */
 inline QFont font()
 {
     return {QStringLiteral("Arial"), 24, hairlineWeight, false};

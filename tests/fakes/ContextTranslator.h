@@ -3,8 +3,10 @@
 
 #include <QTranslator>
 
-/// Translates a text to the name of its context and itself, "PictureWidget: Photo", so that the
-/// context shows.
+/**
+ * Translates a text to the name of its context and itself, "PictureWidget: Photo", so that the
+ * context shows.
+ */
 class ContextTranslator : public QTranslator {
 public:
     QString translate(const char *context, const char *text, const char *, int) const override

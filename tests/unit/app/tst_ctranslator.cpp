@@ -8,7 +8,7 @@
 
 namespace {
 
-/// What the whiteboard application keeps for this user; a null string is a user without it.
+// What the whiteboard application keeps for this user; a null string is a user without it.
 void setWhiteboardLanguage(const QVariant &locale)
 {
     QSettings settings(QSettings::UserScope, "MerovexSolutions", "Tavelin Software");

@@ -25,7 +25,7 @@ QByteArray framed(const QByteArray &text)
     return header + text;
 }
 
-/// A second copy: it sends from a thread of its own, since the first answers from the event loop.
+// A second copy: it sends from a thread of its own, since the first answers from the event loop.
 class Sender {
 public:
     Sender(const QString &folder, const QString &message, int timeoutMs)

@@ -19,7 +19,7 @@ namespace {
 constexpr int delivered = 0; // exit status of a copy that found another one
 constexpr int ranAlone = 1; // and of one that ran until its input ended
 
-/// One process of the program under test, with the temporary folder that it shares with its like.
+// One process of the program under test, with the temporary folder that it shares with its like.
 class Copy {
 public:
     Copy(const QString &temporary, int timeoutMs, const QString &session = QString())

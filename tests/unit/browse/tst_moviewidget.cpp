@@ -13,7 +13,7 @@ namespace {
 constexpr int movieMs = 2500;
 constexpr int patienceMs = 10000;
 
-/// Where the player is, for a readable failure.
+// Where the player is, for a readable failure.
 QByteArray position(const MovieWidget &player)
 {
     return QByteArray::number(player.currentTime()) + " of "
@@ -22,7 +22,7 @@ QByteArray position(const MovieWidget &player)
 
 } // namespace
 
-/// Plays a short movie for real. It is silent: no sound device is needed.
+// Plays a short movie for real. It is silent: no sound device is needed.
 class TestMovieWidget : public QObject {
     Q_OBJECT
 

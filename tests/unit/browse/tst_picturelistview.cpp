@@ -24,7 +24,7 @@ QStringList photos(int count)
     return names;
 }
 
-/// A strip as the main window has it, filled with photos and on the screen.
+// A strip as the main window has it, filled with photos and on the screen.
 struct Strip {
     explicit Strip(int photoCount = 0, int height = 140)
     {

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Every pixel different from its neighbours, so that a scaling that picks others shows.
+// Every pixel different from its neighbours, so that a scaling that picks others shows.
 QImage speckled(QSize size, QImage::Format format)
 {
     QImage picture(size, QImage::Format_ARGB32);

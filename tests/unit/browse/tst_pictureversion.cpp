@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Gives a file the time stamp of so many nanoseconds ago.
+// Gives a file the time stamp of so many nanoseconds ago.
 bool backdate(const QString &path, qint64 nanoseconds)
 {
     timespec now = {};

@@ -21,7 +21,7 @@ QLabel *caption(const PictureWidget &widget)
     return widget.findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-/// The rectangle of everything in the grabbed widget that is not black.
+// The rectangle of everything in the grabbed widget that is not black.
 QRect litArea(PictureWidget &widget)
 {
     const QImage shown = widget.grab().toImage();
@@ -34,7 +34,7 @@ QRect litArea(PictureWidget &widget)
     return lit;
 }
 
-/// Black and white columns, one pixel each.
+// Black and white columns, one pixel each.
 QImage stripes(QSize size)
 {
     QImage picture(size, QImage::Format_RGB32);

@@ -25,7 +25,7 @@ void collectWarning(QtMsgType type, const QMessageLogContext &, const QString &t
         s_warnings.append(text);
 }
 
-/// The frame that the engine was given, null when it is not the widget's own.
+// The frame that the engine was given, null when it is not the widget's own.
 QFrame *videoFrameOf(const LiveVideoWidget &widget)
 {
     auto *frame = qobject_cast<QFrame *>(FakeEngine::script().target.data());
@@ -42,14 +42,14 @@ QTimer *shotTimerOf(const LiveVideoWidget &widget)
     return widget.findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-/// What happens when the time to the next photo of a burst is over, without waiting for it.
+// What happens when the time to the next photo of a burst is over, without waiting for it.
 void letBurstTimePass(const LiveVideoWidget &widget)
 {
     QVERIFY(shotTimerOf(widget)->isActive());
     QVERIFY(QMetaObject::invokeMethod(shotTimerOf(widget), "timeout"));
 }
 
-/// The calls of one operation with their arguments, oldest first.
+// The calls of one operation with their arguments, oldest first.
 QStringList callsOf(const QString &operation)
 {
     return FakeEngine::script().calls.filter(QRegularExpression('^' + operation + "\\("));

@@ -16,7 +16,7 @@ QTimer *clockOf(const TimerWidget &widget)
     return widget.findChild<QTimer *>();
 }
 
-/// What happens when a second is over, without waiting for it.
+// What happens when a second is over, without waiting for it.
 void tick(const TimerWidget &widget, int times = 1)
 {
     for (int i = 0; i < times; ++i)

@@ -25,7 +25,7 @@ QStringList clientRaised(unsigned long window)
     return QStringList("XQueryTree " + QString::number(window)) + raised(window);
 }
 
-/// A step costs nothing here and can be counted.
+// A step costs nothing here and can be counted.
 class CountingManagement : public CWindowManagement {
 public:
     using CWindowManagement::CWindowManagement;
@@ -33,7 +33,7 @@ public:
     int steps = 0;
 };
 
-/// As the main window is built: the raising gets a widget of which only QWidget exists yet.
+// As the main window is built: the raising gets a widget of which only QWidget exists yet.
 class HalfBuilt : public QWidget, public CWindowManagement {
 public:
     HalfBuilt()
@@ -42,7 +42,7 @@ public:
     }
 };
 
-/// The window of another program that has come in front of a widget on the screen.
+// The window of another program that has come in front of a widget on the screen.
 class OtherWindow : public QWidget {
 public:
     explicit OtherWindow(QWidget &behind)

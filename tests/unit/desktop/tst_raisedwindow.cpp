@@ -11,7 +11,7 @@ namespace {
 
 const QRect place(200, 150, 300, 200);
 
-/// A window of one colour without a frame, so that the screen tells which one is in front.
+// A window of one colour without a frame, so that the screen tells which one is in front.
 class Coloured final : public QWidget {
 public:
     explicit Coloured(const QColor &colour)
@@ -25,8 +25,8 @@ public:
 
 } // namespace
 
-/// The raising as it is on a desktop: with an X server, and a window manager that has its own
-/// ideas.
+// The raising as it is on a desktop: with an X server, and a window manager that has its own
+// ideas.
 class tst_RaisedWindow : public QObject {
     Q_OBJECT
 

@@ -42,7 +42,7 @@ public:
         build();
     }
 
-    /// In 8 bits, as a file keeps it.
+    // In 8 bits, as a file keeps it.
     static QColor colorOf(int number)
     {
         return {QColor::fromHsv(number * 37 % 360, 220, 200).rgb()};
@@ -84,7 +84,7 @@ public:
         return texts;
     }
 
-    /// Those on the screen, in the order of their making.
+    // Those on the screen, in the order of their making.
     QVector<PictureWidget *> tiles()
     {
         QVector<PictureWidget *> shown;

@@ -30,8 +30,8 @@ void writeFile(const QString &path, const QByteArray &content)
     file.write(content);
 }
 
-/// Runs @p action and closes the window while the first modal box that it opens stands; then the
-/// box goes too. The texts of all boxes that came.
+// Runs @p action and closes the window while the first modal box that it opens stands; then the
+// box goes too. The texts of all boxes that came.
 QStringList closedUnderTheBoxOf(CVistrelDlg &dialog, const std::function<void()> &action)
 {
     QStringList texts;

@@ -27,7 +27,7 @@ public:
     QString folder() const { return temporaryArea() + QStringLiteral("/tmp"); }
     QStringList files() const { return QDir(folder()).entryList(QDir::Files, QDir::Name); }
 
-    /// The content of the file that is there, of the newest one if there are several.
+    // The content of the file that is there, of the newest one if there are several.
     QByteArray handedOver() const
     {
         QFile file(folder() + QLatin1Char('/') + files().value(files().size() - 1));
@@ -47,7 +47,7 @@ QByteArray lines(const QStringList &lines)
     return (lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8();
 }
 
-/// Runs the test from the beginning of a second, so that two hand-overs share their name.
+// Runs the test from the beginning of a second, so that two hand-overs share their name.
 void awaitBeginningOfASecond()
 {
     QTRY_VERIFY(QTime::currentTime().msec() < 500);

@@ -20,7 +20,7 @@ class Looks : public QObject {
 public:
     Looks() { qApp->installEventFilter(this); }
 
-    /// Whether the window looks at all within the time.
+    // Whether the window looks at all within the time.
     bool goOn(int milliseconds) const
     {
         const int before = m_count;

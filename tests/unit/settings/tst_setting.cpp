@@ -65,7 +65,7 @@ QToolButton *browse(const Setting &dialog)
     return find<QToolButton>(dialog, "tolSaveDirectory");
 }
 
-/** The file of the user whose home the test has made. */
+// The file of the user whose home the test has made.
 QString settingsFile(const StoreFolders &folders)
 {
     return folders.home() + "/.halcyra_orvantacc.ini";
@@ -76,7 +76,7 @@ bool writeSettings(const StoreFolders &folders, const QByteArray &lines)
     return StoreFolders::write(settingsFile(folders), "[General]\n" + lines);
 }
 
-/** The lines of the file, without the order that the toolkit gives them. */
+// The lines of the file, without the order that the toolkit gives them.
 QStringList linesOf(const StoreFolders &folders)
 {
     QStringList lines = QString::fromUtf8(StoreFolders::read(settingsFile(folders)))

@@ -14,7 +14,7 @@ class FakeDisk {
 public:
     using Hook = std::function<int(const QByteArray &path)>;
 
-    /** Takes all hooks away when it goes. */
+    /// Takes all hooks away when it goes.
     FakeDisk() = default;
     ~FakeDisk() { onFlush = onClose = nullptr; }
     FakeDisk(const FakeDisk &) = delete;

@@ -12,12 +12,12 @@
  */
 class ForeignLocale {
 public:
-    /** @p name as the system calls it, such as "tr_TR". */
+    /// @p name as the system calls it, such as "tr_TR".
     explicit ForeignLocale(const QString &name);
     ~ForeignLocale();
     Q_DISABLE_COPY(ForeignLocale)
 
-    /** False if the locale could not be made; then a test with it says nothing. */
+    /// False if the locale could not be made; then a test with it says nothing.
     bool isInUse() const { return m_isInUse; }
 
 private:

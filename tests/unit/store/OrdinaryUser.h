@@ -21,7 +21,7 @@ public:
     }
     Q_DISABLE_COPY(OrdinaryUser)
 
-    /** False if root could not be put off; then a test of what is forbidden says nothing. */
+    /// False if root could not be put off; then a test of what is forbidden says nothing.
     bool isOrdinary() const { return m_ordinary; }
 
 private:

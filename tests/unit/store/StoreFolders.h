@@ -19,15 +19,15 @@ public:
     QString home() const { return root() + QStringLiteral("/home"); }
     QString temporary() const { return root() + QStringLiteral("/tmp"); }
     QString target() const { return root() + QStringLiteral("/saved"); }
-    /** Where captured files are expected: below temporary(). */
+    /// Where captured files are expected: below temporary().
     QString area() const;
 
-    /** Lets the temporary area lie below a plain file, where no user can make a folder. */
+    /// Lets the temporary area lie below a plain file, where no user can make a folder.
     void makeAreaImpossible();
-    /** Forgets everything the store has found out so far, as a new run of the program does. */
+    /// Forgets everything the store has found out so far, as a new run of the program does.
     static void forget();
 
-    /** Writes a file; with a @p modified moment, it seems to have been written then. */
+    /// Writes a file; with a @p modified moment, it seems to have been written then.
     static bool write(const QString &path, const QByteArray &contents = "x",
                       const QDateTime &modified = {});
     static QByteArray read(const QString &path);

@@ -9,7 +9,7 @@
 /** Another time zone, for as long as it lives. */
 class TimeZone {
 public:
-    /** As the system spells it: "EAST-14" is 14 hours before Greenwich. */
+    /// As the system spells it: "EAST-14" is 14 hours before Greenwich.
     explicit TimeZone(const QByteArray &zone)
         : m_old(qgetenv("TZ"))
     {
@@ -18,7 +18,7 @@ public:
     ~TimeZone() { set(m_old); }
     Q_DISABLE_COPY(TimeZone)
 
-    /** The wall clock to the second, as the C library tells it: yyyyMMddhhmmss. */
+    /// The wall clock to the second, as the C library tells it: yyyyMMddhhmmss.
     static QString localStamp()
     {
         const time_t now = std::time(nullptr);

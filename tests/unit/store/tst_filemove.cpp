@@ -15,10 +15,10 @@ namespace {
 
 const QDateTime lesson({2009, 3, 4}, {9, 5, 7});
 
-/** No valid UTF-8, as of a file that came from a machine of another time. */
+// No valid UTF-8, as of a file that came from a machine of another time.
 const QByteArray notText("photo2\xff\xe4.png");
 
-/** What the toolkit cannot spell it cannot open either. */
+// What the toolkit cannot spell it cannot open either.
 bool writeBytes(const QString &folder, const QByteArray &name, const QByteArray &contents)
 {
     const QByteArray path = QFile::encodeName(folder) + '/' + name;

@@ -35,7 +35,7 @@ private Q_SLOTS:
 
 namespace {
 
-/** Writes the files into the area, each a second younger than the one before. */
+// Writes the files into the area, each a second younger than the one before.
 bool fill(const StoreFolders &folders, const QStringList &oldestFirst)
 {
     QDateTime moment({2009, 3, 4}, {9, 0, 0});

@@ -40,7 +40,7 @@ private:
     rlimit m_oldLimit = {};
 };
 
-/** Notes which cursor is shown at the moment the store complains. */
+// Notes which cursor is shown at the moment the store complains.
 Qt::CursorShape cursorAtComplaint = Qt::ArrowCursor;
 
 void noteCursor(QtMsgType, const QMessageLogContext &context, const QString &)

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QTest>
 
-/// The languages that a classroom may count on.
+/** The languages that a classroom may count on. */
 inline QStringList languages()
 {
     return {"ar", "cs", "da", "de", "el", "en", "es", "fi", "fr", "he",
@@ -12,7 +12,7 @@ inline QStringList languages()
             "ro", "ru", "sk", "sv", "th", "tr", "uk", "vi", "zh", "zh_TW"};
 }
 
-/// One row of test data for each language.
+/** One row of test data for each language. */
 inline void addLanguageRows()
 {
     QTest::addColumn<QString>("language");

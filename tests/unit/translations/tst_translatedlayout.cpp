@@ -61,7 +61,7 @@ QString inLanguage(const Text &text)
     return QCoreApplication::translate(text.context, text.source);
 }
 
-/// What the label needs for its text at its own width. A word that is too long makes it wider.
+// What the label needs for its text at its own width. A word that is too long makes it wider.
 QSize neededBy(const QLabel &label)
 {
     const int wrap = label.wordWrap() ? Qt::TextWordWrap : 0;
@@ -86,8 +86,8 @@ QByteArray complaint(const QString &text, QSize needed, QSize available)
         .toUtf8();
 }
 
-/// The texts of a box that do not have the room that they ask for, or that run out of the row that
-/// holds them; empty when all is well.
+// The texts of a box that do not have the room that they ask for, or that run out of the row that
+// holds them; empty when all is well.
 QByteArray clippedTextsOf(const QWidget &box)
 {
     QByteArray clipped;
@@ -104,7 +104,7 @@ QByteArray clippedTextsOf(const QWidget &box)
     return clipped;
 }
 
-/// The buttons of the window's screens. "Back" is on none of them: tiles bring their own.
+// The buttons of the window's screens. "Back" is on none of them: tiles bring their own.
 QList<CStretchBitmapButton *> buttonsOf(const QWidget &window)
 {
     auto buttons =
@@ -119,8 +119,8 @@ QLabel *captionOf(const CStretchBitmapButton &button)
     return button.findChild<QLabel *>(QStringLiteral("caption"));
 }
 
-/// The captions of a window that their buttons have no room for, at the size that the window gave
-/// them; empty when all is well.
+// The captions of a window that their buttons have no room for, at the size that the window gave
+// them; empty when all is well.
 QByteArray clippedCaptionsOf(const QWidget &window)
 {
     QByteArray clipped;
@@ -136,7 +136,7 @@ QByteArray clippedCaptionsOf(const QWidget &window)
     return clipped;
 }
 
-/// What is wrong with the message box that an action shows; it is closed at once.
+// What is wrong with the message box that an action shows; it is closed at once.
 QByteArray troubleWithBoxOf(const std::function<void()> &action)
 {
     QByteArray trouble = "no box came";

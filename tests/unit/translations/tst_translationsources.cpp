@@ -22,7 +22,7 @@ struct Message {
     QString key() const { return context + QLatin1Char(':') + source; }
 };
 
-/// Empty when the file is missing or is not well-formed.
+// Empty when the file is missing or is not well-formed.
 QVector<Message> readMessages(const QString &path)
 {
     QFile file(path);

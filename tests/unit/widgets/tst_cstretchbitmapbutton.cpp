@@ -15,7 +15,7 @@ const QColor downColor(160, 0, 0);
 const QColor disabledColor(40, 40, 40);
 const QColor upRightColor(0, 160, 0);
 
-/// A window with one button in it.
+// A window with one button in it.
 struct Stage {
     explicit Stage(const QString &name)
     {
@@ -36,7 +36,7 @@ struct Stage {
     CStretchBitmapButton *button = nullptr;
 };
 
-/// Mirrors the whole program for the length of a test.
+// Mirrors the whole program for the length of a test.
 struct RightToLeft {
     RightToLeft() { QApplication::setLayoutDirection(Qt::RightToLeft); }
     ~RightToLeft() { QApplication::setLayoutDirection(Qt::LeftToRight); }
