@@ -60,14 +60,17 @@ void translate()
 
     // Never deleted: it is in use until the last widget is gone.
     static auto *const translator = new QTranslator;
+    // The toolkit's translator goes in first: of two that know a text the one installed last is
+    // used, and that is to be our own.
     if (translator->load(dir + "/" + filePrefix + locale))
-        translateToolkit(locale); // first: what we translate ourselves goes before
+        translateToolkit(locale);
     // Installed even when there was nothing to load; the texts are then the English ones.
     QCoreApplication::installTranslator(translator);
 
     if (locale == "ar") {
-        // The thinnest cut of DejaVu Sans, which our thin texts would come to, has no Arabic
-        // letters, and those of its typewriter would stand in for them.
+        // Our texts ask for a very thin Arial. Where that is missing the system offers DejaVu Sans
+        // ExtraLight, which has no Arabic letters, and takes those from a monospaced font. These
+        // two families have proper ones.
         QFont::insertSubstitutions("Arial", {"Liberation Sans", "DejaVu Sans Condensed"});
     }
     if (locale == "ar" || locale == "he")

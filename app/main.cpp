@@ -13,6 +13,8 @@
 
 namespace {
 
+// From the end of main to the forced end of the process: longer than the libraries take to tidy up,
+// and too short for a user to start the program again meanwhile.
 #ifdef __SANITIZE_ADDRESS__
 constexpr std::chrono::milliseconds endLimit(20000); // the leak checker looks through all memory
 #else

@@ -100,7 +100,8 @@ void PictureListView::AddPictureWithSelect(const QString &name)
     m_selectedNames.append(name);
 }
 
-// Two thirds of the strip are picture; a line of text and the scroll bar share the rest.
+// Two thirds of the strip are picture, of about 4:3; a line of text (9 to 14 px, as much as a strip
+// of any screen has room for) and the scroll bar share the rest.
 void PictureListView::chooseIconSize()
 {
     const int iconHeight = height() / 3 * 2;

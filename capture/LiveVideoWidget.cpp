@@ -195,7 +195,8 @@ bool LiveVideoWidget::recordWithoutVideo()
 {
     m_videoValid = false;
     QString message = invalidVideoText();
-    // Meant as it reads: a microphone that works is what makes the message name both devices.
+    // Not inverted by mistake: with a working microphone the message names both devices, and both
+    // count as missing until Create() has looked again. Without one it names the camera alone.
     if (m_engine.IsValidAudioDevice()) {
         message = tr("The video device and the audio device are invalid. "
                      "Please confirm whether the device is correctly connected. ");

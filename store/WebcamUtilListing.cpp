@@ -123,7 +123,7 @@ QStringList WebcamUtil::getMovieFileList()
 bool WebcamUtil::isSaveFile()
 {
     const QStringList names = listTemporaryArea();
-    // An empty area leaves the last record as it was. That is meant.
+    // With nothing to ask about, the record keeps what the last question was about.
     if (names.isEmpty())
         return false;
     m_savefilenameList = names;

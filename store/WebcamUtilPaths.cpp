@@ -58,7 +58,8 @@ QString WebcamUtil::getTemporaryPath()
 
 void WebcamUtil::deleteTemporaryPath()
 {
-    // An area that was never set up is looked for without the user's number. That is meant.
+    // Without the user's number if no area was set up here: a process that never had one must not
+    // take away the area of another that is about to use it.
     const QString path =
         m_pictureDataPath.isEmpty() ? QDir::tempPath() + temporaryAreaName() : m_pictureDataPath;
     const QDir folder(path);
