@@ -48,12 +48,13 @@ public:
     /// px, the camera's own picture; valid after Create().
     QSize getNativeSize() const;
 
-    void Start();
-    void Stop();
-    void Reset();
+    void Start(); ///< shows the picture, and "LIVE" over it
+    void Stop(); ///< blackens the view and ends a burst; the camera stays open
+    void Reset(); ///< repaints, also after the view has moved
     /// Closes the camera; Create() opens it again.
     void Release();
 
+    /// The open camera's sizes, as setResolution() takes them, largest first; empty without one.
     QStringList GetResoList();
     /// @p text is width, "x" and height in px, such as "640x480". Text without an "x" is ignored.
     void setResolution(const QString &text);
@@ -66,6 +67,7 @@ public:
     /// it can answer for its devices. A movie that does not begin although both devices work is
     /// refused in the words for the camera, and leaves everything as it was.
     bool Record();
+    /// Completes the movie; returns at once when none is recorded.
     void RecordStop();
     /// Waits for movies whose files are still being completed; false when one is not in time.
     bool completeMovies();

@@ -25,7 +25,7 @@ public:
     void setVideoDeviceList(const QStringList &names);
     /// The chosen camera's position in the list that was given; -1 when that list was empty.
     int getVideoDevice();
-    QString getVideoDeviceName();
+    QString getVideoDeviceName(); ///< of the chosen one, as it was given; empty when there is none
 
     /// Always of the dialog's one width, so that who sizes it by this does not narrow it.
     QSize sizeHint() const override;

@@ -61,6 +61,8 @@ public:
     // --- DisplayModes.cpp: the screens -----------------------------------------------------
     /// Switches to @p mode's screen and remembers it, whatever its value.
     void TransitionMode(DisplayMode mode);
+    // The steps of TransitionMode(): each lays out one screen and its row of buttons. Whoever calls
+    // one by itself leaves displayMode() as it was.
     void SetLiveMode();
     void SetMovieMode();
     void SetPhotoMode();
