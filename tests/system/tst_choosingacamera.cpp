@@ -1,18 +1,9 @@
+#include "LabCommands.h"
 #include "Session.h"
 
-#include <QProcess>
 #include <QTest>
 
-namespace {
-
-constexpr int startLimit = 15000; // ms
-
-bool labctl(const QStringList &arguments)
-{
-    return QProcess::execute("labctl", arguments) == 0;
-}
-
-} // namespace
+static constexpr int startLimit = 15000; // ms
 
 // Several cameras, one of them the maker's own document camera, which is not the first of them.
 class TestChoosingACamera : public QObject {

@@ -1,3 +1,4 @@
+#include "LabCommands.h"
 #include "LabPattern.h"
 #include "Session.h"
 
@@ -15,11 +16,6 @@ const QSize cameraSize(1280, 720);
 // With its trailing blank.
 const char lostText[] = "The video device is invalid. Please confirm whether the device is "
                         "correctly connected. ";
-
-bool labctl(const QStringList &arguments)
-{
-    return QProcess::execute("labctl", arguments) == 0;
-}
 
 // A movie of a few seconds whose picture changes all the time.
 bool makeMovie(const QString &path)

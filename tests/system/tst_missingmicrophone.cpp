@@ -1,16 +1,7 @@
+#include "LabCommands.h"
 #include "Session.h"
 
-#include <QProcess>
 #include <QTest>
-
-namespace {
-
-bool labctl(const QStringList &arguments)
-{
-    return QProcess::execute("labctl", arguments) == 0;
-}
-
-} // namespace
 
 // What the program says at its start about a camera and a microphone, of which one or both are
 // missing.

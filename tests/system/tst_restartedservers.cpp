@@ -1,25 +1,16 @@
+#include "LabCommands.h"
 #include "Session.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QTest>
 
 #include <memory>
 
-namespace {
-
 // With its trailing blank.
-const char lostText[] = "The video device is invalid. Please confirm whether the device is "
-                        "correctly connected. ";
+static const char lostText[] = "The video device is invalid. Please confirm whether the device is "
+                               "correctly connected. ";
 
-constexpr int patienceMs = 10000;
-
-bool labctl(const QStringList &arguments)
-{
-    return QProcess::execute("labctl", arguments) == 0;
-}
-
-} // namespace
+static constexpr int patienceMs = 10000;
 
 // The media server crashes in the middle of the lesson, and sound server and session manager go
 // with it. The session starts them anew.
