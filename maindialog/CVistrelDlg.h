@@ -27,8 +27,8 @@ class TimerWidget;
 /**
  * The program's one window: frameless, as large as the screen's free area, the live picture above a
  * row of large buttons. It is the hub: each button's slot is one flow, written in the .cpp file
- * that heads its section below. A flow calls the views and the store and ends by switching the
- * screen with TransitionMode().
+ * that is named behind the slot; what the flow needs stands in the section of that file. A flow
+ * calls the views and the store and ends by switching the screen with TransitionMode().
  *
  * Lives on the GUI thread. Children belong to the window; the live view alone is deleted by hand,
  * when the window closes. The window keeps itself in front of other windows until the first modal
@@ -254,10 +254,10 @@ private:
     void endSeries();
     void endCountdown();
 
-    bool m_selfTimer = true;
-    int m_selfTimerSeconds = 0;
-    int m_shotTarget = 0; ///< the same setting; what a series counts up to
-    int m_shotCounter = 0;
+    bool m_selfTimer = true; ///< countdowns take the photos, not presses
+    int m_selfTimerSeconds = 0; ///< s, length of a countdown
+    int m_shotTarget = 0; ///< photos of a whole series
+    int m_shotCounter = 0; ///< photos taken so far
     QStringList m_seriesList; ///< bare names of the series' photos, in order
 
     // --- MovieFlow.cpp ---------------------------------------------------------------------
