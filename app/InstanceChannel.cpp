@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int headerBytes = sizeof(quint32);
-constexpr qint64 retryMs = 20;
+constexpr qint64 retryMs = 20; // between two tries to reach a first that does not listen yet
 constexpr char answer[] = "ok";
 constexpr int answerBytes = sizeof answer - 1;
 

@@ -13,6 +13,12 @@ namespace {
 constexpr QColor captionColor(255, 255, 255);
 constexpr QColor disabledCaptionColor(128, 128, 128);
 
+// px; wide enough to be seen from where one sits at the keyboard, and clear of the button's edge.
+constexpr qreal focusMarkInset = 4;
+constexpr qreal focusMarkRadius = 6;
+constexpr qreal focusMarkRim = 6;
+constexpr qreal focusMarkLine = 3;
+
 int availableScreenWidth()
 {
     return QGuiApplication::primaryScreen()->availableGeometry().width();
@@ -119,10 +125,11 @@ void CStretchBitmapButton::paintEvent(QPaintEvent * /*event*/)
 // by the keyboard; a finger or the mouse needs no mark.
 void CStretchBitmapButton::paintFocusMark(QPainter &painter) const
 {
-    const QRectF frame = QRectF(rect()).adjusted(4, 4, -4, -4);
+    const QRectF frame =
+        QRectF(rect()).adjusted(focusMarkInset, focusMarkInset, -focusMarkInset, -focusMarkInset);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::black, 6));
-    painter.drawRoundedRect(frame, 6, 6);
-    painter.setPen(QPen(QColor(255, 214, 0), 3));
-    painter.drawRoundedRect(frame, 6, 6);
+    painter.setPen(QPen(Qt::black, focusMarkRim));
+    painter.drawRoundedRect(frame, focusMarkRadius, focusMarkRadius);
+    painter.setPen(QPen(QColor(255, 214, 0), focusMarkLine));
+    painter.drawRoundedRect(frame, focusMarkRadius, focusMarkRadius);
 }
