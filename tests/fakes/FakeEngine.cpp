@@ -9,7 +9,7 @@
 
 namespace {
 
-LiveVideoData *s_engine = nullptr; // the one that lives, null when there is none
+LiveVideoData *livingEngine = nullptr; // the one that lives, null when there is none
 
 void note(const QString &call)
 {
@@ -41,14 +41,14 @@ void FakeEngine::reset()
 
 void FakeEngine::loseCamera()
 {
-    Q_ASSERT(s_engine);
-    Q_EMIT s_engine->disconnectDevice();
+    Q_ASSERT(livingEngine);
+    Q_EMIT livingEngine->disconnectDevice();
 }
 
 void FakeEngine::endRecording()
 {
-    Q_ASSERT(s_engine);
-    Q_EMIT s_engine->recordend();
+    Q_ASSERT(livingEngine);
+    Q_EMIT livingEngine->recordend();
 }
 
 int FakeEngine::callCount(const QString &operation)
@@ -63,14 +63,14 @@ class LiveVideoData::Private { };
 
 LiveVideoData::LiveVideoData()
 {
-    s_engine = this;
+    livingEngine = this;
 }
 
 LiveVideoData::~LiveVideoData()
 {
     note(QStringLiteral("~LiveVideoData()"));
-    if (s_engine == this)
-        s_engine = nullptr;
+    if (livingEngine == this)
+        livingEngine = nullptr;
 }
 
 void LiveVideoData::SetInterruption(const std::function<bool()> &) { }

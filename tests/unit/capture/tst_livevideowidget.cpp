@@ -17,12 +17,12 @@
 
 namespace {
 
-QStringList s_warnings; // what Qt complains about while complaints are collected
+QStringList seenWarnings; // what Qt complains about while complaints are collected
 
 void collectWarning(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type != QtDebugMsg && type != QtInfoMsg)
-        s_warnings.append(text);
+        seenWarnings.append(text);
 }
 
 // The frame that the engine was given, null when it is not the widget's own.
@@ -138,7 +138,7 @@ void LiveVideoWidgetTest::isBlackBeforeTheFirstPictureAndPaintsNothingItself()
          {Qt::WA_OpaquePaintEvent, Qt::WA_NoSystemBackground, Qt::WA_PaintOnScreen})
         QVERIFY(!widget.testAttribute(attribute));
 
-    s_warnings.clear();
+    seenWarnings.clear();
     const QtMessageHandler usual = qInstallMessageHandler(collectWarning);
     window.show();
     const bool exposed = QTest::qWaitForWindowExposed(&window);
@@ -147,7 +147,7 @@ void LiveVideoWidgetTest::isBlackBeforeTheFirstPictureAndPaintsNothingItself()
     QVERIFY(exposed);
     QCOMPARE(picture.pixelColor(20, 50), QColor(Qt::red));
     QCOMPARE(picture.pixelColor(100, 50), QColor(Qt::black));
-    QCOMPARE(s_warnings, QStringList());
+    QCOMPARE(seenWarnings, QStringList());
 }
 
 void LiveVideoWidgetTest::hasAGreenLiveLabelAboveTheFrame()

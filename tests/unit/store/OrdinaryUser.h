@@ -11,7 +11,7 @@ public:
     OrdinaryUser()
         : m_real(getuid())
         , m_effective(geteuid())
-        , m_ordinary(m_effective != 0 || setresuid(m_nobody, m_nobody, 0) == 0)
+        , m_ordinary(m_effective != 0 || setresuid(nobody, nobody, 0) == 0)
     {
     }
     ~OrdinaryUser()
@@ -25,7 +25,7 @@ public:
     bool isOrdinary() const { return m_ordinary; }
 
 private:
-    static constexpr uid_t m_nobody = 65534;
+    static constexpr uid_t nobody = 65534;
     uid_t m_real;
     uid_t m_effective;
     bool m_ordinary;
