@@ -1,16 +1,15 @@
 #include "MessageReader.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QPushButton>
-#include <QTimer>
 
 MessageReader::MessageReader(QObject *parent)
     : QObject(parent)
+    , m_glance([this](QWidget &box) {
+        if (auto *message = qobject_cast<QMessageBox *>(&box))
+            read(*message);
+    })
 {
-    auto *glance = new QTimer(this);
-    connect(glance, &QTimer::timeout, this, &MessageReader::readOpenBox);
-    glance->start(10);
 }
 
 QStringList MessageReader::texts() const
@@ -21,17 +20,14 @@ QStringList MessageReader::texts() const
     return texts;
 }
 
-void MessageReader::readOpenBox()
+void MessageReader::read(QMessageBox &box)
 {
-    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-    if (!box || !box->isVisible())
-        return;
-    m_messages.append({box->icon(), box->windowTitle(), box->text()});
-    QAbstractButton *wayOut = box->defaultButton();
-    if (!wayOut && !box->buttons().isEmpty())
-        wayOut = box->buttons().constFirst();
+    m_messages.append({box.icon(), box.windowTitle(), box.text()});
+    QAbstractButton *wayOut = box.defaultButton();
+    if (!wayOut && !box.buttons().isEmpty())
+        wayOut = box.buttons().constFirst();
     if (wayOut)
         wayOut->click();
     else
-        box->reject();
+        box.reject();
 }

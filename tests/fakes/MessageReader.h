@@ -1,6 +1,8 @@
 #ifndef MESSAGEREADER_H
 #define MESSAGEREADER_H
 
+#include "BoxGlance.h"
+
 #include <QMessageBox>
 #include <QObject>
 #include <QStringList>
@@ -27,9 +29,10 @@ public:
     QStringList texts() const;
 
 private:
-    void readOpenBox();
+    void read(QMessageBox &box);
 
     QVector<Message> m_messages;
+    BoxGlance m_glance;
 };
 
 #endif

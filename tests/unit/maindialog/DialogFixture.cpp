@@ -1,5 +1,6 @@
 #include "DialogFixture.h"
 
+#include "BoxGlance.h"
 #include "CStretchBitmapButton.h"
 #include "FakeEngine.h"
 #include "WebcamUtil.h"
@@ -12,7 +13,6 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QTest>
-#include <QTimer>
 
 namespace {
 
@@ -156,22 +156,17 @@ void DialogFixture::fillTheDisk()
 QString DialogFixture::boxDuring(const std::function<void()> &action, const QString &answer)
 {
     QString text;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, [&] {
-        QWidget *box = QApplication::activeModalWidget();
-        if (!box)
-            return;
-        text = textOf(*box);
-        const auto buttons = box->findChildren<QAbstractButton *>();
+    const BoxGlance user([&](QWidget &box) {
+        text = textOf(box);
+        const auto buttons = box.findChildren<QAbstractButton *>();
         for (QAbstractButton *button : buttons) {
             if (QString(button->text()).remove(QLatin1Char('&')) == answer) {
                 button->click();
                 return;
             }
         }
-        box->close(); // no such button: leave the box as a user would
+        box.close(); // no such button: leave the box as a user would
     });
-    watch.start(10);
     action();
     return text;
 }

@@ -1,17 +1,16 @@
+#include "BoxGlance.h"
 #include "DialogFixture.h"
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
 #include "TimerWidget.h"
 
-#include <QApplication>
 #include <QDate>
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 
 namespace {
 
@@ -35,17 +34,12 @@ void writeFile(const QString &path, const QByteArray &content)
 QStringList closedUnderTheBoxOf(CVistrelDlg &dialog, const std::function<void()> &action)
 {
     QStringList texts;
-    QTimer glance;
-    QObject::connect(&glance, &QTimer::timeout, [&] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box)
-            return;
-        texts.append(box->text());
+    const BoxGlance user([&](QWidget &box) {
+        texts.append(static_cast<QMessageBox &>(box).text());
         if (dialog.isVisible())
             dialog.close();
-        box->close();
+        box.close();
     });
-    glance.start(10);
     action();
     return texts;
 }

@@ -105,13 +105,6 @@ void loseCamera(QWidget &)
     FakeEngine::loseCamera();
 }
 
-void writeSettings(const DialogFixture &fixture, const QByteArray &lines)
-{
-    QFile file(fixture.home() + QStringLiteral("/.halcyra_orvantacc.ini"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[General]\n" + lines);
-}
-
 void selectInStrip(const DialogFixture &fixture, int count)
 {
     auto &strip = fixture.child<PictureListView>();
@@ -398,7 +391,7 @@ void DevicesTest::aLossLeavesTheLiveScreenWithListAndExit()
 {
     QFETCH(QString, screen);
     DialogFixture fixture;
-    writeSettings(fixture, "AutoShoot=1\nAutoShootTime=1\nContinuShootCount=2\n");
+    fixture.setSettings("AutoShoot=1\nAutoShootTime=1\nContinuShootCount=2\n");
     CVistrelDlg &dialog = fixture.build();
     storyOf(screen)(fixture);
     QVERIFY(!QTest::currentTestFailed());
@@ -435,7 +428,7 @@ void DevicesTest::aLossLeavesTheLiveScreenWithListAndExit()
 void DevicesTest::aCountdownStandsStillWhileTheMessageStands()
 {
     DialogFixture fixture;
-    writeSettings(fixture, "AutoShoot=1\nAutoShootTime=30\n");
+    fixture.setSettings("AutoShoot=1\nAutoShootTime=30\n");
     fixture.build();
     auto &countdown = fixture.child<TimerWidget>();
     countdown.setTickInterval(20);

@@ -1,3 +1,4 @@
+#include "BoxGlance.h"
 #include "CWMUpdateTimer.h"
 #include "DialogFixture.h"
 #include "FakeEngine.h"
@@ -43,26 +44,20 @@ private:
 class BoxWatch {
 public:
     explicit BoxWatch(const Looks &looks)
-    {
-        QObject::connect(&m_glance, &QTimer::timeout, [this, &looks] {
-            QWidget *box = QApplication::activeModalWidget();
-            if (!box || !box->isVisible())
-                return;
-            m_glance.stop();
+        : m_glance([this, &looks](QWidget &box) {
             ++boxes;
             if (looks.goOn(severalPeriodsMs))
                 ++boxesCovered;
-            box->close();
-            m_glance.start();
-        });
-        m_glance.start(fastMs);
+            box.close();
+        })
+    {
     }
 
     int boxes = 0;
     int boxesCovered = 0;
 
 private:
-    QTimer m_glance;
+    BoxGlance m_glance;
 };
 
 void nothing(DialogFixture &) { }

@@ -1,3 +1,4 @@
+#include "BoxGlance.h"
 #include "ContextTranslator.h"
 #include "ForeignLocale.h"
 #include "MessageReader.h"
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QTest>
-#include <QTimer>
 #include <QTranslator>
 
 #include <algorithm>
@@ -779,9 +779,8 @@ void SettingTest::theBrowseButtonAsksForAFolder()
     QString start;
     bool foldersOnly = false;
     bool linksKept = false;
-    QTimer user;
-    connect(&user, &QTimer::timeout, &dialog, [&] {
-        auto *chooser = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+    const BoxGlance user([&](QWidget &box) {
+        auto *chooser = qobject_cast<QFileDialog *>(&box);
         if (!chooser)
             return;
         caption = chooser->windowTitle();
@@ -795,7 +794,6 @@ void SettingTest::theBrowseButtonAsksForAFolder()
             chooser->reject();
         }
     });
-    user.start(20);
     QTest::mouseClick(browse(dialog), Qt::LeftButton);
     QCOMPARE(caption, QString("SaveDirectory"));
     QCOMPARE(start, before.isEmpty() ? folders.home() : before);

@@ -13,7 +13,7 @@ extern "C" int __real_statvfs(const char *path, struct statvfs *answer);
 namespace {
 
 /** Answers instead of the disk, as the test tells it; a folder that is not there has none. */
-struct FakeDisk {
+struct FakeSpace {
     static void reset()
     {
         answer = {};
@@ -30,24 +30,24 @@ struct FakeDisk {
     static bool isReal;
 };
 
-struct statvfs FakeDisk::answer;
-QByteArray FakeDisk::asked;
-bool FakeDisk::fails;
-bool FakeDisk::isReal;
+struct statvfs FakeSpace::answer;
+QByteArray FakeSpace::asked;
+bool FakeSpace::fails;
+bool FakeSpace::isReal;
 
 } // namespace
 
 extern "C" int __wrap_statvfs(const char *path, struct statvfs *answer)
 {
-    FakeDisk::asked = path;
+    FakeSpace::asked = path;
     const int real = __real_statvfs(path, answer);
-    if (real != 0 || FakeDisk::isReal)
+    if (real != 0 || FakeSpace::isReal)
         return real;
-    if (FakeDisk::fails) {
+    if (FakeSpace::fails) {
         errno = EIO;
         return -1;
     }
-    *answer = FakeDisk::answer;
+    *answer = FakeSpace::answer;
     return 0;
 }
 
@@ -55,7 +55,7 @@ class WebcamUtilDiskTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { FakeDisk::reset(); }
+    void init() { FakeSpace::reset(); }
 
     void moreThan300MegabytesAreEnough_data();
     void moreThan300MegabytesAreEnough();
@@ -101,13 +101,13 @@ void WebcamUtilDiskTest::theTemporaryAreasFileSystemIsAsked()
     QVERIFY(WebcamUtil::chkdiskFreeSpace());
     QVERIFY(QFileInfo(folders.area()).isDir());
     QCOMPARE(WebcamUtil::m_pictureDataPath, folders.area());
-    QCOMPARE(FakeDisk::asked, QFile::encodeName(folders.area()));
+    QCOMPARE(FakeSpace::asked, QFile::encodeName(folders.area()));
 }
 
 void WebcamUtilDiskTest::theAnswerIsThatOfTheRealDisk()
 {
     const StoreFolders folders;
-    FakeDisk::isReal = true;
+    FakeSpace::isReal = true;
     const bool enough = WebcamUtil::chkdiskFreeSpace();
     struct statvfs real = {};
     QCOMPARE(statvfs(QFile::encodeName(folders.area()).constData(), &real), 0);
@@ -135,16 +135,16 @@ void WebcamUtilDiskTest::onlyWhatUsersMayFillCounts()
     QFETCH(quint64, forUsers);
     QFETCH(quint64, forRoot);
     const StoreFolders folders;
-    FakeDisk::answer.f_frsize = unit;
-    FakeDisk::answer.f_bavail = forUsers;
-    FakeDisk::answer.f_bfree = forRoot;
+    FakeSpace::answer.f_frsize = unit;
+    FakeSpace::answer.f_bavail = forUsers;
+    FakeSpace::answer.f_bfree = forRoot;
     QTEST(WebcamUtil::chkdiskFreeSpace(), "enough");
 }
 
 void WebcamUtilDiskTest::aDiskThatDoesNotAnswerCountsAsFull()
 {
     const StoreFolders folders;
-    FakeDisk::fails = true;
+    FakeSpace::fails = true;
     QVERIFY(!WebcamUtil::chkdiskFreeSpace());
 }
 

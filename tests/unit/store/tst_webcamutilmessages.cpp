@@ -1,13 +1,12 @@
+#include "BoxGlance.h"
 #include "ContextTranslator.h"
 #include "WebcamUtil.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
 #include <QScreen>
 #include <QTest>
-#include <QTimer>
 
 namespace {
 
@@ -29,10 +28,9 @@ struct SeenBox {
 template <typename Open> SeenBox see(Open open)
 {
     SeenBox seen;
-    QTimer glance;
-    QObject::connect(&glance, &QTimer::timeout, &glance, [&seen] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box || !box->isVisible() || box->buttons().isEmpty())
+    const BoxGlance user([&seen](QWidget &widget) {
+        const auto *box = qobject_cast<QMessageBox *>(&widget);
+        if (!box || box->buttons().isEmpty())
             return;
         ++seen.count;
         seen.icon = box->icon();
@@ -46,7 +44,6 @@ template <typename Open> SeenBox see(Open open)
         seen.flags = box->windowFlags();
         box->buttons().constFirst()->click();
     });
-    glance.start(10);
     open();
     return seen;
 }

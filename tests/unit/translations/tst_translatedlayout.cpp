@@ -1,6 +1,7 @@
 // Every language in the real widgets, with the real fonts: nothing may be clipped on a screen of
 // 1024x768, and no letter may be missing from the fonts.
 
+#include "BoxGlance.h"
 #include "CStretchBitmapButton.h"
 #include "DialogFixture.h"
 #include "Languages.h"
@@ -18,7 +19,6 @@
 #include <QLabel>
 #include <QScreen>
 #include <QTextLayout>
-#include <QTimer>
 #include <QTranslator>
 
 #include <algorithm>
@@ -140,17 +140,12 @@ QByteArray clippedCaptionsOf(const QWidget &window)
 QByteArray troubleWithBoxOf(const std::function<void()> &action)
 {
     QByteArray trouble = "no box came";
-    QTimer glance;
-    QObject::connect(&glance, &QTimer::timeout, [&trouble] {
-        QWidget *box = QApplication::activeModalWidget();
-        if (!box || !box->isVisible())
-            return;
-        trouble = clippedTextsOf(*box);
-        if (!QRect(QPoint(), screenSize).contains(box->geometry()))
+    const BoxGlance user([&trouble](QWidget &box) {
+        trouble = clippedTextsOf(box);
+        if (!QRect(QPoint(), screenSize).contains(box.geometry()))
             trouble += "a box larger than the screen";
-        box->close();
+        box.close();
     });
-    glance.start(0);
     action();
     return trouble;
 }
