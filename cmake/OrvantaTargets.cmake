@@ -7,6 +7,7 @@ set(ORVANTA_INSTALL_DIR ${CMAKE_INSTALL_LIBDIR}/orvanta)
 
 add_library(orvanta_options INTERFACE)
 target_compile_options(orvanta_options INTERFACE
+    -pthread
     -Wall -Wextra -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
     $<$<BOOL:${ORVANTA_WERROR}>:-Werror>)
 target_compile_definitions(orvanta_options INTERFACE QT_NO_CAST_FROM_BYTEARRAY QT_NO_FOREACH
@@ -19,12 +20,14 @@ if(ORVANTA_SANITIZE)
     endif()
 endif()
 
-# orvanta_room(NAME SOURCES file... [USES target...])
+include(cmake/OrvantaPrecompiled.cmake)
+
+# orvanta_room(NAME SOURCES file... [USES target...] [PRECOMPILED kind])
 # One folder of the house: the static library orvanta_NAME. Its own folder is the only include
 # path it adds, so including a room that is not named under USES is a build error; so is a room that
 # is not built yet, which keeps two of them from using each other.
 function(orvanta_room name)
-    cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+    cmake_parse_arguments(ROOM "" "PRECOMPILED" "SOURCES;USES" ${ARGN})
     foreach(used ${ROOM_USES})
         if(used MATCHES "^orvanta_" AND NOT TARGET ${used})
             message(FATAL_ERROR "The room ${name} stands below ${used}")
@@ -33,6 +36,9 @@ function(orvanta_room name)
     add_library(orvanta_${name} STATIC ${ROOM_SOURCES})
     target_include_directories(orvanta_${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(orvanta_${name} PUBLIC ${ROOM_USES} PRIVATE orvanta_options)
+    if(ROOM_PRECOMPILED)
+        orvanta_use_precompiled(orvanta_${name} ${ROOM_PRECOMPILED})
+    endif()
 endfunction()
 
 # orvanta_test(NAME LABEL unit|engine|system SOURCES file... [USES target...] [TIMEOUT seconds]
@@ -48,7 +54,15 @@ function(orvanta_test name)
         set(TEST_TIMEOUT 120)
     endif()
     add_executable(${name} ${TEST_SOURCES})
-    target_link_libraries(${name} PRIVATE ${TEST_USES} Qt5::Test orvanta_options)
+    target_link_libraries(${name} PRIVATE ${TEST_USES} orvanta_test_options)
+    orvanta_use_precompiled(${name} test)
+    # One file to be looked through by moc, the one that includes the outcome: quicker than to look
+    # for such files, and to build what was found, in each of so many programs.
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+    set(moc ${CMAKE_CURRENT_BINARY_DIR}/${name}_moc)
+    qt5_generate_moc(${name}.cpp ${moc}/${name}.moc TARGET ${name})
+    target_sources(${name} PRIVATE ${moc}/${name}.moc)
+    target_include_directories(${name} PRIVATE ${moc})
     if(TEST_LAB)
         list(PREPEND TEST_COMMAND ${PROJECT_SOURCE_DIR}/tests/lab/lab
             --tools $<TARGET_FILE_DIR:labcam> ${TEST_LAB} --)
