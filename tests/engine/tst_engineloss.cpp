@@ -113,7 +113,7 @@ void TestEngineLoss::aLossIsReportedOnceAndSoon()
     QVERIFY(targetIsBlack());
     QVERIFY(m_engine->created);
     QVERIFY(!m_engine->SaveBitmap(m_folder.filePath("late.png")));
-    QTest::qWait(1000); // nothing can be waited for: a second report must not come
+    QTest::qWait(1000); // nothing to wait for: a second report must not come
     QCOMPARE(m_losses->count(), 1);
     m_engine->Release();
     QVERIFY(!m_engine->created);
@@ -191,7 +191,7 @@ void TestEngineLoss::aCameraThatPausesIsNoLoss()
 {
     QVERIFY(labctl({"freeze", "first"}));
     const QImage before = seen();
-    QTest::qWait(2000); // the pause itself
+    QTest::qWait(2000); // nothing to wait for: the pause itself
     QCOMPARE(m_losses->count(), 0);
     QVERIFY(labctl({"thaw", "first"}));
     QTRY_VERIFY(seen() != before);
@@ -204,8 +204,9 @@ void TestEngineLoss::aProcessThatStoodStillKeepsItsCamera()
     const QString self = QString::number(QCoreApplication::applicationPid());
     QElapsedTimer timer;
     timer.start();
+    const QString pause = QStringLiteral("sleep 6"); // nothing to wait for: it stands still
     QVERIFY(QProcess::startDetached(
-        "sh", {"-c", "kill -STOP " + self + "; sleep 6; kill -CONT " + self}));
+        "sh", {"-c", "kill -STOP " + self + "; " + pause + "; kill -CONT " + self}));
     QTRY_VERIFY_WITH_TIMEOUT(timer.elapsed() >= 6000, 30000);
     const QImage before = seen();
     QTRY_VERIFY(seen() != before);

@@ -163,7 +163,7 @@ void TestEngineMovie::record(int milliseconds)
     begin();
     QElapsedTimer timer;
     timer.start();
-    QTest::qWait(milliseconds);
+    QTest::qWait(milliseconds); // nothing to wait for: the movie's length
     QVERIFY(timer.elapsed() < milliseconds + 1000);
     end();
 }
@@ -192,9 +192,9 @@ void TestEngineMovie::pictureAndSoundAreCompleteAndInStep()
     const SpareTime time;
     QElapsedTimer timer;
     timer.start();
-    QTest::qWait(qMin(wanted, settled) * 1000);
+    QTest::qWait(qMin(wanted, settled) * 1000); // nothing to wait for: the movie's length
     const qint64 memory = residentMemory();
-    QTest::qWait(qMax(0, wanted - settled) * 1000);
+    QTest::qWait(qMax(0, wanted - settled) * 1000); // nothing to wait for: the movie's length
     const qint64 growth = residentMemory() - memory;
     const double length = double(timer.elapsed()) / 1000;
     end();
@@ -330,7 +330,7 @@ void TestEngineMovie::aSecondStartChangesNothing()
     const QString other = m_folder.filePath("other.mov");
     m_engine->Record(other);
     QVERIFY(m_engine->IsValidVideoDevice());
-    QTest::qWait(700);
+    QTest::qWait(700); // nothing to wait for: the movie's length
     m_engine->RecordStop();
     verifyPlayable(MovieFile(m_path), 0.5, 1.2);
     QVERIFY(!QFile::exists(other));
@@ -364,7 +364,7 @@ void TestEngineMovie::aPhotoDuringAMovieIsTakenAndTheMovieGoesOn()
     m_engine->Record(newPath());
     const QString still = m_folder.filePath("still.png");
     QVERIFY(m_engine->SaveBitmap(still));
-    QTest::qWait(1500);
+    QTest::qWait(1500); // nothing to wait for: the movie's length
     m_engine->RecordStop();
     const MovieFile movie(m_path);
     verifyPlayable(movie, 1.3, 2.2);
@@ -381,7 +381,7 @@ void TestEngineMovie::withoutAMicrophoneNothingIsRecorded()
     m_engine->Record(newPath());
     QVERIFY(m_engine->IsValidVideoDevice());
     QVERIFY(!m_engine->IsValidAudioDevice());
-    QTest::qWait(200);
+    QTest::qWait(200); // nothing to wait for: a movie that must not begin
     m_engine->RecordStop();
     QVERIFY(!QFile::exists(m_path));
     plugMicrophoneIn();
@@ -403,10 +403,10 @@ void TestEngineMovie::aMicrophonePulledOutLeavesSilence()
     QElapsedTimer timer;
     timer.start();
     m_engine->Record(newPath());
-    QTest::qWait(3000);
+    QTest::qWait(3000); // nothing to wait for: the movie's length so far
     QVERIFY(labctl({"microphone", "off"}));
     const double pulledOut = double(timer.elapsed()) / 1000;
-    QTest::qWait(4000);
+    QTest::qWait(4000); // nothing to wait for: the rest of the movie's length
     m_engine->RecordStop();
     const double length = double(timer.elapsed()) / 1000;
     plugMicrophoneIn();
@@ -425,7 +425,7 @@ void TestEngineMovie::aCameraPulledOutLeavesTheMovieUntilThen()
     QElapsedTimer timer;
     timer.start();
     m_engine->Record(newPath());
-    QTest::qWait(2000);
+    QTest::qWait(2000); // nothing to wait for: the movie's length
     const double length = double(timer.elapsed()) / 1000;
     QVERIFY(labctl({"unplug", "beeper"}));
     QTRY_COMPARE(lost.count(), 1);
@@ -439,7 +439,7 @@ void TestEngineMovie::aCameraPulledOutLeavesTheMovieUntilThen()
 void TestEngineMovie::closingTheCameraCompletesTheMovie()
 {
     m_engine->Record(newPath());
-    QTest::qWait(1000);
+    QTest::qWait(1000); // nothing to wait for: the movie's length
     m_engine->Release();
     verifyPlayable(MovieFile(m_path), 0.7, 1.6);
 }
@@ -447,7 +447,7 @@ void TestEngineMovie::closingTheCameraCompletesTheMovie()
 void TestEngineMovie::theEngineCompletesTheMovieWhenItIsDestroyed()
 {
     m_engine->Record(newPath());
-    QTest::qWait(1000);
+    QTest::qWait(1000); // nothing to wait for: the movie's length
     m_engine.reset();
     verifyPlayable(MovieFile(m_path), 0.7, 1.6);
 }
@@ -479,7 +479,7 @@ void TestEngineMovie::watchCamera(int milliseconds)
     timer.start();
     while (timer.elapsed() < milliseconds) {
         lookAtCamera();
-        QTest::qWait(1);
+        QTest::qWait(1); // nothing to wait for: it is looked at all the time
     }
 }
 

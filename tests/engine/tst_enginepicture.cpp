@@ -229,7 +229,7 @@ void TestEnginePicture::stoppingBlackensTheTargetAndStartingShowsTheNewestPictur
     const int last = LabPattern::counterOf(pictureOnScreen());
     m_engine->Stop();
     QTRY_VERIFY(isBlack());
-    QTest::qWait(300);
+    QTest::qWait(300); // nothing to wait for: a picture that must not come
     QVERIFY2(isBlack(), "nothing may be shown while it is stopped");
     m_engine->Start();
     QTRY_VERIFY(showsCamera("big"));
@@ -277,7 +277,7 @@ void TestEnginePicture::aHiddenTargetIsConvertedForNever()
     const EngineLogReader reader;
     m_target->hide();
     open("small");
-    QTest::qWait(500);
+    QTest::qWait(500); // nothing to wait for: the frames are counted at the end only
     m_engine->Release();
     const QPair<int, int> counts = framesTakenAndConverted();
     QVERIFY2(counts.first >= 10, qPrintable(QString::number(counts.first)));
@@ -306,7 +306,7 @@ void TestEnginePicture::theTargetMayBeDestroyedFirst()
     open("big");
     QTRY_VERIFY(showsCamera("big"));
     m_target.reset();
-    QTest::qWait(200);
+    QTest::qWait(200); // nothing to wait for: a target that is gone says nothing
     m_engine->Reset();
     m_engine->Stop();
     m_engine->Start();

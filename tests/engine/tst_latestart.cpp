@@ -21,11 +21,11 @@ static bool hasFormat(GstElement *source)
 static void beLate()
 {
     for (int i = 0; i < 30 && !hasFormat(opened); ++i)
-        g_usleep(10000);
+        g_usleep(10000); // nothing to wait for: looked at again, on a thread without a loop
     if (!hasFormat(opened))
         return; // what is asked before the camera can begin
     toBeLate = false;
-    g_usleep(200000);
+    g_usleep(200000); // nothing to wait for: the lateness itself
 }
 
 // Takes the place of the media server's function of this name, which the source calls before it

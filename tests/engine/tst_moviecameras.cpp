@@ -65,7 +65,7 @@ double TestMovieCameras::record(int milliseconds)
     timer.start();
     if (!m_engine->IsRecording())
         return -1;
-    QTest::qWait(milliseconds);
+    QTest::qWait(milliseconds); // nothing to wait for: the movie's length
     const double length = double(timer.elapsed()) / 1000;
     m_engine->RecordStop();
     return length;

@@ -179,11 +179,11 @@ void TestMovieSurvival::aMovieOfAProgramThatStoodStillSpansTheWholeTime()
 {
     Recording recording("beeper", newPath());
     QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
-    QTest::qWait(1500);
+    QTest::qWait(1500); // nothing to wait for: the movie's length so far
     recording.halt();
-    QTest::qWait(3000);
+    QTest::qWait(3000); // nothing to wait for: the time it stands still
     recording.goOn();
-    QTest::qWait(2500);
+    QTest::qWait(2500); // nothing to wait for: the rest of the movie's length
     const double length = recording.age();
     QVERIFY(recording.stop());
     QCOMPARE(recording.failures(), 0);

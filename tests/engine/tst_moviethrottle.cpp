@@ -104,7 +104,7 @@ void TestMovieThrottle::theMovieSpansTheWholeTime()
     QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
     // A program with sanitizers needs that many times the processor.
     recording.throttle(qMin(95, percent * qMax(1, qEnvironmentVariableIntValue("ORVANTA_NEED"))));
-    QTest::qWait(length);
+    QTest::qWait(length); // nothing to wait for: the movie's length
     const double age = recording.age();
     QElapsedTimer timer;
     timer.start();

@@ -155,7 +155,7 @@ void TestNoSoundServer::aSoundCardPluggedInLaterIsNoticedAndHeard()
     m_engine->Record(path);
     QVERIFY(m_engine->IsValidVideoDevice());
     QVERIFY(m_engine->IsValidAudioDevice());
-    QTest::qWait(3000);
+    QTest::qWait(3000); // nothing to wait for: the movie's length
     QVERIFY2(m_engine->IsValidAudioDevice(), "a card that is listened to is there");
     m_engine->RecordStop();
 

@@ -107,7 +107,7 @@ void TestRestartingServers::recordAndJudge()
     QFile::remove(path);
     m_engine->Record(path);
     QVERIFY(m_engine->IsRecording());
-    QTest::qWait(1000);
+    QTest::qWait(1000); // nothing to wait for: the movie's length
     m_engine->RecordStop();
     const MovieFile movie(path);
     QVERIFY2(movie.complaints().isEmpty(), qPrintable(movie.complaints().join('\n')));
@@ -234,7 +234,7 @@ void TestRestartingServers::aRestartedSessionManagerLeavesTheCameraUsable()
 {
     QVERIFY(labctl({"restart-session-manager"}));
     QTRY_VERIFY_WITH_TIMEOUT(m_engine->IsValidAudioDevice(), foundLimit);
-    QTest::qWait(1500); // until the old picture is over, if it does not go on
+    QTest::qWait(1500); // nothing to wait for: the old picture may be over by then
     const QImage picture = m_target.grab().toImage();
     QTRY_VERIFY_WITH_TIMEOUT(m_losses->count() == 1 || m_target.grab().toImage() != picture, 10000);
     m_engine->Release();

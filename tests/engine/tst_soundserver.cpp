@@ -94,7 +94,7 @@ void TestSoundServer::theDefaultSourceIsTheMicrophone()
 void TestSoundServer::aMonitorAsTheDefaultIsPassedOverForTheFirstByName()
 {
     QVERIFY(setDefault("labspeaker.monitor"));
-    QTest::qWait(100);
+    QTest::qWait(100); // nothing to wait for: a change that must not come
     QCOMPARE(m_server->microphone(), QByteArray("labmic"));
     QVERIFY(!plugIn("another").isEmpty());
     QTRY_COMPARE(m_server->microphone(), QByteArray("another"));
@@ -111,11 +111,11 @@ void TestSoundServer::monitorsAloneAreNoMicrophone()
 
 void TestSoundServer::everyChangeIsTold()
 {
-    QTest::qWait(200); // what was still on its way
+    QTest::qWait(200); // nothing to wait for: what was still on its way
     int before = m_told;
     QVERIFY(!plugIn("another").isEmpty());
     QTRY_VERIFY(m_told > before);
-    QTest::qWait(200);
+    QTest::qWait(200); // nothing to wait for: what was still on its way
     before = m_told;
     pactl({"unload-module", m_plugged.takeLast()});
     QTRY_VERIFY(m_told > before);
@@ -123,7 +123,7 @@ void TestSoundServer::everyChangeIsTold()
 
 void TestSoundServer::theEndOfTheServerIsToldAndTheNextStartFindsTheNewOne()
 {
-    QTest::qWait(200); // what was still on its way
+    QTest::qWait(200); // nothing to wait for: what was still on its way
     const int before = m_told;
     QVERIFY(labctl({"restart-sound-server"}));
     QTRY_VERIFY(!m_server->isThere());

@@ -266,7 +266,7 @@ void TestStandstill::aSoundServerThatFallsSilentInTheMiddleOfAMovie()
     QVERIFY(openFirst());
     const QString movie = m_folder.filePath("interrupted.mov");
     QTRY_VERIFY((m_engine->Record(movie), m_engine->IsRecording()));
-    QTest::qWait(500); // some frames
+    QTest::qWait(500); // nothing to wait for: some frames, which only the file shows
     {
         const StoppedServer server("pipewire-pulse");
         QVERIFY(server.isStopped());

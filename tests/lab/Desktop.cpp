@@ -193,9 +193,9 @@ void Desktop::releaseMouse() const
 void Desktop::click(QPoint at) const
 {
     pressMouse(at);
-    QTest::qWait(fingerTime);
+    QTest::qWait(fingerTime); // nothing to wait for: the time a finger takes
     releaseMouse();
-    QTest::qWait(fingerTime);
+    QTest::qWait(fingerTime); // nothing to wait for: the time a finger takes
 }
 
 void Desktop::pressKey(const char *name) const

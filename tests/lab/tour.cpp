@@ -86,7 +86,7 @@ void film(Tour *tour, Session *user)
                    && user->pressWhenReady(WindowMap::LiveScreen, "Movie")
                    && user->waitForPressable(WindowMap::RecordingScreen, {"MovieStop"})
                    && QTest::qWaitFor([=] { return user->isLiveAt(picture); }));
-    QTest::qWait(3000);
+    QTest::qWait(3000); // nothing to wait for: the movie's length
     tour->stop("movie", "The movie, ready to be played",
                user->pressWhenReady(WindowMap::RecordingScreen, "MovieStop")
                    && user->waitForPressable(WindowMap::MovieScreen, toPlay)

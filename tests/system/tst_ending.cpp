@@ -165,7 +165,7 @@ void TestEnding::theEndOfTheSessionInterruptsTheOpeningOfACamera()
     QVERIFY(labctl({"freeze", "cam1"}));
     QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "List"));
     QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Live"));
-    QTest::qWait(500); // nothing but the cursor tells that the camera is being opened
+    QTest::qWait(500); // nothing to wait for: only the cursor tells that the camera is being opened
     endsInTime(1500);
     QVERIFY(labctl({"thaw", "cam1"}));
 }

@@ -155,7 +155,7 @@ void TestLosingMidway::inTheMiddleOfASeries()
     QVERIFY(m_user->confirmMessage());
     expectOnlyListAndExit();
     expectTheWayBack();
-    QTest::qWait(3000); // the countdown that was interrupted would have ended by now
+    QTest::qWait(3000); // nothing to wait for: a photo that must not be taken
     QCOMPARE(m_user->program().captured(), captured);
 }
 
@@ -165,7 +165,7 @@ void TestLosingMidway::whileRecording()
     QVERIFY(m_user->startLive());
     QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Movie"));
     QVERIFY(m_user->waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
-    QTest::qWait(2000);
+    QTest::qWait(2000); // nothing to wait for: the movie's length
     const WindowMap &map = m_user->map();
     const int filmed = m_user->counterAt(map.videoRect());
     pullTheCable();

@@ -84,7 +84,7 @@ void MoviesTest::aMovieIsRecordedAndPlayedTwice()
     const QImage begin = timeLine(user);
     QVERIFY(user.isLiveAt(picture));
     QTRY_VERIFY_WITH_TIMEOUT(timeLine(user) != begin, 3000);
-    QTest::qWait(2000);
+    QTest::qWait(2000); // nothing to wait for: the movie's length
     QVERIFY(user.isLiveAt(picture));
     user.press(WindowMap::RecordingScreen, "MovieStop");
     QVERIFY(user.waitForPressable(WindowMap::MovieScreen, {"Live", "MoviePlay", "List", "Close"}));
@@ -125,7 +125,7 @@ void MoviesTest::theFirstPictureStandsBeforePlayAndAfterTheEnd()
     Session user(QStringLiteral(ORVANTA_PROGRAM), "cam1", QSize(1280, 720));
     const QRect picture = user.map().videoRect();
     QVERIFY(beginRecording(user));
-    QTest::qWait(2000);
+    QTest::qWait(2000); // nothing to wait for: the movie's length
     QVERIFY(user.pressWhenReady(WindowMap::RecordingScreen, "MovieStop"));
     QVERIFY(user.waitForPressable(WindowMap::MovieScreen, {"Live", "MoviePlay", "List", "Close"}));
     QCOMPARE(movies(user).size(), 1);
@@ -190,7 +190,7 @@ void MoviesTest::aMovieSurvivesTheEndOfTheProgram()
     QFETCH(int, signal);
     Session user(QStringLiteral(ORVANTA_PROGRAM), "cam1", QSize(1280, 720));
     QVERIFY(beginRecording(user));
-    QTest::qWait(2500);
+    QTest::qWait(2500); // nothing to wait for: the movie's length
     if (signal)
         kill(pid_t(user.program().pid()), signal);
     else

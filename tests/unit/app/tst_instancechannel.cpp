@@ -205,7 +205,7 @@ void tst_InstanceChannel::aFirstThatDoesNotListenYetIsWaitedFor()
     QLockFile lock(m_dir->filePath("Orvanta.lock"));
     QVERIFY(lock.tryLock());
     Sender second(folder(), "Wake up!", 20000);
-    QTest::qWait(200);
+    QTest::qWait(200); // nothing to wait for: an end that must not come
     QVERIFY(!second.isFinished());
 
     QLocalServer late;
@@ -258,7 +258,7 @@ void tst_InstanceChannel::aSenderBecomesFirstWhenTheFirstEndsMeanwhile()
     QScopedPointer<QLockFile> lock(new QLockFile(m_dir->filePath("Orvanta.lock")));
     QVERIFY(lock->tryLock());
     Sender second(folder(), "Wake up!", 60000);
-    QTest::qWait(100);
+    QTest::qWait(100); // nothing to wait for: an end that must not come
     QVERIFY(!second.isFinished());
     lock.reset();
     QTRY_VERIFY(second.isFinished());
@@ -307,7 +307,7 @@ void tst_InstanceChannel::aMessageInPiecesIsPutTogether()
         QCOMPARE(received.size(), 0);
         client.write(&byte, 1);
         client.flush();
-        QTest::qWait(5);
+        QTest::qWait(5); // nothing to wait for: a message that must not be complete yet
     }
     QTRY_COMPARE(received.size(), 1);
     QCOMPARE(received.first().first().toString(), QString("Wake up!"));
@@ -336,7 +336,7 @@ void tst_InstanceChannel::silentClientsMakeRoom()
         silent.push_back(std::make_unique<QLocalSocket>());
         silent.back()->connectToServer(socketPath());
         QVERIFY(silent.back()->waitForConnected());
-        QTest::qWait(1);
+        QTest::qWait(1); // nothing to wait for: the first may see them one by one
     }
     Sender second(folder(), "Wake up!", 3000);
     QTRY_VERIFY(second.isFinished());

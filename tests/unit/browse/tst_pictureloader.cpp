@@ -97,7 +97,7 @@ void TestPictureLoader::everyPictureIsDeliveredOnce()
                 ++deliveries[i];
         });
     QTRY_COMPARE(deliveries.size(), 30);
-    QTest::qWait(20);
+    QTest::qWait(20); // nothing to wait for: a delivery that must not come
     for (int i = 0; i < 30; ++i)
         QCOMPARE(deliveries.value(i), 1);
 }
@@ -105,7 +105,7 @@ void TestPictureLoader::everyPictureIsDeliveredOnce()
 void TestPictureLoader::aKnownPictureIsDeliveredAtOnce()
 {
     QVERIFY(CaptureFolder::save(photo(1), QSize(64, 48), Qt::green));
-    QTest::qWait(50); // the file system's clock has to tick
+    QTest::qWait(50); // nothing to wait for: the file system's clock has to tick
     PictureLoader loader;
     int deliveries = 0;
     const auto count = [&](const QImage &) { ++deliveries; };
@@ -221,7 +221,7 @@ void TestPictureLoader::aReceiverThatForgetsGetsNothingMore()
     }
     loader.forget(&left);
     QTRY_COMPARE(toThis, 20);
-    QTest::qWait(20);
+    QTest::qWait(20); // nothing to wait for: a delivery that must not come
     QCOMPARE(toLeft, 0);
 }
 
@@ -236,7 +236,7 @@ void TestPictureLoader::aReceiverThatIsGoneGetsNothing()
     bool isThere = false;
     loader.later(photo(1), QSize(40, 40), this, [&](const QImage &) { isThere = true; });
     QTRY_VERIFY(isThere);
-    QTest::qWait(20);
+    QTest::qWait(20); // nothing to wait for: a delivery that must not come
     QVERIFY(!isDelivered);
 }
 
@@ -249,7 +249,7 @@ void TestPictureLoader::aLoaderCanGoWhileItsWorkersRead()
     for (int i = 0; i < 8; ++i)
         loader->later(photo(i), QSize(30, 30), this, [&](const QImage &) { ++deliveries; });
     loader.reset();
-    QTest::qWait(20);
+    QTest::qWait(20); // nothing to wait for: a delivery that must not come
     QCOMPARE(deliveries, 0);
 }
 
@@ -258,7 +258,7 @@ void TestPictureLoader::whatIsKeptIsBounded()
     // 3000 by 1500 points take 18 MB: with the second of them the first has to go.
     QVERIFY(CaptureFolder::save(photo(1), QSize(40, 20), Qt::blue));
     QVERIFY(CaptureFolder::save(photo(2), QSize(40, 20), Qt::red));
-    QTest::qWait(50); // the file system's clock has to tick
+    QTest::qWait(50); // nothing to wait for: the file system's clock has to tick
     PictureLoader loader;
     int deliveries = 0;
     const auto count = [&](const QImage &) { ++deliveries; };

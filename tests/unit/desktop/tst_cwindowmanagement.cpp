@@ -94,7 +94,7 @@ void tst_CWindowManagement::withoutAWidgetNothingEverHappens()
 {
     CountingManagement management(nullptr, 1, true, QString());
     management.start_window(1);
-    QTest::qWait(30);
+    QTest::qWait(30); // nothing to wait for: a step that must not come
     QCOMPARE(management.steps, 0);
     management.stop_window();
     management.CWindowManagement::update_window();
@@ -109,7 +109,7 @@ void tst_CWindowManagement::stepsComeFromConstructionUntilItIsStopped()
     QTRY_VERIFY(management.steps >= 2);
     management.stop_window();
     const int before = management.steps;
-    QTest::qWait(50);
+    QTest::qWait(50); // nothing to wait for: a step that must not come
     QCOMPARE(management.steps, before);
     management.start_window(5);
     QTRY_VERIFY(management.steps > before);
@@ -120,7 +120,7 @@ void tst_CWindowManagement::startingAgainTakesTheNewPeriod()
     QWidget widget;
     CountingManagement management(&widget, 5, true, QString());
     management.start_window(never);
-    QTest::qWait(50);
+    QTest::qWait(50); // nothing to wait for: a step that must not come
     QCOMPARE(management.steps, 0);
 }
 

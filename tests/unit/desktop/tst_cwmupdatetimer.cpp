@@ -41,7 +41,7 @@ void tst_CWMUpdateTimer::stoppedItTicksNoMore()
     timer.stop();
     timer.stop();
     const int before = counter.ticks;
-    QTest::qWait(50);
+    QTest::qWait(50); // nothing to wait for: a tick that must not come
     QCOMPARE(counter.ticks, before);
     timer.start(5);
     QTRY_VERIFY(counter.ticks > before);
@@ -52,7 +52,7 @@ void tst_CWMUpdateTimer::startingAgainReplacesTheOldPeriod()
     TickCounter counter;
     CWMUpdateTimer timer(5, &counter);
     timer.start(60000);
-    QTest::qWait(50);
+    QTest::qWait(50); // nothing to wait for: a tick that must not come
     QCOMPARE(counter.ticks, 0);
 }
 

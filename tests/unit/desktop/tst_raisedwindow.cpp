@@ -61,7 +61,7 @@ void tst_RaisedWindow::aStoppedWindowStaysBehind()
     Coloured other(Qt::red);
     QVERIFY(QTest::qWaitForWindowActive(&other));
     QTRY_COMPARE(m_desktop.pixel(place.center()), QColor(Qt::red));
-    QTest::qWait(500);
+    QTest::qWait(500); // nothing to wait for: a raise that must not come
     QCOMPARE(m_desktop.pixel(place.center()), QColor(Qt::red));
 }
 
@@ -79,7 +79,7 @@ void tst_RaisedWindow::aWindowThatIsGoneDoesNotEndTheProgram()
     management.raiseQtWindowTop(gone);
     management.raiseWindowTop(gone);
     XSync(display, False); // by now the server has refused everything that was asked of the window
-    QTest::qWait(50);
+    QTest::qWait(50); // nothing to wait for: a raise that must not come
     QCOMPARE(m_desktop.pixel(place.center()), QColor(Qt::red));
 
     management.update_window();

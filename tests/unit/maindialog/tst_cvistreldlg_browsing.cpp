@@ -259,7 +259,7 @@ void BrowsingFlowTest::leavingTheStripWhileThumbnailsComeInIsHarmless()
     browser.click("SwitchMovie");
     browser.click("SwitchPhoto");
     browser.click("Live");
-    QTest::qWait(50);
+    QTest::qWait(50); // nothing to wait for: some thumbnails, whichever are done by then
     browser.click("List");
     QCOMPARE(browser.strip().count(), 40);
     QTRY_VERIFY(!browser.strip().item(39)->icon().isNull());
@@ -281,7 +281,7 @@ void BrowsingFlowTest::strangeFilesAreBlackTilesAndStay()
     browser.openAndSelect({0, 1, 2, 3, 4});
     QCOMPARE(browser.strip().count(), 5);
     QTRY_VERIFY(!browser.strip().item(0)->icon().isNull());
-    QTest::qWait(50);
+    QTest::qWait(50); // nothing to wait for: thumbnails that must not come
     for (int row = 1; row < 5; ++row)
         QVERIFY(browser.strip().item(row)->icon().isNull());
     browser.click("Show");
@@ -496,7 +496,7 @@ void BrowsingFlowTest::repeatedZoomAndBackAreHarmless()
     QTest::mouseClick(Browser::cornerButton(tile, "Back"), Qt::LeftButton);
     QCOMPARE(askedBack.count(), 2); // one of ours, one for each time the photo was zoomed
     QCOMPARE(browser.tiles().size(), 3);
-    QTest::qWait(10);
+    QTest::qWait(10); // nothing to wait for: a second change that must not come
     QCOMPARE(browser.tiles().size(), 3);
 }
 

@@ -411,7 +411,7 @@ void DevicesTest::aLossLeavesTheLiveScreenWithListAndExit()
     QVERIFY(!fixture.child<MovieWidget>().isVisible());
     QVERIFY(!fixture.child<PictureListView>().isVisible());
     QVERIFY(!fixture.child<TimerWidget>().isVisible());
-    QTest::qWait(60); // a countdown that went on would take its photo now
+    QTest::qWait(60); // nothing to wait for: a photo that must not be taken
     QCOMPARE(fixture.captures(), kept);
 
     fixture.click("List");
@@ -437,7 +437,7 @@ void DevicesTest::aCountdownStandsStillWhileTheMessageStands()
     QStringList shown;
     const BoxUser user({{"QMessageBox", [&](QWidget &box) {
                              shown.append(countdown.text());
-                             QTest::qWait(100);
+                             QTest::qWait(100); // nothing to wait for: a tick that must not come
                              shown.append(countdown.text());
                              pressIn(box, QStringLiteral("OK"));
                          }}});

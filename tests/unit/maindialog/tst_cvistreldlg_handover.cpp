@@ -37,7 +37,7 @@ public:
     void takeSeries()
     {
         click("PhotoMulti");
-        QTest::qWait(2); // names are stamped to the millisecond
+        QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
         click("PhotoMulti");
     }
 };
@@ -105,7 +105,7 @@ void HandOverTest::theTilesShownAreNamedInTheirOrder()
     Paste paste;
     paste.takeSeries();
     paste.click("Live");
-    QTest::qWait(2);
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
     paste.takeSeries();
     const QStringList photos = paste.captures();
     paste.click("List");

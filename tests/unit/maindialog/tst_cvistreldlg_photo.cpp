@@ -70,7 +70,7 @@ void PhotoFlowTest::retryRemovesExactlyTheLastPhoto()
     fixture.click("Apply");
     fixture.click("Live");
     const QStringList first = fixture.captures();
-    QTest::qWait(2); // names are stamped to the millisecond
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
     fixture.click("Photo");
     QCOMPARE(fixture.captures().size(), 2);
     fixture.click("Retry");

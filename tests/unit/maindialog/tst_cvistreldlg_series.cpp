@@ -115,7 +115,7 @@ void SeriesFlowTest::withoutSelfTimerEachPressTakesOnePhoto()
     QCOMPARE(series.strip().count(), 1);
     QVERIFY(!series.timer().isVisible());
 
-    QTest::qWait(2); // names are stamped to the millisecond
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
     series.click("PhotoMulti");
     QCOMPARE(series.taken(), 2);
     const auto tiles = tilesOf(series.dialog());
@@ -156,7 +156,7 @@ void SeriesFlowTest::timedPhotosAreOneSecondMoreThanTheSelfTimerApart()
     QCOMPARE(tilesOf(series.dialog()).size(), 4);
     QVERIFY(!series.timer().isVisible());
     // The clock has stopped.
-    QTest::qWait(5 * secondMs);
+    QTest::qWait(5 * secondMs); // nothing to wait for: a photo that must not be taken
     QCOMPARE(series.taken(), 4);
 }
 
@@ -237,7 +237,7 @@ void SeriesFlowTest::liveEndsASeriesAndKeepsItsPhotos()
     QVERIFY(!series.timer().isVisible());
     QVERIFY(!series.strip().isVisible());
     QVERIFY(tilesOf(series.dialog()).isEmpty());
-    QTest::qWait(4 * secondMs);
+    QTest::qWait(4 * secondMs); // nothing to wait for: photos that must not be taken
     QCOMPARE(series.taken(), 2);
     QCOMPARE(series.captures().size(), 2);
     QVERIFY(series.button("Close").isEnabled());
@@ -248,13 +248,13 @@ void SeriesFlowTest::theNextSeriesCountsFromOneAgain()
     Series series(byHand(3));
     series.start();
     series.click("Live");
-    QTest::qWait(2); // names are stamped to the millisecond
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
     series.click("PhotoMulti");
     QCOMPARE(series.photo().labelText(), QStringLiteral("1/3"));
     QCOMPARE(series.strip().count(), 1);
-    QTest::qWait(2);
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
     series.click("PhotoMulti");
-    QTest::qWait(2);
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
     series.click("PhotoMulti");
     QCOMPARE(tilesOf(series.dialog()).size(), 3);
     QCOMPARE(tilesOf(series.dialog())[0]->fileName(), series.captures().value(1));
@@ -264,7 +264,7 @@ void SeriesFlowTest::changedSettingsTakeEffectAtTheNextSeries()
 {
     Series series(byHand(2));
     series.start();
-    QTest::qWait(2);
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
     series.click("PhotoMulti");
     series.click("Live");
     series.setSettings(selfTimer(1, 3));
@@ -289,7 +289,7 @@ void SeriesFlowTest::aPhotoThatFailsCountsAllTheSame()
     QCOMPARE(series.photo().fileName(), first);
     QCOMPARE(series.strip().count(), 2);
     FakeEngine::script().saveBitmapSucceeds = true;
-    QTest::qWait(2);
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
     series.click("PhotoMulti");
     const auto tiles = tilesOf(series.dialog());
     QCOMPARE(tiles.size(), 3);
@@ -337,7 +337,7 @@ void SeriesFlowTest::noTimedPhotoIsTakenBehindTheDiskWarningNorAfterIt()
     DialogFixture::fillTheDisk();
     int whileTold = -1;
     QTimer::singleShot(0, [&] {
-        QTest::qWait(4 * secondMs); // two photos would fall due
+        QTest::qWait(4 * secondMs); // nothing to wait for: photos that must not be taken
         whileTold = series.taken();
         QApplication::activeModalWidget()->close();
     });
@@ -398,7 +398,7 @@ void SeriesFlowTest::backFromAZoomedPhotoShowsTheSeriesAgain()
 {
     Series series(byHand(2));
     series.start();
-    QTest::qWait(2);
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
     series.click("PhotoMulti");
     const auto before = tilesOf(series.dialog());
     before[1]->OnZoom();
@@ -418,7 +418,7 @@ void SeriesFlowTest::aSeriesMakesTheListShowPhotos()
     QVERIFY(series.strip().movieMode());
     series.click("Live");
     series.start();
-    QTest::qWait(2);
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
     series.click("PhotoMulti");
     series.click("List");
     QVERIFY(!series.strip().movieMode());
