@@ -38,10 +38,11 @@ QString textProperty(Display *display, ::Window window, const char *name)
     return text;
 }
 
+// Empty while the window or the frame around it is not on the screen.
 QRect geometryOnScreen(Display *display, ::Window window)
 {
     XWindowAttributes attributes = {};
-    if (!XGetWindowAttributes(display, window, &attributes))
+    if (!XGetWindowAttributes(display, window, &attributes) || attributes.map_state != IsViewable)
         return {};
     int x = 0;
     int y = 0;

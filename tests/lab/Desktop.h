@@ -35,7 +35,7 @@ public:
     QImage screenshot() const;
     QColor pixel(QPoint at) const;
 
-    // The managed windows, the lowest first.
+    // The managed windows that are on the screen, the lowest first.
     QVector<Window> windows() const;
     QVector<Window> windowsOf(qint64 pid) const;
     // Of the windows of a program the highest, or one with id 0.

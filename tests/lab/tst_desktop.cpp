@@ -29,6 +29,7 @@ private Q_SLOTS:
     void aWindowIsListedWithTitleOwnerAndPlace();
     void theLastRaisedWindowIsTheHighest();
     void aClickPressesTheButtonUnderTheMouse();
+    void aWindowThatIsNotOnTheScreenIsNotListed();
     void aHeldMouseButtonKeepsTheButtonDown();
     void keysReachTheActiveWindow();
     void anOpenComboBoxIsAPopup();
@@ -101,6 +102,18 @@ void TestDesktop::aClickPressesTheButtonUnderTheMouse()
     m_desktop.click(centreOf(&button) + QPoint(100, 0));
     m_desktop.click(centreOf(&button));
     QTRY_COMPARE(clicked.count(), 2);
+}
+
+// The window manager knows of more: of those put away, and of a new one before it puts it on the
+// screen. A press on such a window goes to whatever is below.
+void TestDesktop::aWindowThatIsNotOnTheScreenIsNotListed()
+{
+    const auto listed = [this] { return m_desktop.windowsOf(QCoreApplication::applicationPid()); };
+    QTRY_COMPARE(listed().size(), 1);
+    m_window->showMinimized();
+    QTRY_COMPARE(listed().size(), 0);
+    m_window->showNormal();
+    QTRY_COMPARE(listed().size(), 1);
 }
 
 void TestDesktop::aHeldMouseButtonKeepsTheButtonDown()
