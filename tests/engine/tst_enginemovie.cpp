@@ -502,13 +502,16 @@ void TestEngineMovie::callAndCountFrames(const char *name, const std::function<v
 // The newest frame is asked for again and again: it must never be an old one.
 void TestEngineMovie::theCameraGoesOnWhileAMovieStartsAndStops()
 {
+    const SpareTime time;
     m_watch.start();
     callAndCountFrames("the start", [this] { m_engine->Record(newPath()); });
     watchCamera(2000);
     callAndCountFrames("the stop", [this] { m_engine->RecordStop(); });
     watchCamera(1000);
-    qInfo("the camera stood still for %d ms at most", int(m_longestStop));
-    QVERIFY(m_longestStop <= longestFreeze);
+    qInfo("the camera stood still for %d ms at most, the machine for %d ms", int(m_longestStop),
+          time.longestWait());
+    // The camera, its server and we may have had to wait for a processor one after another.
+    QVERIFY(m_longestStop <= longestFreeze + (time.isPlenty() ? 0 : 4 * time.longestWait()));
 }
 
 QTEST_MAIN(TestEngineMovie)
