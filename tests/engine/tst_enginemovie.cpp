@@ -54,7 +54,7 @@ private:
     void verifyPlayable(const MovieFile &movie, double from, double to) const;
     void verifySize(int length) const;
     void verifyInStep(const MovieFile &movie, double length, bool hadTime) const;
-    void verifyPicture(const MovieFile &movie, bool hadTime) const;
+    void verifyPicture(const MovieFile &movie, double lateness) const;
     void lookAtCamera();
     void watchCamera(int milliseconds);
     void callAndCountFrames(const char *name, const std::function<void()> &call);
@@ -199,6 +199,7 @@ void TestEngineMovie::pictureAndSoundAreCompleteAndInStep()
     const double length = double(timer.elapsed()) / 1000;
     end();
     const bool hadTime = time.isPlenty();
+    const double lateness = time.lateness();
     qInfo("memory grew by %.1f MB in the last %d s; the machine was idle for %.0f %% and held "
           "things up for %d ms",
           double(growth) / 1e6, qMax(0, wanted - settled), time.idleShare() * 100,
@@ -208,12 +209,12 @@ void TestEngineMovie::pictureAndSoundAreCompleteAndInStep()
     const MovieFile movie(m_path);
     verifyPlayable(movie, length - 0.2, length + 0.2);
     verifySize(int(std::ceil(length)));
-    verifyPicture(movie, hadTime);
+    verifyPicture(movie, lateness);
     QVERIFY(qAbs(movie.soundDuration() - movie.duration()) < 0.1);
     verifyInStep(movie, length, hadTime);
 }
 
-void TestEngineMovie::verifyPicture(const MovieFile &movie, bool hadTime) const
+void TestEngineMovie::verifyPicture(const MovieFile &movie, double lateness) const
 {
     const QVector<int> counters = movie.counters();
     QVERIFY(std::is_sorted(counters.begin(), counters.end()));
@@ -223,12 +224,12 @@ void TestEngineMovie::verifyPicture(const MovieFile &movie, bool hadTime) const
     const double usual = movie.duration() / counters.size();
     qInfo("%d frames, %d missing, one every %.0f ms, %.0f ms at most", int(counters.size()),
           movie.missingFrames(), usual * 1000, longest * 1000);
-    if (hadTime) {
+    if (lateness == 0) {
         QVERIFY(movie.missingFrames() <= qMax(1, counters.size() / 1000));
         QVERIFY(movie.longestRepeat() <= 2);
     }
     QVERIFY(counters.size() > movie.duration() * 5);
-    QVERIFY2(longest < 4 * usual + 0.4, qPrintable(QString::number(longest)));
+    QVERIFY2(longest < 4 * usual + 0.4 + lateness, qPrintable(QString::number(longest)));
 }
 
 void TestEngineMovie::verifySize(int length) const
@@ -361,6 +362,7 @@ void TestEngineMovie::twentyMoviesInARowAreAllComplete()
 
 void TestEngineMovie::aPhotoDuringAMovieIsTakenAndTheMovieGoesOn()
 {
+    const SpareTime time;
     m_engine->Record(newPath());
     const QString still = m_folder.filePath("still.png");
     QVERIFY(m_engine->SaveBitmap(still));
@@ -371,7 +373,7 @@ void TestEngineMovie::aPhotoDuringAMovieIsTakenAndTheMovieGoesOn()
     const int photographed = LabPattern::counterOf(QImage(still));
     QVERIFY(photographed > 0);
     QVERIFY(qAbs(movie.frames().first().counter - photographed) <= 5);
-    QVERIFY(movie.missingFrames() <= 1);
+    QVERIFY(movie.missingFrames() <= 1 + 30 * time.lateness());
 }
 
 void TestEngineMovie::withoutAMicrophoneNothingIsRecorded()
@@ -400,6 +402,7 @@ void TestEngineMovie::theMicrophoneIsHeardAlsoWhenALoudspeakerIsTheDefault()
 
 void TestEngineMovie::aMicrophonePulledOutLeavesSilence()
 {
+    const SpareTime time;
     QElapsedTimer timer;
     timer.start();
     m_engine->Record(newPath());
@@ -416,7 +419,7 @@ void TestEngineMovie::aMicrophonePulledOutLeavesSilence()
              qPrintable(QString::number(movie.soundDuration())));
     QVERIFY(!movie.tones().isEmpty());
     QVERIFY(movie.tones().last() < pulledOut);
-    QVERIFY(movie.missingFrames() <= 2);
+    QVERIFY(movie.missingFrames() <= 2 + 30 * time.lateness());
 }
 
 void TestEngineMovie::aCameraPulledOutLeavesTheMovieUntilThen()
@@ -510,8 +513,7 @@ void TestEngineMovie::theCameraGoesOnWhileAMovieStartsAndStops()
     watchCamera(1000);
     qInfo("the camera stood still for %d ms at most, the machine for %d ms", int(m_longestStop),
           time.longestWait());
-    // The camera, its server and we may have had to wait for a processor one after another.
-    QVERIFY(m_longestStop <= longestFreeze + (time.isPlenty() ? 0 : 4 * time.longestWait()));
+    QVERIFY(m_longestStop <= longestFreeze + 1000 * time.lateness());
 }
 
 QTEST_MAIN(TestEngineMovie)

@@ -84,9 +84,9 @@ void TestMovieSurvival::verifyEveryPlayerTakes(const QString &path, double from,
     QCOMPARE(probe.soundCodec(), QString("aac"));
     QVERIFY2(probe.duration() >= from && probe.duration() <= to,
              qPrintable(QString::number(probe.duration())));
-    // A busy machine leaves some out.
+    // A busy machine leaves most out, and has begun when it could.
     QVERIFY2(probe.frames() <= probe.videoDuration() * 30 + 2
-                 && probe.frames() >= probe.videoDuration() * 5,
+                 && probe.frames() >= probe.videoDuration(),
              qPrintable(QString::number(probe.frames())));
 }
 
@@ -133,7 +133,7 @@ bool TestMovieSurvival::hasStoppedGrowing(const QString &path)
             if (now != size)
                 still.start();
             size = now;
-            return still.hasExpired(1000);
+            return size > 0 && still.hasExpired(1000);
         },
         patience);
 }
@@ -177,6 +177,7 @@ void TestMovieSurvival::aFileThatMayNotGrowIsPlayable()
 
 void TestMovieSurvival::aMovieOfAProgramThatStoodStillSpansTheWholeTime()
 {
+    const SpareTime time;
     Recording recording("beeper", newPath());
     QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
     QTest::qWait(1500); // nothing to wait for: the movie's length so far
@@ -198,8 +199,11 @@ void TestMovieSurvival::aMovieOfAProgramThatStoodStillSpansTheWholeTime()
     QVERIFY2(missed > 60, "the program did not stand still");
     // Shown when it was taken, by the camera's own count.
     const double taken = (frames.last().counter - frames.first().counter) / 30.0;
-    QVERIFY2(qAbs(frames.last().time - frames.first().time - taken) < 0.3,
-             qPrintable(QString::number(taken)));
+    // It counts a picture when it gets round to it.
+    const double late = time.lateness();
+    const double shown = frames.last().time - frames.first().time;
+    QVERIFY2(qAbs(shown - taken) < 0.3 + late,
+             qPrintable(QStringLiteral("%1 of %2, held up %3").arg(shown).arg(taken).arg(late)));
 }
 
 QTEST_MAIN(TestMovieSurvival)

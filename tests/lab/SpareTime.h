@@ -22,6 +22,9 @@ public:
     bool isPlenty() const;
     double idleShare() const; ///< of all processors' time, 0 to 1
     int longestWait() const { return m_longestWait; } ///< ms, that a processor kept its watch
+    /// How late (s) something may be that passes through several programs, each of which may have
+    /// waited that long: a camera, its server, ours. 0 when there was plenty of time.
+    double lateness() const { return isPlenty() ? 0 : 4 * double(m_longestWait) / 1000; }
 
 private:
     struct Times {
