@@ -32,7 +32,8 @@ void TestSeveralCameras::theChosenCameraIsShown()
     QFETCH(int, position);
     Session user(ORVANTA_PROGRAM, camera, size);
     user.program().start();
-    QTRY_VERIFY_WITH_TIMEOUT(user.dialog().isActive, 15000);
+    QTRY_VERIFY2_WITH_TIMEOUT(user.dialog().isActive,
+                              user.mainWindow().id ? "asked nothing" : "did not come up", 15000);
     QCOMPARE(user.mainWindow().id, 0U);
     user.chooseCamera(position);
     QVERIFY(user.waitForMainWindow());

@@ -3,6 +3,7 @@
 #include "LiveVideoWidget.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
+#include "SpareTime.h"
 #include "TimerWidget.h"
 
 #include <QApplication>
@@ -181,6 +182,7 @@ void SeriesFlowTest::aPressInARunningSeriesTakesAPhotoAndRestartsTheCountdown()
 void SeriesFlowTest::nineTimedPhotosDoNotDrift()
 {
     // Photos that take most of a tick to write must not push the later ones back.
+    const SpareTime time;
     Series series(selfTimer(3, 9));
     FakeEngine::script().picture = QImage(1280, 720, QImage::Format_RGB32);
     series.start();
@@ -191,7 +193,8 @@ void SeriesFlowTest::nineTimedPhotosDoNotDrift()
         late.append(series.timed[i] - qint64(4) * (i + 1) * secondMs);
     const qint64 drift =
         std::min({late[6], late[7], late[8]}) - std::min({late[0], late[1], late[2]});
-    QVERIFY2(qAbs(drift) < secondMs, qPrintable(QStringLiteral("%1 ms").arg(drift)));
+    const qint64 machine = time.isPlenty() ? 0 : time.longestWait();
+    QVERIFY2(qAbs(drift) < secondMs + machine, qPrintable(QStringLiteral("%1 ms").arg(drift)));
 }
 
 void SeriesFlowTest::onlyTheSeriesAndLiveCanBePressed()
