@@ -42,14 +42,15 @@ function(orvanta_room name)
 endfunction()
 
 # orvanta_test(NAME LABEL unit|engine|system SOURCES file... [USES target...] [TIMEOUT seconds]
-#              [COMMAND prefix...] [LAB option...] [ALONE] [BUSY])
+#              [COMMAND prefix...] [LAB option...] [ALONE] [BUSY] [THREADS])
 # One test program. Unit tests draw on the offscreen platform. COMMAND is put before the program.
 # Home, temporary and runtime folders are private to the test. With LAB the program runs inside a
 # lab of its own, with these options of tests/lab/lab, such as --camera cam1:1280x720; an option
 # that says the default, --screen 1024x768, gives a lab without cameras. ALONE is for what measures
 # time: nothing else runs beside it. BUSY is for what keeps a processor busy all the time.
+# THREADS is for what the thread sanitizer can judge: ours meet by locks that it sees.
 function(orvanta_test name)
-    cmake_parse_arguments(TEST "ALONE;BUSY" "LABEL;TIMEOUT" "SOURCES;USES;COMMAND;LAB" ${ARGN})
+    cmake_parse_arguments(TEST "ALONE;BUSY;THREADS" "LABEL;TIMEOUT" "SOURCES;USES;COMMAND;LAB" ${ARGN})
     if(NOT TEST_TIMEOUT)
         set(TEST_TIMEOUT 120)
     endif()
@@ -63,6 +64,10 @@ function(orvanta_test name)
     qt5_generate_moc(${name}.cpp ${moc}/${name}.moc TARGET ${name})
     target_sources(${name} PRIVATE ${moc}/${name}.moc)
     target_include_directories(${name} PRIVATE ${moc})
+    if(TEST_THREADS)
+        list(APPEND TEST_LABEL threads)
+        add_dependencies(orvanta_threads_tests ${name})
+    endif()
     if(TEST_LAB)
         list(PREPEND TEST_COMMAND ${PROJECT_SOURCE_DIR}/tests/lab/lab
             --tools $<TARGET_FILE_DIR:labcam> ${TEST_LAB} --)
@@ -76,7 +81,7 @@ function(orvanta_test name)
     # one at each allocation costs more than all else; ten calls are enough where no server's or
     # graphics library is deep in them.
     set(asan fast_unwind_on_malloc=0)
-    if(TEST_LABEL STREQUAL "unit")
+    if("unit" IN_LIST TEST_LABEL)
         string(APPEND asan ":malloc_context_size=10")
     endif()
     set(environment "HOME=${private}/home" "TMPDIR=${private}/tmp" "XDG_RUNTIME_DIR=${private}/run"
@@ -85,7 +90,7 @@ function(orvanta_test name)
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
         "UBSAN_OPTIONS=print_stacktrace=1"
         "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
-    if(TEST_LABEL STREQUAL "unit")
+    if("unit" IN_LIST TEST_LABEL)
         list(APPEND environment "QT_QPA_PLATFORM=offscreen")
     endif()
     set(processors 1)
@@ -93,7 +98,7 @@ function(orvanta_test name)
         set(processors 2) # as many as the tests that share one
     endif()
     set_tests_properties(${name} PROPERTIES
-        LABELS ${TEST_LABEL} TIMEOUT ${TEST_TIMEOUT} ENVIRONMENT "${environment}"
+        LABELS "${TEST_LABEL}" TIMEOUT ${TEST_TIMEOUT} ENVIRONMENT "${environment}"
         RUN_SERIAL ${TEST_ALONE}
         PROCESSORS ${processors}
         COST ${TEST_TIMEOUT}) # what may take long begins early
