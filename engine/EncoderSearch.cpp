@@ -49,7 +49,6 @@ private:
     void judge(Candidates State::*kind, size_t index, double frameTime);
 
     const QSize m_size;
-    const double m_rate;
     QByteArray m_key; ///< of the cache
 
     std::mutex m_mutex; ///< guards the candidates
@@ -60,7 +59,6 @@ private:
 
 EncoderSearch::State::State(const QSize &size, double rate)
     : m_size(size)
-    , m_rate(rate)
     , m_video(existing(videoEncoders(size, rate)))
     , m_sound(existing(soundEncoders()))
 {

@@ -119,8 +119,8 @@ void compare(const char *what, const QImage &grey, const QString &folder)
         const QImage ours = PictureConverter(QImage::Format_RGB32).convert(*frame, size);
         // GStreamer's converter with two taps, as in its own elements.
         const QImage bare = PictureConverter(QImage::Format_RGB888).convert(*frame, size);
-        std::printf("%s, 1920x1080 in %dx%d: %.1f dB, the bare pipeline %.1f dB\n", what, size.width(),
-                    size.height(), errorOf(ours, grey), errorOf(bare, grey));
+        std::printf("%s, 1920x1080 in %dx%d: %.1f dB, the bare pipeline %.1f dB\n", what,
+                    size.width(), size.height(), errorOf(ours, grey), errorOf(bare, grey));
         if (folder.isEmpty())
             continue;
         const QString name = QStringLiteral("%1/%2-%3-").arg(folder, what).arg(size.width());
