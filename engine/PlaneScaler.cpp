@@ -89,25 +89,25 @@ size_t acrossRoom(const ScaleWeights &weights)
 }
 
 // Lines of as many samples as there are lanes are blended like rows.
-template <int lanes>
+template <int Lanes>
 static void blendLanes(const uchar *turned, const ScaleWeights &weights, uchar *scaled)
 {
     for (int i = 0; i < weights.count(); ++i) {
         const ScaleWeights::Window &window = weights.at(i);
-        const uchar *in = turned + qptrdiff(window.first) * lanes;
+        const uchar *in = turned + qptrdiff(window.first) * Lanes;
         const quint16 *shares = weights.of(window);
-        quint16 sums[lanes];
-        for (int lane = 0; lane < lanes; ++lane)
+        quint16 sums[Lanes];
+        for (int lane = 0; lane < Lanes; ++lane)
             sums[lane] = quint16(half + in[lane] * shares[0]);
         for (int sample = 1; sample < window.count; ++sample) {
-            in += lanes;
+            in += Lanes;
             const quint16 share = shares[sample];
-            for (int lane = 0; lane < lanes; ++lane)
+            for (int lane = 0; lane < Lanes; ++lane)
                 sums[lane] = quint16(sums[lane] + in[lane] * share);
         }
-        for (int lane = 0; lane < lanes; ++lane)
+        for (int lane = 0; lane < Lanes; ++lane)
             scaled[lane] = uchar(sums[lane] / ScaleWeights::one);
-        scaled += lanes;
+        scaled += Lanes;
     }
 }
 

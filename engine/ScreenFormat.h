@@ -5,7 +5,7 @@
 
 #include <QtGlobal>
 
-namespace libyuv {
+namespace libyuv { // NOLINT(readability-identifier-naming): as the library calls itself
 struct YuvConstants;
 }
 
