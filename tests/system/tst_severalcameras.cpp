@@ -10,11 +10,22 @@ class TestSeveralCameras : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void theChosenCameraIsShown_data();
     void theChosenCameraIsShown();
     void afterTheChoiceTheWindowComesBackInFront();
     void closingTheChooserEndsTheProgram();
 };
+
+// The first start on a machine looks through all plug-ins of the media framework. A busy machine
+// may need longer for that than the first list of cameras waits, and would open the one it knows
+// of.
+void TestSeveralCameras::initTestCase()
+{
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    user.program().start();
+    QTRY_VERIFY_WITH_TIMEOUT(user.dialog().isActive || user.mainWindow().id, 30000);
+}
 
 void TestSeveralCameras::theChosenCameraIsShown_data()
 {
