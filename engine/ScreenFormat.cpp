@@ -41,18 +41,44 @@ static void splitVu(const uchar *rows, int stride, int count, int width, uchar *
                          (width + 1) / 2, count);
 }
 
+// What is left of a row beside the library's widest step is split here: version 1904 of it, Debian
+// 13's, writes beyond a buffer of its own there.
+static void splitLastPixels(const uchar *row, int begin, int width, uchar *red, uchar *green,
+                            uchar *blue)
+{
+    const uchar *pixel = row + qptrdiff(3) * begin;
+    for (int x = begin; x < width; ++x, pixel += 3) {
+        red[x] = pixel[0];
+        green[x] = pixel[1];
+        blue[x] = pixel[2];
+    }
+}
+
+static void splitTriples(const uchar *rows, int stride, int count, int width,
+                         uchar *const *components, const int *strides, int red, int blue)
+{
+    constexpr int step = 32; // pixels, of AVX2
+    const int whole = width - width % step;
+    if (whole > 0)
+        libyuv::SplitRGBPlane(rows, stride, components[red], strides[red], components[1],
+                              strides[1], components[blue], strides[blue], whole, count);
+    for (int y = 0; y < count; ++y)
+        splitLastPixels(rows + qptrdiff(y) * stride, whole, width,
+                        components[red] + qptrdiff(y) * strides[red],
+                        components[1] + qptrdiff(y) * strides[1],
+                        components[blue] + qptrdiff(y) * strides[blue]);
+}
+
 static void splitRgb(const uchar *rows, int stride, int count, int width, uchar *const *components,
                      const int *strides)
 {
-    libyuv::SplitRGBPlane(rows, stride, components[0], strides[0], components[1], strides[1],
-                          components[2], strides[2], width, count);
+    splitTriples(rows, stride, count, width, components, strides, 0, 2);
 }
 
 static void splitBgr(const uchar *rows, int stride, int count, int width, uchar *const *components,
                      const int *strides)
 {
-    libyuv::SplitRGBPlane(rows, stride, components[2], strides[2], components[1], strides[1],
-                          components[0], strides[0], width, count);
+    splitTriples(rows, stride, count, width, components, strides, 2, 0);
 }
 
 static void splitBgrx(const uchar *rows, int stride, int count, int width, uchar *const *components,
