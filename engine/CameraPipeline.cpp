@@ -136,5 +136,5 @@ void CameraPipeline::close()
     if (!m_pipeline)
         return;
     dumpPipeline(m_pipeline.get(), "end");
-    gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
+    stopPipeline(m_pipeline.get(), m_source.get());
 }

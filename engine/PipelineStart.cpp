@@ -14,6 +14,10 @@ using std::chrono::milliseconds;
 static const milliseconds patience(500);
 static const milliseconds step(50);
 static const int repetitions = 2;
+// The server's library (seen with 0.3.65) keeps what it has yet to tell its thread when a stream is
+// destroyed, and reads the freed stream for it. A thread gets its turn within this even where ten
+// others want the processor.
+static const milliseconds grace(50);
 
 namespace {
 
@@ -90,7 +94,16 @@ bool startPipeline(GstElement *pipeline, GstElement *source)
         if (!watch.end())
             return playing;
         qCInfo(engineLog, "the start of the camera is begun anew");
-        gst_element_set_state(pipeline, GST_STATE_NULL);
+        stopPipeline(pipeline, source);
     }
     return play(pipeline);
+}
+
+void stopPipeline(GstElement *pipeline, GstElement *source)
+{
+    if (isOfMediaServer(source) && GST_STATE(source) == GST_STATE_PLAYING) {
+        gst_element_set_state(pipeline, GST_STATE_PAUSED);
+        std::this_thread::sleep_for(grace);
+    }
+    gst_element_set_state(pipeline, GST_STATE_NULL);
 }

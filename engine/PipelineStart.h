@@ -12,4 +12,13 @@
  */
 bool startPipeline(GstElement *pipeline, GstElement *source);
 
+/**
+ * Takes a camera's pipeline back to null. May hang in a driver, as any stop may.
+ *
+ * A @p source of the media server has a thread that is told of every frame, and that may be late on
+ * a busy machine. It must not be told of one of a stream that is gone by then: the stream pauses
+ * first and goes 50 ms later.
+ */
+void stopPipeline(GstElement *pipeline, GstElement *source);
+
 #endif
