@@ -41,58 +41,62 @@ static void splitVu(const uchar *rows, int stride, int count, int width, uchar *
                          (width + 1) / 2, count);
 }
 
-// What is left of a row beside the library's widest step is split here: version 1904 of it, Debian
-// 13's, writes beyond a buffer of its own there.
-static void splitLastPixels(const uchar *row, int begin, int width, uchar *red, uchar *green,
-                            uchar *blue)
+static void splitLastPixels(const uchar *row, int bytes, int begin, int width, uchar *first,
+                            uchar *second, uchar *third)
 {
-    const uchar *pixel = row + qptrdiff(3) * begin;
-    for (int x = begin; x < width; ++x, pixel += 3) {
-        red[x] = pixel[0];
-        green[x] = pixel[1];
-        blue[x] = pixel[2];
+    const uchar *pixel = row + qptrdiff(bytes) * begin;
+    for (int x = begin; x < width; ++x, pixel += bytes) {
+        first[x] = pixel[0];
+        second[x] = pixel[1];
+        third[x] = pixel[2];
     }
 }
 
-static void splitTriples(const uchar *rows, int stride, int count, int width,
-                         uchar *const *components, const int *strides, int red, int blue)
+// Pixels of three or four bytes, the first of which is of the component named, the third of the
+// other named. What is left of a row beside the library's widest step is split here: version 1904
+// of it, Debian 13's, writes beyond a buffer of its own there.
+static void splitPixels(const uchar *rows, int stride, int count, int width,
+                        uchar *const *components, const int *strides, int bytes, int first,
+                        int third)
 {
     constexpr int step = 32; // pixels, of AVX2
     const int whole = width - width % step;
-    if (whole > 0)
-        libyuv::SplitRGBPlane(rows, stride, components[red], strides[red], components[1],
-                              strides[1], components[blue], strides[blue], whole, count);
+    if (whole > 0 && bytes == 3)
+        libyuv::SplitRGBPlane(rows, stride, components[first], strides[first], components[1],
+                              strides[1], components[third], strides[third], whole, count);
+    else if (whole > 0)
+        libyuv::SplitARGBPlane(rows, stride, components[third], strides[third], components[1],
+                               strides[1], components[first], strides[first], nullptr, 0, whole,
+                               count);
     for (int y = 0; y < count; ++y)
-        splitLastPixels(rows + qptrdiff(y) * stride, whole, width,
-                        components[red] + qptrdiff(y) * strides[red],
+        splitLastPixels(rows + qptrdiff(y) * stride, bytes, whole, width,
+                        components[first] + qptrdiff(y) * strides[first],
                         components[1] + qptrdiff(y) * strides[1],
-                        components[blue] + qptrdiff(y) * strides[blue]);
+                        components[third] + qptrdiff(y) * strides[third]);
 }
 
 static void splitRgb(const uchar *rows, int stride, int count, int width, uchar *const *components,
                      const int *strides)
 {
-    splitTriples(rows, stride, count, width, components, strides, 0, 2);
+    splitPixels(rows, stride, count, width, components, strides, 3, 0, 2);
 }
 
 static void splitBgr(const uchar *rows, int stride, int count, int width, uchar *const *components,
                      const int *strides)
 {
-    splitTriples(rows, stride, count, width, components, strides, 2, 0);
+    splitPixels(rows, stride, count, width, components, strides, 3, 2, 0);
 }
 
 static void splitBgrx(const uchar *rows, int stride, int count, int width, uchar *const *components,
                       const int *strides)
 {
-    libyuv::SplitARGBPlane(rows, stride, components[0], strides[0], components[1], strides[1],
-                           components[2], strides[2], nullptr, 0, width, count);
+    splitPixels(rows, stride, count, width, components, strides, 4, 2, 0);
 }
 
 static void splitRgbx(const uchar *rows, int stride, int count, int width, uchar *const *components,
                       const int *strides)
 {
-    libyuv::SplitARGBPlane(rows, stride, components[2], strides[2], components[1], strides[1],
-                           components[0], strides[0], nullptr, 0, width, count);
+    splitPixels(rows, stride, count, width, components, strides, 4, 0, 2);
 }
 
 static const ScreenFormat::Plane first = {0, 1, nullptr};
