@@ -56,7 +56,8 @@ double SpareTime::idleShare() const
 }
 
 // The first line counts for all processors: user, nice, system, idle, waiting for a disk, and
-// interrupts; what a machine around this one took, at the end, was no idle time either.
+// interrupts; what a machine around this one took, at the end, was no idle time either. What is
+// nice gives way to a test at once, as if nothing ran.
 SpareTime::Times SpareTime::read()
 {
     QFile file("/proc/stat");
@@ -66,6 +67,7 @@ SpareTime::Times SpareTime::read()
     Times times;
     for (int i = 1; i < fields.size() && i <= 8; ++i)
         times.all += fields[i].toLongLong();
-    times.idle = fields.value(4).toLongLong() + fields.value(5).toLongLong();
+    times.idle =
+        fields.value(2).toLongLong() + fields.value(4).toLongLong() + fields.value(5).toLongLong();
     return times;
 }
