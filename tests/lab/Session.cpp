@@ -13,8 +13,8 @@
 
 namespace {
 
-constexpr int startLimit = 15000;
-constexpr int reactionLimit = 15000; // also of a busy machine
+constexpr int startLimit = 60000; // also of a busy machine
+constexpr int reactionLimit = 30000;
 // Colours that went through the camera's luma and chroma, and through scaling.
 constexpr int colourTolerance = 16;
 
@@ -39,6 +39,11 @@ bool Session::startLive()
 bool Session::waitForMainWindow()
 {
     return QTest::qWaitFor([this] { return mainWindow().id != 0; }, startLimit);
+}
+
+bool Session::waitForChooser()
+{
+    return QTest::qWaitFor([this] { return dialog().isActive; }, startLimit);
 }
 
 Desktop::Window Session::mainWindow() const

@@ -28,6 +28,7 @@ public:
     // Starts the program and waits until the camera's picture moves in its window.
     bool startLive();
     bool waitForMainWindow();
+    bool waitForChooser();
     Desktop::Window mainWindow() const;
     // Of the program's dialogs the highest; id 0 when none is open.
     Desktop::Window dialog() const;

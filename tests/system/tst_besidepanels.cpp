@@ -87,7 +87,7 @@ void TestBesidePanels::theWindowGoesThereByItself()
              0);
     Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720), m_free);
     user.program().start();
-    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(user.map().videoRect()), 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(user.map().videoRect()), 60000);
 }
 
 QTEST_MAIN(TestBesidePanels)

@@ -3,8 +3,6 @@
 
 #include <QTest>
 
-static constexpr int startLimit = 15000; // ms
-
 // Several cameras, one of them the maker's own document camera, which is not the first of them.
 class TestChoosingACamera : public QObject {
     Q_OBJECT
@@ -14,12 +12,6 @@ private Q_SLOTS:
     void theMakersCameraIsOnTop();
     void theOtherCameraIsTheSecondEntry();
     void aCameraPulledAtTheChooserIsReportedOnce();
-
-private:
-    static bool waitForChooser(Session &user)
-    {
-        return QTest::qWaitFor([&] { return user.dialog().isActive; }, startLimit);
-    }
 };
 
 void TestChoosingACamera::initTestCase()
@@ -31,7 +23,7 @@ void TestChoosingACamera::theMakersCameraIsOnTop()
 {
     Session user(ORVANTA_PROGRAM, "own", QSize(800, 600));
     user.program().start();
-    QVERIFY(waitForChooser(user));
+    QVERIFY(user.waitForChooser());
     const QRect chooser = user.dialog().geometry;
     QCOMPARE(chooser.width(), 200);
     user.desktop().pressKey("Tab");
@@ -44,7 +36,7 @@ void TestChoosingACamera::theOtherCameraIsTheSecondEntry()
 {
     Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
     user.program().start();
-    QVERIFY(waitForChooser(user));
+    QVERIFY(user.waitForChooser());
     user.chooseCamera(1);
     QVERIFY(user.waitForMainWindow());
     QTRY_VERIFY(user.isLiveAt(user.map().videoRect()));
@@ -54,7 +46,7 @@ void TestChoosingACamera::aCameraPulledAtTheChooserIsReportedOnce()
 {
     Session user(ORVANTA_PROGRAM, "own", QSize(800, 600));
     user.program().start();
-    QVERIFY(waitForChooser(user));
+    QVERIFY(user.waitForChooser());
     QVERIFY(labctl({"unplug", "own"}));
     user.chooseCamera(0);
     QVERIFY(user.waitForMainWindow());

@@ -43,8 +43,7 @@ void TestSeveralCameras::theChosenCameraIsShown()
     QFETCH(int, position);
     Session user(ORVANTA_PROGRAM, camera, size);
     user.program().start();
-    QTRY_VERIFY2_WITH_TIMEOUT(user.dialog().isActive,
-                              user.mainWindow().id ? "asked nothing" : "did not come up", 15000);
+    QVERIFY2(user.waitForChooser(), user.mainWindow().id ? "asked nothing" : "did not come up");
     QCOMPARE(user.mainWindow().id, 0U);
     user.chooseCamera(position);
     QVERIFY(user.waitForMainWindow());
@@ -55,7 +54,7 @@ void TestSeveralCameras::afterTheChoiceTheWindowComesBackInFront()
 {
     Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
     user.program().start();
-    QTRY_VERIFY_WITH_TIMEOUT(user.dialog().isActive, 15000);
+    QVERIFY(user.waitForChooser());
     user.chooseCamera(0);
     QVERIFY(user.waitForMainWindow());
     QTRY_VERIFY(user.isLiveAt(user.map().videoRect()));
@@ -82,7 +81,7 @@ void TestSeveralCameras::closingTheChooserEndsTheProgram()
 {
     Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
     user.program().start();
-    QTRY_VERIFY_WITH_TIMEOUT(user.dialog().isActive, 15000);
+    QVERIFY(user.waitForChooser());
     user.desktop().closeWindow(user.dialog().id);
     QVERIFY(user.program().hasEndedWithin(4000));
     QVERIFY(!user.program().hasCrashed());
