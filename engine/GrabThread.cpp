@@ -6,7 +6,6 @@
 #include "PatientWait.h"
 #include "PictureConverter.h"
 #include "SilenceWatch.h"
-#include "SparePictures.h"
 
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
@@ -20,7 +19,6 @@ using std::chrono::steady_clock;
 
 static const milliseconds closeLimit(2000);
 static const int pullLimit = 50; // ms; how long a stop may go unnoticed
-static const int picturesUnseen = 3; // in a row, before no more are made
 
 class GrabThread::Private {
 public:
@@ -28,21 +26,20 @@ public:
 
     // Worker only.
     std::unique_ptr<CameraPipeline> camera; ///< handed over before the worker starts
-    PictureConverter converter{QImage::Format_RGB32};
-    SparePictures spares;
     quint64 frames = 0;
-    quint64 pictures = 0;
+
+    PictureConverter converter{QImage::Format_RGB32}; ///< GUI thread only
+    std::atomic<quint64> painted{0};
 
     std::atomic<bool> stop{false};
 
-    /// Guards everything below, and the thread's m_lastFrame and m_picture.
+    /// Guards everything below, and the thread's m_lastFrame.
     mutable std::mutex mutex;
     std::condition_variable changed; ///< the first frame came, or the camera failed
     State state = State::Opening;
     std::shared_ptr<const CameraFrame> frame;
-    QSize pictureSize;
-    bool announced = false; ///< grabtrue() is under way and its picture was not taken yet
-    int unseen = 0; ///< pictures made since one was taken
+    bool seen = false;
+    bool announced = false; ///< grabtrue() is under way and its frame was not painted yet
 };
 
 GrabThread::GrabThread(QObject *parent)
@@ -78,27 +75,33 @@ bool GrabThread::hasFailed() const
     return d->state == Private::State::Failed;
 }
 
-void GrabThread::setPictureSize(const QSize &size)
+void GrabThread::setSeen(bool seen)
 {
     const std::lock_guard<std::mutex> lock(d->mutex);
-    if (size == d->pictureSize)
-        return;
-    d->pictureSize = size;
-    d->unseen = 0;
-    m_picture = QImage();
+    d->seen = seen;
 }
 
-QImage GrabThread::takePicture()
+std::shared_ptr<const CameraFrame> GrabThread::takeFrame()
 {
-    std::unique_lock<std::mutex> lock(d->mutex);
+    const std::lock_guard<std::mutex> lock(d->mutex);
     d->announced = false;
-    d->unseen = 0;
-    if (!m_picture.isNull() || !d->frame || d->pictureSize.isEmpty())
-        return m_picture;
-    const std::shared_ptr<const CameraFrame> frame = d->frame;
-    const QSize size = d->pictureSize;
-    lock.unlock();
-    return PictureConverter(QImage::Format_RGB32).convert(*frame, size);
+    return d->frame;
+}
+
+bool GrabThread::paintInto(QImage *picture)
+{
+    const std::shared_ptr<const CameraFrame> frame = takeFrame();
+    if (!frame || !d->converter.fill(*frame, picture))
+        return false;
+    ++d->painted;
+    return true;
+}
+
+QImage GrabThread::takePicture(const QSize &size)
+{
+    const std::shared_ptr<const CameraFrame> frame = takeFrame();
+    m_picture = frame ? d->converter.convert(*frame, size, std::move(m_picture)) : QImage();
+    return m_picture;
 }
 
 std::shared_ptr<const CameraFrame> GrabThread::newestFrame() const
@@ -143,7 +146,7 @@ void GrabThread::run()
         Q_EMIT deviceerr();
     }
     d->camera.reset(); // may take long, so everybody has been told before
-    qCDebug(engineLog) << d->frames << "frames taken," << d->pictures << "converted";
+    qCDebug(engineLog) << d->frames << "frames taken," << d->painted << "painted";
 }
 
 // A camera that hangs reports nothing: its frames just stop.
@@ -163,7 +166,7 @@ void GrabThread::grabUntilEnd()
         if (frame) {
             watch.frameCame();
             keepFrame(frame);
-            makePicture(*frame);
+            announceFrame();
             continue;
         }
         // One look more than the limit asks for, in case the frame comes just now.
@@ -188,40 +191,23 @@ void GrabThread::keepFrame(const std::shared_ptr<CameraFrame> &frame)
     }
 }
 
-// Newest wins: a picture that nobody took yet is replaced without a second announcement. When
-// several in a row were not taken (the window is minimised, or the program is busy) none is made
-// until one is.
-void GrabThread::makePicture(const CameraFrame &frame)
+// Newest wins: of a frame that was not painted yet nothing more is said. Nothing is converted for
+// a window that is minimised, or for a program that is busy.
+void GrabThread::announceFrame()
 {
-    QSize size;
     {
         const std::lock_guard<std::mutex> lock(d->mutex);
-        if (d->pictureSize.isEmpty() || d->unseen >= picturesUnseen)
+        if (!d->seen || d->announced)
             return;
-        size = d->pictureSize;
-    }
-    QImage picture = d->converter.convert(frame, size, d->spares.take());
-    ++d->pictures;
-    bool announce = false;
-    {
-        const std::lock_guard<std::mutex> lock(d->mutex);
-        if (size != d->pictureSize)
-            return; // the target changed meanwhile
-        m_picture.swap(picture);
-        ++d->unseen;
-        announce = !d->announced;
         d->announced = true;
     }
-    d->spares.keep(std::move(picture));
-    if (announce)
-        Q_EMIT grabtrue();
+    Q_EMIT grabtrue();
 }
 
 void GrabThread::forgetFrames()
 {
     std::shared_ptr<const CameraFrame> last;
     const std::lock_guard<std::mutex> lock(d->mutex);
-    m_picture = QImage();
     m_lastFrame = cv::Mat();
     d->frame.swap(last);
 }

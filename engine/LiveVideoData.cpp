@@ -160,8 +160,7 @@ void LiveVideoData::Private::setShowing(bool on)
 void LiveVideoData::Private::followTarget()
 {
     if (thread)
-        thread->setPictureSize(showing ? painter.roomFor({q->nativeWidth, q->nativeHeight})
-                                       : QSize());
+        thread->setSeen(showing && painter.hasRoom());
 }
 
 QVector<CameraMode> LiveVideoData::Private::modes() const
@@ -172,7 +171,13 @@ QVector<CameraMode> LiveVideoData::Private::modes() const
 LiveVideoData::LiveVideoData()
     : d(std::make_unique<Private>(this))
 {
-    d->painter.setSource([this] { return d->thread ? d->thread->takePicture() : QImage(); });
+    TargetPainter::Source source;
+    source.size = [this] {
+        return d->thread && d->showing ? QSize(nativeWidth, nativeHeight) : QSize();
+    };
+    source.paintInto = [this](QImage *picture) { return d->thread->paintInto(picture); };
+    source.picture = [this](const QSize &size) { return d->thread->takePicture(size); };
+    d->painter.setSource(source);
     connect(&d->painter, &TargetPainter::roomChanged, this, [this] { d->followTarget(); });
 }
 

@@ -18,12 +18,22 @@ static GstVideoFrame asWhole(const GstVideoFrame &frame)
     return whole;
 }
 
+static GstVideoFormat formatOf(const QImage &image)
+{
+    switch (image.format()) {
+    case QImage::Format_RGB888:
+        return GST_VIDEO_FORMAT_RGB;
+    case QImage::Format_ARGB32_Premultiplied: // the same as long as it is opaque
+        return GST_VIDEO_FORMAT_BGRA;
+    default:
+        return GST_VIDEO_FORMAT_BGRx;
+    }
+}
+
 bool PictureConverter::prepare(const GstVideoInfo &from, const QImage &to)
 {
     GstVideoInfo wanted;
-    gst_video_info_set_format(
-        &wanted, m_format == QImage::Format_RGB888 ? GST_VIDEO_FORMAT_RGB : GST_VIDEO_FORMAT_BGRx,
-        guint(to.width()), guint(to.height()));
+    gst_video_info_set_format(&wanted, formatOf(to), guint(to.width()), guint(to.height()));
     GST_VIDEO_INFO_PLANE_STRIDE(&wanted, 0) = to.bytesPerLine();
     GST_VIDEO_INFO_SIZE(&wanted) = gsize(to.sizeInBytes());
     GST_VIDEO_INFO_FPS_N(&wanted) = GST_VIDEO_INFO_FPS_N(&from);
@@ -42,6 +52,14 @@ bool PictureConverter::prepare(const GstVideoInfo &from, const QImage &to)
     return m_converter != nullptr;
 }
 
+bool PictureConverter::fill(const CameraFrame &frame, QImage *image)
+{
+    const GstVideoFrame whole = asWhole(frame.picture());
+    if (image->format() != QImage::Format_RGB888 && m_screen.convert(whole, image))
+        return true;
+    return convertWithGStreamer(whole, image);
+}
+
 QImage PictureConverter::convert(const CameraFrame &frame, const QSize &size, QImage reuse)
 {
     if (size.isEmpty())
@@ -49,12 +67,7 @@ QImage PictureConverter::convert(const CameraFrame &frame, const QSize &size, QI
     QImage image = std::move(reuse);
     if (image.size() != size || image.format() != m_format || !image.isDetached())
         image = QImage(size, m_format);
-    if (image.isNull())
-        return {};
-    const GstVideoFrame whole = asWhole(frame.picture());
-    if (m_format == QImage::Format_RGB32 && m_screen.convert(whole, &image))
-        return image;
-    return convertWithGStreamer(whole, &image) ? image : QImage();
+    return !image.isNull() && fill(frame, &image) ? image : QImage();
 }
 
 bool PictureConverter::convertWithGStreamer(const GstVideoFrame &frame, QImage *image)

@@ -18,6 +18,10 @@ public:
     /// @p format is RGB32 for the screen or RGB888 for files.
     explicit PictureConverter(QImage::Format format);
 
+    /// Fills @p image, of the format above or, opaque, of ARGB32_Premultiplied, with the frame,
+    /// scaled without regard to its aspect. False when that cannot be done.
+    bool fill(const CameraFrame &frame, QImage *image);
+
     /// The frame in @p size, scaled without regard to its aspect; a null image when that cannot be
     /// done. @p reuse may hold an image whose memory is used again when nobody else has it.
     QImage convert(const CameraFrame &frame, const QSize &size, QImage reuse = {});

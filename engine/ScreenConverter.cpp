@@ -11,8 +11,8 @@
 
 using PlaneScaler::laneCount;
 
-// Pixels of a picture that one thread is not left alone with: more than a Full-HD screen has.
-static constexpr int aloneLimit = 2500000;
+// Pixels of a picture that one thread is not left alone with: half of what a Full-HD screen has.
+static constexpr int aloneLimit = 1000000;
 
 ScreenConverter::ScreenConverter()
 {

@@ -27,8 +27,9 @@ class ScreenConverter {
 public:
     ScreenConverter();
 
-    /// Fills @p picture, of RGB32 and at least 1x1, with @p frame, scaled without regard to its
-    /// aspect. False, with the picture as it was, for a format or colours that are not known here.
+    /// Fills @p picture, of RGB32 or, opaque, of ARGB32_Premultiplied and at least 1x1, with @p
+    /// frame, scaled without regard to its aspect. False, with the picture as it was, for a format
+    /// or colours that are not known here.
     bool convert(const GstVideoFrame &frame, QImage *picture);
 
 private:

@@ -15,8 +15,8 @@ class CameraPipeline;
 
 /**
  * The engine's worker: opens one camera, takes its frames until it is told to stop or the camera
- * is lost, keeps the newest frame and converts it for the screen. The program never builds, starts
- * or connects to one.
+ * is lost, keeps the newest frame and tells when another is there for the screen. The program never
+ * builds, starts or connects to one.
  *
  * A thread serves one opening of one camera: capture() once, then retire(). Opening and closing a
  * camera can block inside a driver or a media server, so both happen here and nothing waits for
@@ -42,13 +42,16 @@ public:
     /// True once the camera failed by itself: an error, the end of its stream, or silence.
     bool hasFailed() const;
 
-    /// The size in device pixels in which pictures are wanted; empty while nobody sees them, which
-    /// spares all conversion. A picture that was made before is forgotten.
-    void setPictureSize(const QSize &size);
+    /// Whether somebody sees the picture: grabtrue() comes only then.
+    void setSeen(bool seen);
 
-    /// The newest picture in the wanted size; made on the spot when a frame but no picture is there
-    /// yet. Null without a frame or a wanted size. Taking it lets the next grabtrue() come.
-    QImage takePicture();
+    /// Fills @p picture, of RGB32 or ARGB32_Premultiplied, with the newest frame, opaque and scaled
+    /// without regard to its aspect, and lets the next grabtrue() come. False, with the picture as
+    /// it was, without a frame.
+    bool paintInto(QImage *picture);
+
+    /// The same in a picture of @p size; a null image without a frame.
+    QImage takePicture(const QSize &size);
 
     /// The newest full-size frame, null before the first and after the camera is gone. The frame
     /// stays readable for as long as the caller holds it, also when the camera vanishes.
@@ -61,7 +64,7 @@ public:
 Q_SIGNALS:
     /// The camera failed; comes once and not when the thread was told to stop.
     void deviceerr();
-    /// A new picture waits in takePicture(); not repeated until it was taken.
+    /// A new frame is there to be painted; not repeated until it was.
     void grabtrue();
 
 protected:
@@ -70,13 +73,14 @@ protected:
 private:
     void grabUntilEnd();
     void keepFrame(const std::shared_ptr<CameraFrame> &frame);
-    void makePicture(const CameraFrame &frame);
+    void announceFrame();
+    std::shared_ptr<const CameraFrame> takeFrame();
     void forgetFrames();
 
     class Q_DECL_HIDDEN Private;
     std::unique_ptr<Private> d; ///< first, so that it goes last: it keeps m_lastFrame's pixels
     cv::Mat m_lastFrame; ///< view of the last grabbed frame, no copy; guarded by d->mutex
-    QImage m_picture; ///< its picture as the target shows it; guarded by d->mutex
+    QImage m_picture; ///< what takePicture() gave last, for its memory; GUI thread only
 };
 
 #endif
