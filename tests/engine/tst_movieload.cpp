@@ -14,9 +14,24 @@
 #include <phonon/mediaobject.h>
 #include <phonon/videoplayer.h>
 
+#include <memory>
+#include <vector>
+
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 using std::chrono::steady_clock;
+
+namespace {
+
+/// What the machine had no time for at the right moment, in s.
+struct Lateness {
+    double sound; ///< see StandInCamera::soundLate()
+    double end; ///< of the movie, after the camera's
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::vector<int>)
 
 // Movies whose encoder is too slow for the camera: the movie spans the whole time with all of its
 // sound, and the frames that are left out lie evenly between the others.
@@ -33,17 +48,17 @@ private Q_SLOTS:
 
 private:
     QString newPath();
-    MovieFile record(const QByteArray &hindrance, QSize size, int rate);
-    void verifySpan(const MovieFile &movie, int rate) const;
-    void verifySound(const MovieFile &movie, int rate) const;
+    void judge(const QString &path, int rate, int length, const Lateness &late) const;
+    void verifySpan(const MovieFile &movie, int rate, double shortest, double longest) const;
+    void verifySound(const MovieFile &movie, int rate, int length, double late) const;
     void verifyFrames(const MovieFile &movie, int rate) const;
 
     QTemporaryDir m_folder;
     int m_movies = 0;
-    qint64 m_stop = 0; ///< ms that the last stop took
 };
 
-static const int length = 6; // s
+static const int briefLength = 2; // s
+static const milliseconds longestStop(4000); // of a movie with a queue of a second
 
 static MovieEncoding encodingBehind(const QByteArray &hindrance)
 {
@@ -70,50 +85,49 @@ QString TestMovieLoad::newPath()
     return m_folder.filePath(QStringLiteral("movie%1.mov").arg(++m_movies));
 }
 
-MovieFile TestMovieLoad::record(const QByteArray &hindrance, QSize size, int rate)
+// A camera and a microphone for @p length seconds, which all the recorders see and hear.
+static void show(StandInCamera &camera, double length,
+                 const std::vector<std::shared_ptr<MovieRecorder>> &recorders)
 {
-    StandInCamera camera(size, rate);
-    const QString path = newPath();
-    const std::shared_ptr<MovieRecorder> recorder =
-        MovieRecorder::start(path, camera.format(), encodingBehind(hindrance));
-    if (!recorder)
-        return MovieFile(path);
     camera.send(
         length,
-        [&](GstBuffer *frame, GstClockTime captured) { recorder->addFrame(frame, captured); },
+        [&](GstBuffer *frame, GstClockTime captured) {
+            for (const auto &recorder : recorders)
+                recorder->addFrame(frame, captured);
+        },
         [&](const char *samples, qint64 count, GstClockTime captured) {
-            recorder->addSound(samples, count, captured);
+            for (const auto &recorder : recorders)
+                recorder->addSound(samples, count, captured);
         });
     camera.wait();
-    QElapsedTimer timer;
-    timer.start();
-    recorder->finish(seconds(5));
-    m_stop = timer.elapsed();
-    qInfo("the stop took %lld ms, handing over a frame %.1f ms at most", m_stop,
-          double(camera.longestCall()) / 1e6);
-    return MovieFile(path);
 }
 
-void TestMovieLoad::verifySpan(const MovieFile &movie, int rate) const
+// All of it from @p shortest to @p longest seconds.
+void TestMovieLoad::verifySpan(const MovieFile &movie, int rate, double shortest,
+                               double longest) const
 {
     const double tolerance = 3.0 / rate;
-    QVERIFY2(qAbs(movie.duration() - length) < tolerance,
+    const auto isOfLength = [&](double length, double most) {
+        return length > shortest - most && length < longest + most;
+    };
+    QVERIFY2(isOfLength(movie.duration(), tolerance),
              qPrintable(QString::number(movie.duration())));
     const MovieProbe probe(movie.path());
     QCOMPARE(probe.complaints(), QString());
-    QVERIFY2(qAbs(probe.videoDuration() - length) < tolerance,
+    QVERIFY2(isOfLength(probe.videoDuration(), tolerance),
              qPrintable(QString::number(probe.videoDuration())));
-    QVERIFY2(qAbs(probe.soundDuration() - length) < 0.1,
+    QVERIFY2(isOfLength(probe.soundDuration(), 0.1),
              qPrintable(QString::number(probe.soundDuration())));
 }
 
-// Every tone is where it was.
-void TestMovieLoad::verifySound(const MovieFile &movie, int rate) const
+// Every tone is where it was. When sound was heard is told from when it arrives: nobody could know
+// better than by so many seconds that all of it was handed over late.
+void TestMovieLoad::verifySound(const MovieFile &movie, int rate, int length, double late) const
 {
     const double beat = double(LabPattern::beatFrames) / rate;
     QCOMPARE(movie.tones().size(), qRound(length / beat));
     for (int i = 0; i < movie.tones().size(); ++i)
-        QVERIFY2(qAbs(movie.tones().at(i) - i * beat) < 0.04,
+        QVERIFY2(qAbs(movie.tones().at(i) - i * beat) < 0.04 + late,
                  qPrintable(QString::number(movie.tones().at(i))));
 }
 
@@ -138,42 +152,78 @@ void TestMovieLoad::verifyFrames(const MovieFile &movie, int rate) const
     QVERIFY2(longest < 3 * usual + 2.0 / rate, qPrintable(QString::number(longest)));
 }
 
+void TestMovieLoad::judge(const QString &path, int rate, int length, const Lateness &late) const
+{
+    const MovieFile movie(path);
+    verifySpan(movie, rate, length, length + late.end);
+    verifySound(movie, rate, length, late.sound);
+    verifyFrames(movie, rate);
+}
+
 void TestMovieLoad::anEncoderThatIsTooSlowGetsFewerFrames_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("rate");
-    QTest::addColumn<int>("percent"); // of the frames that the encoder has time for
-    for (const QSize size : {QSize(640, 480), QSize(1920, 1080)})
-        for (const int percent : {10, 25, 50})
-            QTest::addRow("%dx%d, %d %%", size.width(), size.height(), percent)
-                << size << 30 << percent;
-    for (const int percent : {10, 25, 50})
-        QTest::addRow("60 frames a second, %d %%", percent) << QSize(640, 480) << 60 << percent;
+    QTest::addColumn<int>("length"); // s; three beats or more
+    QTest::addColumn<std::vector<int>>("percents"); // of the frames that the encoder has time for
+    QTest::newRow("small") << QSize(640, 480) << 30 << 6 << std::vector<int>{10, 25, 50};
+    QTest::newRow("Full HD") << QSize(1920, 1080) << 30 << 6 << std::vector<int>{25, 50};
+    QTest::newRow("Full HD, very slow") << QSize(1920, 1080) << 30 << 6 << std::vector<int>{10};
+    QTest::newRow("60 frames a second")
+        << QSize(640, 480) << 60 << 4 << std::vector<int>{10, 25, 50};
 }
 
+// Encoders beside each other, as they spend their time waiting.
 void TestMovieLoad::anEncoderThatIsTooSlowGetsFewerFrames()
 {
     QFETCH(QSize, size);
     QFETCH(int, rate);
-    QFETCH(int, percent);
-    const MovieFile movie = record(slowedTo(percent, rate), size, rate);
-    verifySpan(movie, rate);
-    verifySound(movie, rate);
-    verifyFrames(movie, rate);
-    QVERIFY2(m_stop < 4000, "the queue was too long");
+    QFETCH(int, length);
+    QFETCH(std::vector<int>, percents);
+    StandInCamera camera(size, rate);
+    QStringList paths;
+    std::vector<std::shared_ptr<MovieRecorder>> recorders;
+    for (const int percent : percents) {
+        paths.append(newPath());
+        recorders.push_back(MovieRecorder::start(paths.last(), camera.format(),
+                                                 encodingBehind(slowedTo(percent, rate))));
+        QVERIFY(recorders.back());
+    }
+    show(camera, length, recorders);
+    // All at the same moment, which is the end of each movie.
+    for (const auto &recorder : recorders)
+        recorder->finish(milliseconds(0));
+    const Lateness late{camera.soundLate(), camera.sinceEnd()};
+    QVERIFY2(MovieCompletion::waitForAll(steady_clock::now() + longestStop),
+             "the queue was too long");
+    qInfo("handing over a frame took %.1f ms at most, sound was %.0f ms late, the end %.0f ms",
+          double(camera.longestCall()) / 1e6, late.sound * 1000, late.end * 1000);
+    for (std::size_t i = 0; i < percents.size() && !QTest::currentTestFailed(); ++i) {
+        qInfo("an encoder for %d %% of the frames:", percents[i]);
+        judge(paths.at(int(i)), rate, length, late);
+    }
 }
 
 void TestMovieLoad::aMovieOfFewFramesPlays()
 {
-    const MovieFile movie = record(slowedTo(5, 30), {640, 480}, 30);
+    StandInCamera camera({640, 480}, 30);
+    const QString path = newPath();
+    const std::shared_ptr<MovieRecorder> recorder =
+        MovieRecorder::start(path, camera.format(), encodingBehind(slowedTo(5, 30)));
+    QVERIFY(recorder);
+    show(camera, briefLength, {recorder});
+    recorder->finish(seconds(5));
+    const double longest = briefLength + camera.sinceEnd();
     Phonon::VideoPlayer player(Phonon::VideoCategory);
     player.resize(320, 180);
     player.show();
-    player.play(Phonon::MediaSource(QUrl::fromLocalFile(movie.path())));
+    player.play(Phonon::MediaSource(QUrl::fromLocalFile(path)));
     QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.totalTime() > 0, 20000);
-    QVERIFY(qAbs(double(player.totalTime()) / 1000 - length) < 0.2);
-    player.seek(3000);
-    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() >= 2000, 20000);
+    const double told = double(player.totalTime()) / 1000;
+    QVERIFY2(told > briefLength - 0.2 && told < longest + 0.2, qPrintable(QString::number(told)));
+    player.seek(briefLength * 500);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        player.currentTime() >= briefLength * 500 - 1000 && player.currentTime() > 0, 20000);
     QTRY_VERIFY_WITH_TIMEOUT(!player.isPlaying(), 20000);
 }
 
@@ -184,12 +234,7 @@ void TestMovieLoad::aMovieOfWhichNoFrameCouldBeEncodedLeavesNoFile()
     const std::shared_ptr<MovieRecorder> recorder = MovieRecorder::start(
         path, camera.format(), encodingBehind("identity drop-probability=1 ! "));
     QVERIFY(recorder);
-    camera.send(
-        0.5, [&](GstBuffer *frame, GstClockTime captured) { recorder->addFrame(frame, captured); },
-        [&](const char *samples, qint64 count, GstClockTime captured) {
-            recorder->addSound(samples, count, captured);
-        });
-    camera.wait();
+    show(camera, 0.5, {recorder});
     QVERIFY(QFile::exists(path));
     recorder->finish(seconds(5));
     QTRY_VERIFY(!QFile::exists(path));
@@ -202,16 +247,11 @@ void TestMovieLoad::aFileThatIsNotCompleteInTimeIsCompletedOnTheSide()
     const std::shared_ptr<MovieRecorder> recorder =
         MovieRecorder::start(path, camera.format(), encodingBehind(slowedTo(10, 30)));
     QVERIFY(recorder);
-    camera.send(
-        length,
-        [&](GstBuffer *frame, GstClockTime captured) { recorder->addFrame(frame, captured); },
-        [&](const char *samples, qint64 count, GstClockTime captured) {
-            recorder->addSound(samples, count, captured);
-        });
-    camera.wait();
+    show(camera, briefLength, {recorder});
     QVERIFY(!recorder->finish(milliseconds(1)));
+    const double late = camera.sinceEnd();
     QVERIFY(MovieCompletion::waitForAll(steady_clock::now() + seconds(30)));
-    verifySpan(MovieFile(path), 30);
+    verifySpan(MovieFile(path), 30, briefLength, briefLength + late);
 }
 
 QTEST_MAIN(TestMovieLoad)

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QVector>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -64,9 +65,12 @@ void StandInCamera::run()
         sendFrame(i, captured);
         due = begin + GstClockTime(i + 1) * GST_SECOND / GstClockTime(m_rate);
         sleepUntil(due); // sound comes when it has been heard
+        m_soundDue.append(due);
+        m_soundSent.append(now());
         const qint64 from = qint64(i) * soundRate / m_rate;
         sendSound(from, qint64(i + 1) * soundRate / m_rate - from, captured);
     }
+    m_end = due;
 }
 
 void StandInCamera::sendFrame(int number, GstClockTime captured)
@@ -84,7 +88,7 @@ void StandInCamera::sendFrame(int number, GstClockTime captured)
     m_longestCall = qMax(m_longestCall, timer.nsecsElapsed());
 }
 
-void StandInCamera::sendSound(qint64 from, qint64 count, GstClockTime captured) const
+void StandInCamera::sendSound(qint64 from, qint64 count, GstClockTime captured)
 {
     const qint64 beat = qint64(LabPattern::beatFrames) * soundRate / m_rate;
     QVector<qint16> samples;
@@ -92,4 +96,24 @@ void StandInCamera::sendSound(qint64 from, qint64 count, GstClockTime captured) 
         for (int channel = 0; channel < 2; ++channel)
             samples.append(sampleAt(i % beat));
     m_takeSound(reinterpret_cast<const char *>(samples.constData()), count, captured);
+}
+
+double StandInCamera::soundLate() const
+{
+    const GstClockTime span = GST_SECOND / 5;
+    GstClockTime worst = 0;
+    for (int i = 0; i < m_soundSent.size(); ++i) {
+        if (m_soundSent.last() < m_soundSent[i] + span)
+            break;
+        GstClockTime least = GST_CLOCK_TIME_NONE;
+        for (int k = i; k < m_soundSent.size() && m_soundSent[k] <= m_soundSent[i] + span; ++k)
+            least = std::min(least, m_soundSent[k] - m_soundDue[k]);
+        worst = std::max(worst, least);
+    }
+    return double(worst) / GST_SECOND;
+}
+
+double StandInCamera::sinceEnd() const
+{
+    return double(now() - m_end) / GST_SECOND;
 }

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QThread>
+#include <QVector>
 
 #include <functional>
 
@@ -32,13 +33,18 @@ public:
     void send(double seconds, TakeFrame takeFrame, TakeSound takeSound);
     // How long handing a frame over took at most (ns).
     qint64 longestCall() const { return m_longestCall; }
+    // How late (s) all sound was handed over during some fifth of a second, the worst one: about 0,
+    // unless the machine did not let the thread run in time.
+    double soundLate() const;
+    // How many seconds ago the last of what it sent had been seen and heard. Once it has ended.
+    double sinceEnd() const;
 
 protected:
     void run() override;
 
 private:
     void sendFrame(int number, GstClockTime captured);
-    void sendSound(qint64 from, qint64 count, GstClockTime captured) const;
+    void sendSound(qint64 from, qint64 count, GstClockTime captured);
 
     const FramePainter m_painter;
     const int m_rate;
@@ -47,6 +53,9 @@ private:
     TakeFrame m_takeFrame;
     TakeSound m_takeSound;
     qint64 m_longestCall = 0;
+    GstClockTime m_end = 0;
+    QVector<GstClockTime> m_soundDue; // when each piece had been heard
+    QVector<GstClockTime> m_soundSent; // when it was handed over
 };
 
 #endif // STANDINCAMERA_H
