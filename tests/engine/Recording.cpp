@@ -8,7 +8,10 @@
 
 namespace {
 
-constexpr int patience = 30000; // ms; longer than any stop may take
+constexpr int patience = 30000; // ms
+// ms; the engine may wait for 15 s when it ends, and a program that gets one fiftieth of a
+// processor takes long for all else that an end is.
+constexpr int endPatience = 120000;
 constexpr int cycle = 100; // ms
 constexpr int retry = 50; // ms
 
@@ -97,13 +100,18 @@ void Recording::goOn()
         ::kill(pid_t(m_process.processId()), SIGCONT);
 }
 
-bool Recording::stop()
+void Recording::end()
 {
     m_process.closeWriteChannel();
+}
+
+bool Recording::stop()
+{
+    end();
     QEventLoop loop; // the throttle goes on
     QObject::connect(&m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
                      &loop, &QEventLoop::quit);
-    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    QTimer::singleShot(endPatience, &loop, &QEventLoop::quit);
     if (isRunning())
         loop.exec();
     return m_process.state() == QProcess::NotRunning

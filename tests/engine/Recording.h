@@ -33,6 +33,8 @@ public:
     /// In seconds, how old the movie was when it was killed.
     double length() const { return m_length; }
 
+    /// Ends the movie; the program ends by itself then.
+    void end();
     /// Ends the movie and waits for the end of the program. False when that is none in order.
     bool stop();
 

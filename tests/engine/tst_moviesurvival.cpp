@@ -30,6 +30,8 @@ class TestMovieSurvival : public QObject {
 
 private Q_SLOTS:
     void initTestCase();
+    void init();
+    void cleanup();
     void aKilledProgramLeavesAMovie_data();
     void aKilledProgramLeavesAMovie();
     void aFullDiskEndsTheMovieAndLeavesItPlayable();
@@ -43,6 +45,7 @@ private:
     static bool hasStoppedGrowing(const QString &path);
 
     QTemporaryDir m_folder;
+    std::unique_ptr<SpareTime> m_time; ///< of the running test
     int m_movies = 0;
 };
 
@@ -51,6 +54,16 @@ void TestMovieSurvival::initTestCase()
     qputenv("PHONON_GST_VIDEOMODE", "software");
     QVERIFY2(!qEnvironmentVariableIsEmpty("ORVANTA_LAB"), "this test must be run by tests/lab/lab");
     QVERIFY(labctl({"plug", "beeper", "1280x720", "--beep", "micfeed"}));
+}
+
+void TestMovieSurvival::init()
+{
+    m_time = std::make_unique<SpareTime>();
+}
+
+void TestMovieSurvival::cleanup()
+{
+    m_time.reset();
 }
 
 QString TestMovieSurvival::newPath()
@@ -85,8 +98,9 @@ void TestMovieSurvival::verifyEveryPlayerTakes(const QString &path, double from,
     QVERIFY2(probe.duration() >= from && probe.duration() <= to,
              qPrintable(QString::number(probe.duration())));
     // A busy machine leaves most out, and has begun when it could.
+    const int leastRate = m_time->isPlenty() ? 5 : 1;
     QVERIFY2(probe.frames() <= probe.videoDuration() * 30 + 2
-                 && probe.frames() >= probe.videoDuration(),
+                 && probe.frames() >= probe.videoDuration() * leastRate,
              qPrintable(QString::number(probe.frames())));
 }
 
@@ -103,7 +117,6 @@ void TestMovieSurvival::aKilledProgramLeavesAMovie_data()
 void TestMovieSurvival::aKilledProgramLeavesAMovie()
 {
     QFETCH(QVector<int>, moments);
-    const SpareTime time;
     std::vector<std::unique_ptr<Recording>> recordings;
     for (const int moment : qAsConst(moments)) {
         recordings.push_back(std::make_unique<Recording>("beeper", newPath()));
@@ -114,7 +127,7 @@ void TestMovieSurvival::aKilledProgramLeavesAMovie()
         const double length = recording->length();
         QVERIFY(length > 0);
         // An encoder without time is behind by what waits for it, and so is the index.
-        const double least = time.isPlenty() ? length - 2 : qMin(length - 2, length / 3);
+        const double least = m_time->isPlenty() ? length - 2 : qMin(length - 2, length / 3);
         playAndSeek(recording->path(), least, length + 0.3);
         verifyEveryPlayerTakes(recording->path(), least, length + 0.3);
         QFile::remove(recording->path());
@@ -177,7 +190,6 @@ void TestMovieSurvival::aFileThatMayNotGrowIsPlayable()
 
 void TestMovieSurvival::aMovieOfAProgramThatStoodStillSpansTheWholeTime()
 {
-    const SpareTime time;
     Recording recording("beeper", newPath());
     QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
     QTest::qWait(1500); // nothing to wait for: the movie's length so far
@@ -200,7 +212,7 @@ void TestMovieSurvival::aMovieOfAProgramThatStoodStillSpansTheWholeTime()
     // Shown when it was taken, by the camera's own count.
     const double taken = (frames.last().counter - frames.first().counter) / 30.0;
     // It counts a picture when it gets round to it.
-    const double late = time.lateness();
+    const double late = m_time->lateness();
     const double shown = frames.last().time - frames.first().time;
     QVERIFY2(qAbs(shown - taken) < 0.3 + late,
              qPrintable(QStringLiteral("%1 of %2, held up %3").arg(shown).arg(taken).arg(late)));
