@@ -1,0 +1,45 @@
+#ifndef MOVIESESSION_H
+#define MOVIESESSION_H
+
+#include "LiveVideoData.h"
+#include "MovieFile.h"
+
+#include <QString>
+#include <QTemporaryDir>
+
+#include <memory>
+
+/**
+ * The engine in front of a lab camera that beeps into the microphone, for tests that make movies
+ * with it. What goes wrong in here fails the running test.
+ */
+class MovieSession {
+protected:
+    MovieSession() = default;
+    ~MovieSession() = default;
+    Q_DISABLE_COPY(MovieSession)
+
+    /// Plugs the camera in, for all tests of a program.
+    void setUpCamera();
+    /// A new engine with its camera open.
+    void open();
+    /// Both are unplugged and plugged in again: without its microphone the camera's beep has lost
+    /// its way. Ends the engine.
+    void plugMicrophoneIn();
+
+    QString newPath(); ///< becomes m_path
+    void begin(); ///< a movie in a new path
+    void end();
+    void record(int milliseconds); ///< a movie in a new path, that long
+    /// The whole file can be played, by two families of players, and lasts so many seconds.
+    static void verifyPlayable(const MovieFile &movie, double from, double to);
+
+    std::unique_ptr<LiveVideoData> m_engine;
+    QTemporaryDir m_folder;
+    QString m_path; ///< of the newest movie
+
+private:
+    int m_movies = 0;
+};
+
+#endif
