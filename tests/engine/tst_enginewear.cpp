@@ -14,7 +14,8 @@ private Q_SLOTS:
 
 static void openAndClose(LiveVideoData &engine)
 {
-    QTRY_VERIFY((engine.Create(), engine.created)); // a busy machine may take longer than it may
+    engine.Create();
+    QVERIFY(engine.created);
     engine.Start();
     QTest::qWait(20); // nothing to wait for: a short use, which may end before a picture came
     engine.Stop();
@@ -29,6 +30,8 @@ void TestEngineWear::aHundredOpeningsLeaveNothingBehind()
     target.show();
     LiveVideoData engine;
     engine.SetTarget(&target);
+    // Its servers answer late when it is the first program in a home, on a busy machine.
+    QTRY_COMPARE_WITH_TIMEOUT(engine.GetVideoDeviceList(), QStringList{"first"}, 60000);
     for (int i = 0; i < 20 && !QTest::currentTestFailed(); ++i)
         openAndClose(engine);
     const Footprint before = Footprint::now();
