@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QMessageBox>
+#include <QMap>
 #include <QProcess>
 #include <QTest>
 
@@ -118,6 +119,10 @@ void DialogFixture::setSettings(const QByteArray &lines) const
 
 QByteArray DialogFixture::movieOf(int frames)
 {
+    static QMap<int, QByteArray> made;
+    QByteArray &movie = made[frames];
+    if (!movie.isEmpty())
+        return movie;
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("a.mov"));
     QProcess recorder;
@@ -128,7 +133,9 @@ QByteArray DialogFixture::movieOf(int frames)
                     "location=" + path});
     recorder.waitForFinished(30000);
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (file.open(QIODevice::ReadOnly))
+        movie = file.readAll();
+    return movie;
 }
 
 QString DialogFixture::temporaryArea() const
