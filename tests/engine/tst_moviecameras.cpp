@@ -105,7 +105,7 @@ void TestMovieCameras::everyCameraMakesAMovie()
     QFETCH(int, rate);
     plug(options);
     // Long enough for a marked frame, with its tone, and something on both sides of it.
-    const double length = record(qMax(4000, 70000 / rate));
+    const double length = record(qMax(5000, 70000 / rate));
     const MovieFile movie(m_path);
     verifySpan(movie, length, rate);
     const int frames = movie.frames().size();
