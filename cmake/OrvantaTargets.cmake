@@ -42,17 +42,21 @@ function(orvanta_room name)
 endfunction()
 
 # orvanta_test(NAME LABEL unit|engine|system SOURCES file... [USES target...] [TIMEOUT seconds]
-#              [COMMAND prefix...] [LAB option...] [ALONE] [BUSY] [THREADS])
+#              [COST seconds] [COMMAND prefix...] [LAB option...] [ALONE] [BUSY] [THREADS])
 # One test program. Unit tests draw on the offscreen platform. COMMAND is put before the program.
 # Home, temporary and runtime folders are private to the test. With LAB the program runs inside a
 # lab of its own, with these options of tests/lab/lab, such as --camera cam1:1280x720; an option
 # that says the default, --screen 1024x768, gives a lab without cameras. ALONE is for what measures
-# time: nothing else runs beside it. BUSY is for what keeps a processor busy all the time.
+# time: nothing else runs beside it. BUSY is for what keeps a processor busy all the time. COST is
+# how long it takes on a quiet machine, if that is more than ten seconds: long ones begin early.
 # THREADS is for what the thread sanitizer can judge: ours meet by locks that it sees.
 function(orvanta_test name)
-    cmake_parse_arguments(TEST "ALONE;BUSY;THREADS" "LABEL;TIMEOUT" "SOURCES;USES;COMMAND;LAB" ${ARGN})
+    cmake_parse_arguments(TEST "ALONE;BUSY;THREADS" "LABEL;TIMEOUT;COST" "SOURCES;USES;COMMAND;LAB" ${ARGN})
     if(NOT TEST_TIMEOUT)
         set(TEST_TIMEOUT 120)
+    endif()
+    if(NOT TEST_COST)
+        set(TEST_COST 5)
     endif()
     add_executable(${name} ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE ${TEST_USES} orvanta_test_options)
@@ -101,5 +105,5 @@ function(orvanta_test name)
         LABELS "${TEST_LABEL}" TIMEOUT ${TEST_TIMEOUT} ENVIRONMENT "${environment}"
         RUN_SERIAL ${TEST_ALONE}
         PROCESSORS ${processors}
-        COST ${TEST_TIMEOUT}) # what may take long begins early
+        COST ${TEST_COST})
 endfunction()
