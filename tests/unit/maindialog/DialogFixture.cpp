@@ -10,8 +10,8 @@
 #include <QDialog>
 #include <QDir>
 #include <QLabel>
-#include <QMessageBox>
 #include <QMap>
+#include <QMessageBox>
 #include <QProcess>
 #include <QTest>
 
