@@ -226,9 +226,10 @@ void TestMovieLoad::aMovieOfFewFramesPlays()
     QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.totalTime() > 0, 20000);
     const double told = double(player.totalTime()) / 1000;
     QVERIFY2(told > briefLength - 0.2 && told < longest + 0.2, qPrintable(QString::number(told)));
-    player.seek(briefLength * 500);
-    QTRY_VERIFY_WITH_TIMEOUT(
-        player.currentTime() >= briefLength * 500 - 1000 && player.currentTime() > 0, 20000);
+    const qint64 middle = player.totalTime() / 2;
+    player.seek(middle);
+    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() >= middle - 1000 && player.currentTime() > 0,
+                             20000);
     QTRY_VERIFY_WITH_TIMEOUT(!player.isPlaying(), 20000);
 }
 

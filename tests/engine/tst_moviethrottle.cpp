@@ -125,6 +125,7 @@ void TestMovieThrottle::theMovieSpansTheWholeTime()
     QVERIFY(labctl({"plug", "beeper", size, "--rate", QString::number(rate), "--beep", "micfeed"}));
     const SpareTime time;
     std::vector<std::unique_ptr<Recording>> recordings;
+    recordings.reserve(percents.size());
     for (const int percent : percents)
         recordings.push_back(std::make_unique<Recording>(
             "beeper", m_folder.filePath(QStringLiteral("movie%1.mov").arg(percent))));
@@ -136,6 +137,7 @@ void TestMovieThrottle::theMovieSpansTheWholeTime()
         recordings[i]->throttle(qMin(95, percents[i] * need));
     QTest::qWait(length); // nothing to wait for: the movies' length
     std::vector<double> ages;
+    ages.reserve(percents.size());
     QElapsedTimer timer;
     timer.start();
     for (const auto &recording : recordings) {
