@@ -3,6 +3,7 @@
 
 #include "LiveVideoData.h"
 #include "MovieFile.h"
+#include "SpareTime.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -31,14 +32,18 @@ protected:
     void begin(); ///< a movie in a new path
     void end();
     void record(int milliseconds); ///< a movie in a new path, that long
-    /// The whole file can be played, by two families of players, and lasts so many seconds.
-    static void verifyPlayable(const MovieFile &movie, double from, double to);
+    /// The whole file can be played, by two families of players, and lasts so many seconds; more
+    /// or less by what the machine was late.
+    void verifyPlayable(const MovieFile &movie, double from, double to) const;
+    /// Seconds since open(); 0 on a machine that has time.
+    double lateness() const { return m_time ? m_time->lateness() : 0; }
 
     std::unique_ptr<LiveVideoData> m_engine;
     QTemporaryDir m_folder;
     QString m_path; ///< of the newest movie
 
 private:
+    std::unique_ptr<SpareTime> m_time;
     int m_movies = 0;
 };
 

@@ -1,7 +1,6 @@
 #include "LabPattern.h"
 #include "MovieProbe.h"
 #include "MovieSession.h"
-#include "SpareTime.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -126,7 +125,6 @@ void TestEngineMovie::twentyMoviesInARowAreAllComplete()
 
 void TestEngineMovie::aPhotoDuringAMovieIsTakenAndTheMovieGoesOn()
 {
-    const SpareTime time;
     m_engine->Record(newPath());
     const QString still = m_folder.filePath("still.png");
     QVERIFY(m_engine->SaveBitmap(still));
@@ -137,7 +135,7 @@ void TestEngineMovie::aPhotoDuringAMovieIsTakenAndTheMovieGoesOn()
     const int photographed = LabPattern::counterOf(QImage(still));
     QVERIFY(photographed > 0);
     QVERIFY(qAbs(movie.frames().first().counter - photographed) <= 5);
-    QVERIFY(movie.missingFrames() <= 1 + 30 * time.lateness());
+    QVERIFY(movie.missingFrames() <= 1 + 30 * lateness());
 }
 
 void TestEngineMovie::aFolderThatCannotBeWrittenIsKnownAfterTheStart()
@@ -190,15 +188,14 @@ void TestEngineMovie::callAndCountFrames(const char *name, const std::function<v
 // The newest frame is asked for again and again: it must never be an old one.
 void TestEngineMovie::theCameraGoesOnWhileAMovieStartsAndStops()
 {
-    const SpareTime time;
     m_watch.start();
     callAndCountFrames("the start", [this] { m_engine->Record(newPath()); });
     watchCamera(2000);
     callAndCountFrames("the stop", [this] { m_engine->RecordStop(); });
     watchCamera(1000);
-    qInfo("the camera stood still for %d ms at most, the machine for %d ms", int(m_longestStop),
-          time.longestWait());
-    QVERIFY(m_longestStop <= longestFreeze + 1000 * time.lateness());
+    qInfo("the camera stood still for %d ms at most; the machine was %.0f ms late",
+          int(m_longestStop), 1000 * lateness());
+    QVERIFY(m_longestStop <= longestFreeze + 1000 * lateness());
 }
 
 QTEST_MAIN(TestEngineMovie)

@@ -1,6 +1,5 @@
 #include "LabCommands.h"
 #include "MovieSession.h"
-#include "SpareTime.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -102,7 +101,6 @@ void TestMovieDevices::theMicrophoneIsHeardAlsoWhenALoudspeakerIsTheDefault()
 
 void TestMovieDevices::aMicrophonePulledOutLeavesSilence()
 {
-    const SpareTime time;
     QElapsedTimer timer;
     timer.start();
     m_engine->Record(newPath());
@@ -119,7 +117,7 @@ void TestMovieDevices::aMicrophonePulledOutLeavesSilence()
              qPrintable(QString::number(movie.soundDuration())));
     QVERIFY(!movie.tones().isEmpty());
     QVERIFY(movie.tones().last() < pulledOut);
-    QVERIFY(movie.missingFrames() <= 2 + 30 * time.lateness());
+    QVERIFY(movie.missingFrames() <= 2 + 30 * lateness());
 }
 
 void TestMovieDevices::aCameraPulledOutLeavesTheMovieUntilThen()
