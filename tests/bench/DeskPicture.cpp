@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QRandomGenerator>
 
+#include <cmath>
+
 QImage deskPicture(QSize size, int noise)
 {
     QImage image(size, QImage::Format_RGB888);
@@ -36,4 +38,24 @@ QImage deskPicture(QSize size, int noise)
             row[i] = uchar(qBound(0, int(row[i]) + random.bounded(-noise, noise + 1), 255));
     }
     return image;
+}
+
+QImage pageOfText(QSize size)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    QFont font(QStringLiteral("Liberation Serif"));
+    const double millimetre = size.height() / 297.0;
+    font.setPixelSize(int(std::lround(10 * 25.4 / 72 * millimetre)));
+    painter.setFont(font);
+    const int step = font.pixelSize() * 6 / 5;
+    for (int y = step; y < size.height(); y += step)
+        painter.drawText(
+            QPointF(step + (y % 7) / 7.0, y),
+            QStringLiteral("The quick brown fox jumps over the lazy dog, 1234567890, while "
+                           "the light of the lamp falls on (a + b)² = a² + 2ab + b². ")
+                .repeated(3));
+    painter.end();
+    return picture.convertToFormat(QImage::Format_RGB888);
 }

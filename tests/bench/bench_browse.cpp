@@ -1,16 +1,25 @@
-// What browsing costs, each as a ratio to doing the same plainly, in the same run: opening the
-// strip of fifty photos and opening it again, showing nine photos side by side, and listing a
-// folder of 5,000 files.
+// What browsing costs, each beside doing the same plainly in the same round: opening the strip of
+// fifty photos, showing nine of them side by side, one of them enlarged, and listing folders of
+// many files. The real window, over the scripted engine, which needs no camera.
+//
+//   bench_browse found ROUNDS      photos of an earlier lesson
+//   bench_browse taken ROUNDS      photos taken in the same run
+//   bench_browse listing ROUNDS    folders of 500, 5,000 and 50,000 captures
+//
+// Prints for each round and figure a line "NAME<TAB>ms<TAB>ms done plainly"; for what is no
+// comparison the second is 0.
 
 #include "CStretchBitmapButton.h"
 #include "CVistrelDlg.h"
 #include "DeskPicture.h"
+#include "FakeEngine.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
 #include "WebcamUtil.h"
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
@@ -27,17 +36,12 @@
 
 namespace {
 
-constexpr int rounds = 3;
 constexpr int photos = 50;
 constexpr int tiles = 9;
-constexpr int manyFiles = 5000;
 const QSize pictureSize(1920, 1080);
-
-double median(QVector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
-}
+// As the window shows them on a screen of 1024x768.
+const QSize tileSize(341, 192);
+const QSize fullSize(1024, 576);
 
 double millisecondsOf(const std::function<void()> &action)
 {
@@ -74,14 +78,13 @@ QString photoName(int number)
     return QStringLiteral("photo20090304090507%1.png").arg(number, 3, 10, QLatin1Char('0'));
 }
 
-void report(const char *what, const QVector<double> &ours, const QVector<double> &baseline)
+void report(const QString &what, double ours, double plain)
 {
-    std::printf("%s: %.1f ms against %.1f ms, ratio %.3f\n", what, median(ours), median(baseline),
-                median(ours) / median(baseline));
+    std::printf("%s\t%.4f\t%.4f\n", qPrintable(what), ours, plain);
     std::fflush(stdout);
 }
 
-/// The window over a temporary area with photos in it, newly started.
+/// The window over the temporary area, newly started.
 class Browser {
 public:
     Browser() { m_dialog.show(); }
@@ -93,12 +96,15 @@ public:
 
     PictureListView *strip() { return m_dialog.findChild<PictureListView *>(); }
 
-    bool isStripComplete()
+    /// From the live picture to the live picture.
+    void takePhoto()
     {
-        for (int row = 0; row < strip()->count(); ++row)
-            if (strip()->item(row)->icon().isNull())
-                return false;
-        return strip()->count() == photos;
+        press("Photo");
+        m_dialog.repaint();
+        press("Apply");
+        m_dialog.repaint();
+        press("Live");
+        m_dialog.repaint();
     }
 
     /// Returns the longest time, in ms, that the window was away from its user.
@@ -113,64 +119,133 @@ public:
     void viewNine()
     {
         press("Show");
-        const auto views =
-            m_dialog.findChildren<PictureWidget *>(QString(), Qt::FindDirectChildrenOnly);
-        workUntil([&] {
-            return std::all_of(views.begin(), views.end(), [](const PictureWidget *view) {
-                return !view->isVisible() || view->hasPicture();
-            });
+        showTiles();
+    }
+
+    void zoom()
+    {
+        shownTiles().constFirst()->OnZoom();
+        showTiles();
+    }
+
+    void back()
+    {
+        shownTiles().constFirst()->OnBack();
+        showTiles();
+    }
+
+private:
+    bool isStripComplete()
+    {
+        for (int row = 0; row < strip()->count(); ++row)
+            if (strip()->item(row)->icon().isNull())
+                return false;
+        return strip()->count() == photos;
+    }
+
+    QVector<PictureWidget *> shownTiles()
+    {
+        QVector<PictureWidget *> shown;
+        for (auto *view :
+             m_dialog.findChildren<PictureWidget *>(QString(), Qt::FindDirectChildrenOnly))
+            if (view->isVisible())
+                shown.append(view);
+        return shown;
+    }
+
+    void showTiles()
+    {
+        workUntil([this] {
+            const QVector<PictureWidget *> shown = shownTiles();
+            return !shown.isEmpty()
+                && std::all_of(shown.cbegin(), shown.cend(),
+                               [](const PictureWidget *view) { return view->hasPicture(); });
         });
         m_dialog.repaint();
     }
 
-private:
     CVistrelDlg m_dialog;
 };
 
-/// New time stamps: whatever is remembered of the photos no longer counts.
-void touchPhotos(int round)
+QStringList photosInArea()
 {
-    const QDateTime stamp = QDateTime::currentDateTime().addSecs(round - 3600);
-    for (int i = 0; i < photos; ++i) {
-        QFile file(WebcamUtil::getTemporaryPath() + QLatin1Char('/') + photoName(i));
-        if (!file.open(QIODevice::ReadWrite)
-            || !file.setFileTime(stamp.addMSecs(i), QFileDevice::FileModificationTime))
-            qFatal("A photo cannot be given its time.");
-    }
+    const QDir area(WebcamUtil::getTemporaryPath());
+    QStringList paths;
+    for (const QString &name : area.entryList({QStringLiteral("photo*.png")}, QDir::Files))
+        paths.append(area.filePath(name));
+    return paths;
 }
 
 void loadPlainly(int count, QSize fit)
 {
-    for (int i = 0; i < count; ++i)
-        QPixmap(WebcamUtil::getTemporaryPath() + QLatin1Char('/') + photoName(i))
-            .scaled(fit, Qt::KeepAspectRatio, Qt::FastTransformation);
+    for (const QString &path : photosInArea().mid(0, count))
+        QPixmap(path).scaled(fit, Qt::KeepAspectRatio, Qt::FastTransformation);
 }
 
-void measurePictures()
+void emptyArea()
 {
-    QVector<double> first;
-    QVector<double> again;
-    QVector<double> fifty;
-    QVector<double> nine;
-    QVector<double> nineShown;
+    for (const QString &path : photosInArea())
+        QFile::remove(path);
+}
+
+/// The strip, the strip once more, nine tiles, one of them enlarged, and back.
+void measureRound(Browser *browser, const QString &kind)
+{
     double longest = 0;
-    for (int round = 0; round < rounds; ++round) {
-        touchPhotos(round);
-        Browser browser;
-        first.append(millisecondsOf([&] { longest = std::max(longest, browser.openStrip()); }));
-        const QSize thumbnail = browser.strip()->iconSize();
-        browser.press("Live");
-        again.append(millisecondsOf([&] { browser.openStrip(); }));
-        for (int row = 0; row < tiles; ++row)
-            browser.strip()->item(row)->setSelected(true);
-        nineShown.append(millisecondsOf([&] { browser.viewNine(); }));
-        fifty.append(millisecondsOf([&] { loadPlainly(photos, thumbnail); }));
-        nine.append(millisecondsOf([&] { loadPlainly(tiles, QSize(426, 240)); }));
+    const double first = millisecondsOf([&] { longest = browser->openStrip(); });
+    const QSize thumbnail = browser->strip()->iconSize();
+    const double fifty = millisecondsOf([&] { loadPlainly(photos, thumbnail); });
+    report(QStringLiteral("strip ") + kind, first, fifty);
+    report(QStringLiteral("away ") + kind, longest, 0);
+    browser->press("Live");
+    report(QStringLiteral("strip again ") + kind, millisecondsOf([&] { browser->openStrip(); }),
+           fifty);
+    for (int row = 0; row < tiles; ++row)
+        browser->strip()->item(row)->setSelected(true);
+    const double nineShown = millisecondsOf([&] { browser->viewNine(); });
+    const double nine = millisecondsOf([&] { loadPlainly(tiles, tileSize); });
+    report(QStringLiteral("tiles ") + kind, nineShown, nine);
+    const double one = millisecondsOf([&] { loadPlainly(1, fullSize); });
+    report(QStringLiteral("zoom ") + kind, millisecondsOf([&] { browser->zoom(); }), one);
+    report(QStringLiteral("back ") + kind, millisecondsOf([&] { browser->back(); }), nine);
+}
+
+/// Whatever the last round remembers of its photos no longer counts: their times are others.
+void writePhotos(const QString &original, int round)
+{
+    const QDateTime stamp = QDateTime::currentDateTime().addSecs(round - 3600);
+    emptyArea();
+    for (int i = 0; i < photos; ++i) {
+        const QString path = WebcamUtil::getTemporaryPath() + QLatin1Char('/') + photoName(i);
+        QFile file(path);
+        if (!QFile::copy(original, path) || !file.open(QIODevice::ReadWrite)
+            || !file.setFileTime(stamp.addMSecs(i), QFileDevice::FileModificationTime))
+            qFatal("A photo cannot be written.");
     }
-    report("strip of 50 photos 1920x1080", first, fifty);
-    report("the same strip again", again, fifty);
-    report("nine photos side by side", nineShown, nine);
-    std::printf("longest time that the window was away while the strip filled: %.0f ms\n", longest);
+}
+
+void measureFound(const QString &original, int rounds)
+{
+    for (int round = 0; round < rounds; ++round) {
+        writePhotos(original, round);
+        Browser browser;
+        measureRound(&browser, QStringLiteral("found"));
+    }
+}
+
+void measureTaken(const QString &original, int rounds)
+{
+    FakeEngine::script().nativeSize = pictureSize;
+    FakeEngine::script().saving = [&](const QString &path) { return QFile::copy(original, path); };
+    for (int round = 0; round < rounds; ++round) {
+        emptyArea();
+        Browser browser;
+        for (int i = 0; i < photos; ++i)
+            browser.takePhoto();
+        if (photosInArea().size() != photos)
+            qFatal("A photo was not taken.");
+        measureRound(&browser, QStringLiteral("taken"));
+    }
 }
 
 void listPlainly(const QByteArray &path)
@@ -182,37 +257,28 @@ void listPlainly(const QByteArray &path)
     closedir(folder);
 }
 
-void measureListing()
+void writeFiles(const QString &area, int first, int end)
 {
-    QVector<double> listing;
-    QVector<double> plain;
-    const QByteArray path = QFile::encodeName(WebcamUtil::getTemporaryPath());
-    for (int round = 0; round < 10 * rounds; ++round) {
-        plain.append(millisecondsOf([&] { listPlainly(path); }));
-        listing.append(millisecondsOf([] { WebcamUtil::getTempPhotoNameList(); }));
-    }
-    report("listing 5000 captures", listing, plain);
-}
-
-bool writePhotos(const QString &area)
-{
-    const QString original = area + QStringLiteral("/original.png");
-    if (!deskPicture(pictureSize, 4).save(original, "PNG", 80))
-        return false;
-    for (int i = 0; i < photos; ++i)
-        if (!QFile::copy(original, area + QLatin1Char('/') + photoName(i)))
-            return false;
-    return QFile::remove(original);
-}
-
-bool writeManyFiles(const QString &area)
-{
-    for (int i = 0; i < manyFiles; ++i) {
+    for (int i = first; i < end; ++i) {
         QFile file(area + QStringLiteral("/photo2009%1.png").arg(i, 13, 10, QLatin1Char('0')));
         if (!file.open(QIODevice::WriteOnly) || file.write("x") != 1)
-            return false;
+            qFatal("A file cannot be written.");
     }
-    return true;
+}
+
+void measureListing(int rounds)
+{
+    const QString area = WebcamUtil::getTemporaryPath();
+    int files = 0;
+    for (const int count : {500, 5000, 50000}) {
+        writeFiles(area, files, count);
+        files = count;
+        for (int round = 0; round < rounds; ++round) {
+            const double plain = millisecondsOf([&] { listPlainly(QFile::encodeName(area)); });
+            const double listing = millisecondsOf([] { WebcamUtil::getTempPhotoNameList(); });
+            report(QStringLiteral("listing %1").arg(count), listing, plain);
+        }
+    }
 }
 
 } // namespace
@@ -224,11 +290,18 @@ int main(int argc, char *argv[])
     qputenv("HOME", QFile::encodeName(folder.path()));
     qputenv("TMPDIR", QFile::encodeName(folder.path()));
     const QApplication application(argc, argv);
-    if (!writePhotos(WebcamUtil::getTemporaryPath()))
+    const QString what = QApplication::arguments().value(1);
+    const int rounds = qMax(1, QApplication::arguments().value(2).toInt());
+    const QString original = folder.filePath(QStringLiteral("original.png"));
+    if (!deskPicture(pictureSize, 4).save(original, "PNG", 80))
         return 1;
-    measurePictures();
-    if (!writeManyFiles(WebcamUtil::getTemporaryPath()))
-        return 1;
-    measureListing();
+    if (what == QLatin1String("found"))
+        measureFound(original, rounds);
+    else if (what == QLatin1String("taken"))
+        measureTaken(original, rounds);
+    else if (what == QLatin1String("listing"))
+        measureListing(rounds);
+    else
+        return 2;
     return 0;
 }

@@ -132,7 +132,10 @@ void LiveVideoData::Release()
 bool LiveVideoData::SaveBitmap(QString path) // NOLINT(performance-unnecessary-value-param)
 {
     note(QStringLiteral("SaveBitmap(%1)").arg(path));
-    return FakeEngine::script().saveBitmapSucceeds && pictureToSave().save(path);
+    const FakeEngine &script = FakeEngine::script();
+    if (script.saving)
+        return script.saving(path);
+    return script.saveBitmapSucceeds && pictureToSave().save(path);
 }
 
 void LiveVideoData::Record(const QString &path)

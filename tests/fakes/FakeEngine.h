@@ -45,6 +45,8 @@ struct FakeEngine {
     bool movieBegins = true; ///< when false, Record() does nothing although both devices are valid
     bool saveBitmapSucceeds = true; ///< when false, nothing is written
     QImage picture; ///< what SaveBitmap() writes; null: a plain picture of nativeSize
+    /// Does SaveBitmap()'s work in its place; null for writing the picture.
+    std::function<bool(const QString &path)> saving;
     QByteArray movie = QByteArrayLiteral("a movie"); ///< what a movie holds after Record()
 
     /// What CompleteMovies() does, while the caller waits; null for nothing.

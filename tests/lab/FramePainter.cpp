@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int bandCount = int(std::size(LabPattern::bandEdges)) - 1;
+constexpr int numberBand = 1; // from the top
 
 QRgb mixed(QRgb a, QRgb b)
 {
@@ -64,8 +65,40 @@ int FramePainter::frameBytes() const
     return stride() * rows;
 }
 
+void FramePainter::setScene(const QImage &scene)
+{
+    if (m_format == MJPG || m_format == RGB)
+        return;
+    const QImage picture = scene.scaled(m_size).convertToFormat(QImage::Format_RGB32);
+    QByteArray chroma;
+    for (int y = 0; y < m_size.height(); ++y) {
+        const auto *pixels = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        Row row(m_size.width());
+        std::copy(pixels, pixels + row.size(), row.begin());
+        m_scene += m_format == NV12 ? lumaRow(row) : packed(row);
+        if (m_format == NV12 && y % 2 == 0)
+            chroma += chromaRow(row);
+    }
+    m_scene += chroma;
+}
+
+// The cells must be found in the middle row of a picture scaled to any size.
+int FramePainter::paintScene(uchar *target, quint32 counter) const
+{
+    const Row cells = colours(numberBand, counter);
+    const QByteArray row = m_format == NV12 ? lumaRow(cells) : packed(cells);
+    const int first = m_size.height() / 2 - m_size.height() / 50;
+    const int end = m_size.height() / 2 + m_size.height() / 50;
+    std::memcpy(target, m_scene.constData(), size_t(m_scene.size()));
+    for (int y = first; y < end; ++y)
+        std::memcpy(target + qptrdiff(y) * stride(), row.constData(), size_t(stride()));
+    return int(m_scene.size());
+}
+
 int FramePainter::paint(uchar *target, quint32 counter) const
 {
+    if (!m_scene.isEmpty())
+        return paintScene(target, counter);
     if (m_format == MJPG)
         return paintJpeg(target, counter);
     QByteArray rows[bandCount];

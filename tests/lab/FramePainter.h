@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QColor>
+#include <QImage>
 #include <QSize>
 #include <QVector>
 
@@ -26,6 +27,9 @@ public:
     int stride() const;
     // Bytes that a buffer must hold; for MJPG an upper bound.
     int frameBytes() const;
+    // The camera sees this picture, as large as its frames, instead of the test picture; of that it
+    // keeps the cells with the frame's number in a band across the middle. Not for MJPG and RGB.
+    void setScene(const QImage &scene);
     // Paints frame `counter` and returns the bytes used.
     int paint(uchar *target, quint32 counter) const;
 
@@ -38,6 +42,7 @@ private:
     QByteArray lumaRow(const Row &row) const;
     QByteArray chromaRow(const Row &row) const;
     int paintPlane(uchar *target, int rows, int bytes, const QByteArray *bands) const;
+    int paintScene(uchar *target, quint32 counter) const;
     int paintJpeg(uchar *target, quint32 counter) const;
 
     int luma(QRgb colour) const;
@@ -47,6 +52,7 @@ private:
     Format m_format;
     QSize m_size;
     QRgb m_ground;
+    QByteArray m_scene; // as a frame; empty for the test picture
     double m_redWeight; // the matrix: share of red and of blue in the luma
     double m_blueWeight;
 };

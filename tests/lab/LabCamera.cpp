@@ -83,6 +83,8 @@ LabCamera::LabCamera(Options options)
     : m_options(std::move(options))
     , m_events(std::make_unique<LabCameraEvents>())
 {
+    if (!m_options.times.empty())
+        m_times.open(m_options.times);
     m_loop = pw_main_loop_new(nullptr);
     pw_loop *loop = pw_main_loop_get_loop(m_loop);
     m_timer = pw_loop_add_timer(
@@ -172,6 +174,8 @@ void LabCamera::formatChosen(const spa_pod *format)
     m_painter = std::make_unique<FramePainter>(
         m_options.format, QSize(int(size.width), int(size.height)),
         LabPattern::groundOf(QString::fromStdString(m_options.name)));
+    if (!m_options.scene.empty())
+        m_painter->setScene(QImage(QString::fromStdString(m_options.scene)));
     announceBuffers();
 }
 
@@ -216,6 +220,8 @@ void LabCamera::sendFrame()
     if (!m_frameDue || !m_painter)
         return;
     m_frameDue = false;
+    if (m_times.is_open())
+        m_times << m_counter << ' ' << nanosecondsNow() << std::endl;
     if (pw_buffer *buffer = pw_stream_dequeue_buffer(m_stream)) {
         fill(buffer);
         pw_stream_queue_buffer(m_stream, buffer);

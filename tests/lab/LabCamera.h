@@ -4,6 +4,7 @@
 #include "FramePainter.h"
 #include "LabBeep.h"
 
+#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,6 +27,9 @@ struct spa_source;
 //
 // With a sink for its sound, a tone (LabBeep) begins with every marked frame.
 //
+// The time of a frame, where it is noted, is the monotonic clock's in ns just before its picture is
+// made: that of a shutter.
+//
 // Everything runs on the thread that calls run().
 class LabCamera {
 public:
@@ -38,6 +42,8 @@ public:
         int rate = 30;
         int dimRate = 0; // frames a second after the light went out; 0: it stays on
         std::string beepSink; // empty: no sound
+        std::string scene; // path of a picture that the camera sees; empty: the test picture
+        std::string times; // path of a file for "NUMBER TIME" of each frame sent; empty: none
     };
 
     explicit LabCamera(Options options);
@@ -71,6 +77,7 @@ private:
     pw_stream *m_stream = nullptr;
     spa_source *m_timer = nullptr;
 
+    std::ofstream m_times;
     std::unique_ptr<LabBeep> m_beep; // null without a sink
 
     bool m_streaming = false;

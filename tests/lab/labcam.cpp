@@ -2,7 +2,7 @@
 // it in and out.
 //
 //   labcam --name NAME --size WIDTHxHEIGHT [--size ...] [--rate 30] [--format UYVY] [--serial S]
-//          [--description TEXT] [--beep SINK] [--dims-to RATE]
+//          [--description TEXT] [--beep SINK] [--dims-to RATE] [--scene PICTURE] [--times FILE]
 
 #include "LabCamera.h"
 
@@ -41,6 +41,10 @@ bool setOption(const std::string &option, const std::string &value, LabCamera::O
         options->serial = value;
     else if (option == "--beep")
         options->beepSink = value;
+    else if (option == "--scene")
+        options->scene = value;
+    else if (option == "--times")
+        options->times = value;
     else if (option == "--size")
         return addSize(value, options);
     else if (option == "--rate")
