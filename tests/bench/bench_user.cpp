@@ -21,10 +21,12 @@
 //   ended                      waits until the program has ended: ok TIME
 //   dialog TITLE               waits for it: ok TIME
 
+#include "SaveConfirmDlg.h"
 #include "Session.h"
 
 #include <QApplication>
 #include <QHash>
+#include <QPushButton>
 #include <QTest>
 
 #include <cstdio>
@@ -256,9 +258,14 @@ QString User::takePhotos(int count)
 
 QString User::answer(const QString &caption)
 {
-    if (!m_session.answerExitQuestion(caption))
+    if (!m_session.waitForDialog(QStringLiteral("Orvanta")))
         return failed(QStringLiteral("no question"));
-    return QStringLiteral("ok %1").arg(nanosecondsNow());
+    SaveConfirmDlg twin;
+    for (const auto *button : twin.findChildren<QPushButton *>())
+        if (button->text() == caption)
+            return clickAt(
+                WindowMap::inDialog(&twin, button, m_session.dialog().geometry.topLeft()));
+    return failed(QStringLiteral("no such answer"));
 }
 
 QString User::waitForEnd()

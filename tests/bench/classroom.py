@@ -41,6 +41,16 @@ def processor_seconds(pid):
     return (int(fields[11]) + int(fields[12])) / ticks_per_second
 
 
+def thread_seconds(pid):
+    """The same of the threads that live, and exactly: the above counts in hundredths of a second."""
+    nanoseconds = 0
+    for thread in os.listdir(f"/proc/{pid}/task"):
+        with contextlib.suppress(OSError):
+            with open(f"/proc/{pid}/task/{thread}/schedstat", encoding="ascii") as file:
+                nanoseconds += int(file.read().split()[0])
+    return nanoseconds / 1e9
+
+
 def own_memory(pid):
     """MB that are the process's own: shared memory, such as a camera's frames, is not."""
     with open(f"/proc/{pid}/status", encoding="ascii", errors="replace") as file:
@@ -59,13 +69,17 @@ def wake_ups(pid):
     return count
 
 
-def lines_of(name, *arguments):
-    """The lines of tabs that one of the bench's own programs prints."""
+def run_tool(name, *arguments):
+    """What one of the bench's own programs prints."""
     run = subprocess.run([tool(name), *map(str, arguments)], stdin=subprocess.DEVNULL,
                          stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, check=False)
     if run.returncode:
         raise Failure(f"{name}: {run.stderr.strip()[-200:]}")
-    return [line.split("\t") for line in run.stdout.splitlines()]
+    return run.stdout
+
+
+def lines_of(name, *arguments):
+    return [line.split("\t") for line in run_tool(name, *arguments).splitlines()]
 
 
 class Talker:
@@ -288,6 +302,10 @@ class Classroom:
 
     def user(self, camera, size):
         return User(self.environment, camera, size)
+
+    def user_in(self, temporary, camera, size):
+        """One whose program has its temporary area and its home below this folder."""
+        return User({**self.environment, "TMPDIR": temporary}, camera, size)
 
     def pipeline(self, description):
         return Pipeline(self.environment, description)

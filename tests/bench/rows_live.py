@@ -1,4 +1,5 @@
 """The live picture: what it costs, and how old it is."""
+import os
 import time
 
 from classroom import Classroom, Failure, processor_seconds, now
@@ -81,6 +82,50 @@ def compare(report, plan, screen, size, form, rate, mark, drops=False):
             cost.add(ours.per_frame, theirs.per_frame)
             if drops:
                 dropped.add(ours.dropped, theirs.dropped)
+
+        rounds(plan, pair)
+
+
+class Ages:
+    """How old the frames are that come to the screen: from the camera's shutter until the X server
+    has the picture."""
+
+    def __init__(self, times, eyes, seconds):
+        time.sleep(settle)  # nothing to wait for: until it runs evenly
+        begin = now()
+        time.sleep(seconds)  # nothing to wait for: what is measured
+        end = now()
+        with open(times, encoding="ascii") as file:
+            shutter = dict(map(int, line.split()) for line in file if line.endswith("\n"))
+        ages = sorted((at - shutter[number]) / 1e6 for _, at, number in eyes.look()
+                      if begin <= at < end and number in shutter)
+        if len(ages) < 10:
+            raise Failure("no picture moves on the screen")
+        self.median = ages[len(ages) // 2]
+        self.oldest = ages[-1]
+
+
+def from_glass_to_glass(report, plan):
+    size = "1920x1080"
+    age = report.figure("age of a frame that comes to the screen", "ms", bare, 1.0)
+    oldest = report.figure("the oldest that comes to the screen", "ms", "frame period", 1.0)
+    with Classroom() as room:
+        times = os.path.join(room.folder, "times")
+        room.plug("bench", size, "UYVY", 30, "--times", times)
+        shown = shown_size(room, size)
+
+        def pair():
+            with room.user("bench", size) as user:
+                user.start()
+                user.do("live")
+                with room.eyes(picture=user.do("place", "video")) as eyes:
+                    ours = Ages(times, eyes, plan.seconds)
+            with room.eyes(picture=shown) as eyes, \
+                    room.pipeline(bare_pipeline(size, "UYVY", 30, shown)):
+                eyes.wait(lambda _, __, number: number >= 0)
+                theirs = Ages(times, eyes, plan.seconds)
+            age.add(ours.median, theirs.median)
+            oldest.add(ours.oldest, 1000 / 30)
 
         rounds(plan, pair)
 

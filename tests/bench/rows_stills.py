@@ -1,9 +1,8 @@
 """Photos: how well the picture is scaled, how soon a photo is there, how large it is."""
 import os
-import subprocess
 import time
 
-from classroom import Classroom, Failure, lines_of, now, tool
+from classroom import Classroom, Failure, lines_of, now, run_tool
 from figures import rounds
 
 frame = 1000 / 30  # ms
@@ -54,9 +53,7 @@ def photo(report, plan):
     away = report.figure("photo: longest time that the window is away", "ms", "frame period", 1)
     with Classroom() as room:
         scene = os.path.join(room.folder, "desk.png")
-        if subprocess.run([tool("bench_still"), "scene", scene], check=False,
-                          stderr=subprocess.DEVNULL).returncode:
-            raise Failure("the desk cannot be drawn")
+        run_tool("bench_still", "scene", scene)
         room.plug("bench", size, "UYVY", 30, "--scene", scene)
         with room.user("bench", size) as user:
             user.start()
