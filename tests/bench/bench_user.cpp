@@ -29,6 +29,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <algorithm>
 #include <cstdio>
 #include <ctime>
 #include <functional>
@@ -81,7 +82,7 @@ private:
     QString takePhotos(int count);
     QString answer(const QString &caption);
     QString waitForEnd();
-    bool canBePressed(WindowMap::Screen screen, const QString &button);
+    bool canBePressed(WindowMap::Screen screen, const QStringList &buttons);
     WindowMap::Screen screenOf(const QString &name) const;
 
     Session m_session;
@@ -145,6 +146,8 @@ QString User::obey(const QString &line)
 
 QString User::start()
 {
+    // What the buttons look like is found out when it is first asked, which takes a moment.
+    m_session.map().pressable(m_session.desktop().screenshot(), WindowMap::LiveScreen);
     const qint64 before = nanosecondsNow();
     m_session.program().start();
     return m_session.program().isRunning()
@@ -167,21 +170,22 @@ WindowMap::Screen User::screenOf(const QString &name) const
     return screens.value(name);
 }
 
-bool User::canBePressed(WindowMap::Screen screen, const QString &button)
+bool User::canBePressed(WindowMap::Screen screen, const QStringList &buttons)
 {
-    return m_session.map().look(m_session.desktop().screenshot(), screen, button) == WindowMap::Up;
+    const QImage screenshot = m_session.desktop().screenshot();
+    return std::all_of(buttons.cbegin(), buttons.cend(), [&](const QString &button) {
+        return m_session.map().look(screenshot, screen, button) == WindowMap::Up;
+    });
 }
 
 QString User::waitForButtons(const QStringList &words)
 {
     const WindowMap::Screen screen = screenOf(words.value(1));
     const qint64 limit = nanosecondsNow() + qint64(patience) * 1000000;
-    for (const QString &button : words.mid(2)) {
-        while (!canBePressed(screen, button)) {
-            if (nanosecondsNow() > limit)
-                return failed(QStringLiteral("no button ") + button);
-            QTest::qWait(glance); // nothing to wait for: a look at a button that changes by itself
-        }
+    while (!canBePressed(screen, words.mid(2))) {
+        if (nanosecondsNow() > limit)
+            return failed(QStringLiteral("no button ") + words.mid(2).join(' '));
+        QTest::qWait(glance); // nothing to wait for: a look at buttons that change by themselves
     }
     return QStringLiteral("ok %1").arg(nanosecondsNow());
 }
@@ -218,7 +222,7 @@ QString User::placeOf(const QStringList &words)
 
 QString User::press(const QStringList &words)
 {
-    const QString ready = waitForButtons(words);
+    QString ready = waitForButtons(words);
     if (!ready.startsWith(QLatin1String("ok")))
         return ready;
     return clickAt(m_session.map().button(screenOf(words.value(1)), words.value(2)).center());
