@@ -2,7 +2,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
+#include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -14,6 +16,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <cstring>
 #include <future>
 
 // Every pixel differs from its neighbours, so that a shifted row or a swapped colour is seen.
@@ -26,6 +29,22 @@ static QImage picture(const QSize &size)
     return image;
 }
 
+// As a program draws it: no camera's noise.
+static QImage page(const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB888);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setFont(QFont(QStringLiteral("Liberation Serif"), 12));
+    for (int y = 20; y < size.height(); y += 20)
+        painter.drawText(QPointF(10 + y % 7 / 7.0, y),
+                         QStringLiteral("A page of text, line %1: black letters on white paper, "
+                                        "smooth at their edges. ")
+                             .arg(y)
+                             .repeated(3));
+    return image;
+}
+
 class TestStillWriter : public QObject {
     Q_OBJECT
 
@@ -34,6 +53,8 @@ private Q_SLOTS:
     void cleanup();
     void theFileHoldsExactlyThePicture_data();
     void theFileHoldsExactlyThePicture();
+    void whatIsEvenAndWhatIsNotStandsInOnePicture();
+    void aDrawnPageTakesNoMoreRoomThanTheToolkitsOwn();
     void aJpegHoldsThePictureNearly();
     void anOlderFileOfTheSameNameIsReplaced();
     void aFailureLeavesNothingBehind_data();
@@ -85,6 +106,30 @@ void TestStillWriter::theFileHoldsExactlyThePicture()
     const QImage read(m_folder->filePath(name));
     QCOMPARE(read.convertToFormat(QImage::Format_RGB888), expected);
     QCOMPARE(filesIn(m_folder->path()), QStringList{name});
+}
+
+// Each kind is written in its own way.
+void TestStillWriter::whatIsEvenAndWhatIsNotStandsInOnePicture()
+{
+    QImage expected = page({640, 1000});
+    const QImage noise = picture({640, 400});
+    std::memcpy(expected.scanLine(300), noise.constBits(), size_t(noise.sizeInBytes()));
+    QVERIFY(writeStill(expected, m_folder->filePath("photo.png")));
+    const QImage read(m_folder->filePath("photo.png"));
+    QCOMPARE(read.convertToFormat(QImage::Format_RGB888), expected);
+}
+
+void TestStillWriter::aDrawnPageTakesNoMoreRoomThanTheToolkitsOwn()
+{
+    const QImage drawn = page({1920, 1080});
+    const QString ours = m_folder->filePath("ours.png");
+    const QString toolkits = m_folder->filePath("toolkits.png");
+    QVERIFY(writeStill(drawn, ours));
+    QVERIFY(drawn.save(toolkits));
+    QVERIFY2(QFileInfo(ours).size() * 10 <= QFileInfo(toolkits).size() * 11,
+             qPrintable(QString("%1 bytes, the toolkit's %2")
+                            .arg(QFileInfo(ours).size())
+                            .arg(QFileInfo(toolkits).size())));
 }
 
 void TestStillWriter::aJpegHoldsThePictureNearly()
@@ -198,5 +243,5 @@ void TestStillWriter::thePictureIsHeldWhileItIsWritten()
     QVERIFY(held > 0);
 }
 
-QTEST_GUILESS_MAIN(TestStillWriter)
+QTEST_MAIN(TestStillWriter)
 #include "tst_stillwriter.moc"
