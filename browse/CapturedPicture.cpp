@@ -1,6 +1,5 @@
 #include "CapturedPicture.h"
 
-#include "PictureVersion.h"
 #include "WebcamUtil.h"
 
 #include <QImageReader>
@@ -14,6 +13,17 @@ constexpr qint64 largePixels = 9'000'000; // more than 3840x2160
 qint64 pixelsOf(QSize size)
 {
     return qint64(size.width()) * size.height();
+}
+
+struct Remembered {
+    PictureVersion version;
+    QImage picture;
+};
+
+Remembered &lastOne()
+{
+    static Remembered last;
+    return last;
 }
 
 QImage asOnScreen(QImage image)
@@ -45,18 +55,26 @@ QImage CapturedPicture::read(const QString &path)
 
 QImage CapturedPicture::whole(const QString &name)
 {
-    static PictureVersion lastVersion;
-    static QImage lastPicture;
-
     const PictureVersion version = PictureVersion::of(path(name));
-    if (!lastPicture.isNull() && version == lastVersion)
-        return lastPicture;
-    QImage picture = read(version.path);
+    QImage picture = remembered(version);
+    if (!picture.isNull())
+        return picture;
+    picture = read(version.path);
     const bool isRemembered = pixelsOf(picture.size()) <= largePixels
         && PictureVersion::of(version.path) == version && version.isSettled();
-    lastVersion = isRemembered ? version : PictureVersion();
-    lastPicture = isRemembered ? picture : QImage();
+    lastOne() = isRemembered ? Remembered{version, picture} : Remembered{};
     return picture;
+}
+
+void CapturedPicture::remember(const QString &name, const QImage &picture)
+{
+    if (!picture.isNull() && pixelsOf(picture.size()) <= largePixels)
+        lastOne() = {PictureVersion::of(path(name)), asOnScreen(picture)};
+}
+
+QImage CapturedPicture::remembered(const PictureVersion &version)
+{
+    return version == lastOne().version ? lastOne().picture : QImage();
 }
 
 QPixmap CapturedPicture::load(const QString &name)

@@ -1,6 +1,8 @@
 #ifndef CAPTUREDPICTURE_H
 #define CAPTUREDPICTURE_H
 
+#include "PictureVersion.h"
+
 #include <QImage>
 #include <QPixmap>
 #include <QString>
@@ -28,6 +30,16 @@ QImage read(const QString &path);
  */
 QImage whole(const QString &name);
 QPixmap load(const QString &name); ///< the same as a pixmap
+
+/**
+ * Remembers @p picture as what the file of that bare name holds, for the above to give without
+ * reading: its file was just written, of these very pixels. Nothing when the picture is null. GUI
+ * thread only.
+ */
+void remember(const QString &name, const QImage &picture);
+
+/** The remembered picture when it is of this version, else null: nothing is read. */
+QImage remembered(const PictureVersion &version);
 
 } // namespace CapturedPicture
 

@@ -104,11 +104,16 @@ void PictureListView::AddPictureWithSelect(const QString &name)
 // of any screen has room for) and the scroll bar share the rest.
 void PictureListView::chooseIconSize()
 {
-    const int iconHeight = height() / 3 * 2;
-    setIconSize(QSize(static_cast<int>(iconHeight * 1.3), iconHeight));
+    setIconSize(pictureSizeIn(height()));
     QFont nameFont = font();
     nameFont.setPixelSize(qBound(9, height() / 13, 14));
     setFont(nameFont);
+}
+
+QSize PictureListView::pictureSizeIn(int height)
+{
+    const int iconHeight = height / 3 * 2;
+    return {static_cast<int>(iconHeight * 1.3), iconHeight};
 }
 
 // The whole tile is lit when chosen, not its name alone: that is what the back row can see.

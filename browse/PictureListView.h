@@ -21,6 +21,9 @@ class PictureListView : public QListWidget {
     Q_OBJECT
 
 public:
+    /// How large the thumbnails of a strip of this height are, as it chooses by itself.
+    static QSize pictureSizeIn(int height);
+
     explicit PictureListView(QWidget *parent);
     ~PictureListView() override;
 

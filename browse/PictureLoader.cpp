@@ -75,6 +75,17 @@ void PictureLoader::later(const QString &name, QSize fit, QObject *receiver, Del
     startWaiting();
 }
 
+void PictureLoader::prepare(const QString &name)
+{
+    const PictureVersion version = PictureVersion::of(CapturedPicture::path(name));
+    const QImage whole = CapturedPicture::remembered(version);
+    if (whole.isNull())
+        return;
+    for (const QSize fit : qAsConst(m_usualSizes))
+        if (!m_known.contains({version, fit}))
+            keep({version, fit}, scaled(whole, fit));
+}
+
 void PictureLoader::forget(const QObject *receiver)
 {
     QQueue<Request> others;

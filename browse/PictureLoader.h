@@ -44,6 +44,11 @@ public:
     /// The same, handed to @p deliver: at once if it is known, else when a worker has read it. No
     /// delivery comes once @p receiver is gone.
     void later(const QString &name, QSize fit, QObject *receiver, Delivery deliver);
+    /// The sizes that pictures will most likely be asked for in, small ones: prepare() makes them.
+    void setUsualSizes(const QVector<QSize> &sizes) { m_usualSizes = sizes; }
+    /// Makes the picture known in the usual sizes if it is the one that is remembered whole: a
+    /// photo just taken then stands in the strip at once. Reads nothing.
+    void prepare(const QString &name);
     /// Drops all that @p receiver still waits for.
     void forget(const QObject *receiver);
 
@@ -77,6 +82,7 @@ private:
     void takeResults();
 
     QCache<Key, QImage> m_known; ///< costs in KB
+    QVector<QSize> m_usualSizes; ///< px
     QQueue<Request> m_waiting;
     QHash<int, Request> m_running; ///< by number; a request may be gone while its worker runs on
     int m_lastNumber = 0;

@@ -34,6 +34,7 @@ void PictureWidget::Loadbmp(const QString &name)
     if (!name.isEmpty())
         m_fileName = name;
     m_pixmap = CapturedPicture::load(m_fileName);
+    PictureLoader::shared().prepare(m_fileName);
     m_fittedSize = QSize();
     update();
 }

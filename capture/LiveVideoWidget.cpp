@@ -166,6 +166,11 @@ QString LiveVideoWidget::SaveBmp()
     return m_engine.SaveBitmap(path) ? name : QString();
 }
 
+QImage LiveVideoWidget::takeSavedPicture()
+{
+    return m_engine.takeSavedPicture();
+}
+
 bool LiveVideoWidget::Record()
 {
     m_movieFileName = WebcamUtil::CreateMoviefilename();
@@ -181,6 +186,7 @@ bool LiveVideoWidget::Record()
     }
     // A movie without its still picture is still a movie.
     m_engine.SaveBitmap(WebcamUtil::stillNameOf(m_movieFileName));
+    m_engine.takeSavedPicture(); // nobody shows it now
     return true;
 }
 

@@ -61,6 +61,9 @@ public:
 
     /// Writes one photo into the temporary area. Its bare file name, or a null string on failure.
     QString SaveBmp();
+    /// The picture of that photo, to be shown without being read again; null when there is none, or
+    /// when it was taken already.
+    QImage takeSavedPicture();
 
     /// Starts a movie and saves its first picture beside it. When a device is missing, says so and
     /// returns false; the engine has then been told to record all the same, as it must be before

@@ -17,6 +17,8 @@
 #include "StillWriter.h"
 #include "TargetPainter.h"
 
+#include <utility>
+
 using std::chrono::steady_clock;
 
 // On a slow machine every moment that a person will wait counts: a camera that is listed late is
@@ -59,6 +61,7 @@ public:
     GrabThread *thread = nullptr; ///< null while there is none, or it is lost
     CameraHandle camera; ///< null while there is none, or it is lost
     bool showing = false;
+    QImage savedPicture; ///< of the last photo, until it is taken
     MovieMaker movie{microphones, [this] { Q_EMIT q->recordend(); }};
 };
 
@@ -278,14 +281,22 @@ void LiveVideoData::Release()
 bool LiveVideoData::SaveBitmap(QString path)
 {
     const PatientCall call(stillLimit);
+    d->savedPicture = QImage();
     const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
     if (!frame)
         return false;
     const BoundedTask writing([frame, path] {
         PictureConverter converter(QImage::Format_RGB888);
-        return writeStill(converter.convert(*frame, frame->size()), path);
+        const QImage picture = converter.convert(*frame, frame->size());
+        return writeStill(picture, path) ? picture : QImage();
     });
-    return writing.waitUntil(steady_clock::now() + stillLimit).value_or(false);
+    d->savedPicture = writing.waitUntil(steady_clock::now() + stillLimit).value_or(QImage());
+    return !d->savedPicture.isNull();
+}
+
+QImage LiveVideoData::takeSavedPicture()
+{
+    return std::exchange(d->savedPicture, QImage());
 }
 
 void LiveVideoData::Record(const QString &path)

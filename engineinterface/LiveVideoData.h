@@ -3,6 +3,7 @@
 
 #include "EngineExport.h"
 
+#include <QImage>
 #include <QObject>
 #include <QSize>
 #include <QString>
@@ -106,6 +107,10 @@ public:
     /// @p path names. The file appears complete or not at all. False when there is no frame, the
     /// format is unknown or the file cannot be written, also when a slow disk reaches the limit.
     bool SaveBitmap(QString path);
+
+    /// What SaveBitmap() wrote last, as it was before it was encoded, so that it can be shown
+    /// without being read again. Null when that failed, or when it was taken already.
+    QImage takeSavedPicture();
 
     /// Begins a movie with sound in @p path. Leaves no file when the camera, the microphone or an
     /// encoder is missing; ask the queries below. Does nothing while a movie is recorded.

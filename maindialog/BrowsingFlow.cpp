@@ -16,7 +16,6 @@ namespace {
 
 constexpr int mostPhotosInStrip = 50; // the newest; older ones are kept and saved all the same
 constexpr int mostMoviesInStrip = 25;
-constexpr int mostTiles = 9; // three rows of three
 
 // The newest of a list that is sorted oldest first.
 QStringList lastOf(const QStringList &names, int most)
@@ -94,7 +93,7 @@ void CVistrelDlg::OnShow()
         m_timerWidget->SetMode(TimerPlayTime);
         m_movieView->show();
     } else {
-        SetPictureListMode(m_pictureList->selectedNames().mid(0, mostTiles));
+        SetPictureListMode(m_pictureList->selectedNames().mid(0, DialogGeometry::mostTiles));
     }
     update();
 }

@@ -7,6 +7,7 @@
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
 #include "PictureListView.h"
+#include "PictureLoader.h"
 #include "PictureWidget.h"
 #include "Setting.h"
 #include "TimerWidget.h"
@@ -187,6 +188,20 @@ void CVistrelDlg::SetBaseRect()
     m_videoRect = m_geometry.videoRect(m_liveView->getNativeSize());
     m_halfScreenRect = m_geometry.halfScreenRect(m_videoRect);
     m_movieView->setGeometry(m_videoRect);
+    tellUsualSizes();
+}
+
+// Of the strip, and of as many tiles as there can be: with fewer ones each is too large to be kept
+// of every photo.
+void CVistrelDlg::tellUsualSizes()
+{
+    QVector<QSize> sizes = {PictureListView::pictureSizeIn(m_geometry.stripRect().height())};
+    for (const QRect &tile : DialogGeometry::tileRects(m_videoRect, DialogGeometry::mostTiles))
+        if (!sizes.contains(tile.size()))
+            sizes.append(tile.size());
+    for (QSize &size : sizes)
+        size = (QSizeF(size) * devicePixelRatioF()).toSize();
+    PictureLoader::shared().setUsualSizes(sizes);
 }
 
 void CVistrelDlg::connectButton(Button which)

@@ -196,6 +196,7 @@ private:
     void setWindowLook();
     void showFirstScreen();
     void SetBaseRect();
+    void tellUsualSizes();
     void SetLocalConnect();
     void connectButton(Button which);
 
@@ -241,6 +242,9 @@ private:
     bool m_audioPresent = false;
 
     // --- PhotoFlow.cpp ---------------------------------------------------------------------
+    /// Bare name of a new photo, whose picture is then at hand; null on failure.
+    QString takePhoto();
+
     QString m_currentPhotoName; ///< bare name of the last photo, null when there is none
     bool m_photoPreview = true;
 

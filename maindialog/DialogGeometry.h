@@ -13,6 +13,8 @@
  */
 class DialogGeometry {
 public:
+    static constexpr int mostTiles = 9; ///< three rows of three
+
     DialogGeometry() = default;
     /// @p closeWidth is the width of the small buttons' column at the bottom right.
     DialogGeometry(QSizeF screen, QSize button, int closeWidth = 0);

@@ -4,6 +4,7 @@
 
 #include "CVistrelDlg.h"
 
+#include "CapturedPicture.h"
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
 #include "PictureListView.h"
@@ -44,13 +45,22 @@ void CVistrelDlg::OnPhoto()
     TransitionMode(PhotoMode);
     if (m_photoPreview)
         m_liveView->show();
-    m_currentPhotoName = m_liveView->SaveBmp();
+    m_currentPhotoName = takePhoto();
     m_pictureView->Loadbmp(m_currentPhotoName);
     m_pictureView->setLabelText(tr("Still"));
     m_pictureView->show();
     m_pictureView->update();
     m_listKind = PhotoList;
     update();
+}
+
+// The picture is shown as it was written, and the strip and the tiles will have it at once.
+QString CVistrelDlg::takePhoto()
+{
+    QString name = m_liveView->SaveBmp();
+    if (!name.isEmpty())
+        CapturedPicture::remember(name, m_liveView->takeSavedPicture());
+    return name;
 }
 
 void CVistrelDlg::OnAply()

@@ -62,7 +62,7 @@ void CVistrelDlg::OnShot()
         return;
     stop_window();
     playShutterSound();
-    m_currentPhotoName = m_liveView->SaveBmp();
+    m_currentPhotoName = takePhoto();
     m_pictureView->Loadbmp(m_currentPhotoName);
     m_pictureView->setLabelText(QString::number(m_shotCounter + 1) + tr("/")
                                 + QString::number(m_shotTarget));

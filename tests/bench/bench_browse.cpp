@@ -237,6 +237,8 @@ void measureTaken(const QString &original, int rounds)
 {
     FakeEngine::script().nativeSize = pictureSize;
     FakeEngine::script().saving = [&](const QString &path) { return QFile::copy(original, path); };
+    FakeEngine::script().savedPicture =
+        QImage(original).convertToFormat(QImage::Format_RGB888); // as the engine has it
     for (int round = 0; round < rounds; ++round) {
         emptyArea();
         Browser browser;

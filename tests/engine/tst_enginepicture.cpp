@@ -185,6 +185,8 @@ void TestEnginePicture::theStillIsTheCamerasFullPicture()
                           LabPattern::groundOf(camera));
     QVERIFY(LabPattern::worstDifference(exact, LabPattern::groundOf(camera)) == 0);
     QVERIFY(LabPattern::worstDifference(still, LabPattern::groundOf(camera)) < tolerance);
+    QCOMPARE(m_engine->takeSavedPicture().convertToFormat(still.format()), still);
+    QVERIFY(m_engine->takeSavedPicture().isNull());
     QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"photo.png"});
 }
 

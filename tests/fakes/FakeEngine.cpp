@@ -138,6 +138,11 @@ bool LiveVideoData::SaveBitmap(QString path) // NOLINT(performance-unnecessary-v
     return script.saveBitmapSucceeds && pictureToSave().save(path);
 }
 
+QImage LiveVideoData::takeSavedPicture()
+{
+    return FakeEngine::script().savedPicture;
+}
+
 void LiveVideoData::Record(const QString &path)
 {
     note(QStringLiteral("Record(%1)").arg(path));

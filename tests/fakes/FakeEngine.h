@@ -47,6 +47,7 @@ struct FakeEngine {
     QImage picture; ///< what SaveBitmap() writes; null: a plain picture of nativeSize
     /// Does SaveBitmap()'s work in its place; null for writing the picture.
     std::function<bool(const QString &path)> saving;
+    QImage savedPicture; ///< what takeSavedPicture() gives
     QByteArray movie = QByteArrayLiteral("a movie"); ///< what a movie holds after Record()
 
     /// What CompleteMovies() does, while the caller waits; null for nothing.

@@ -9,6 +9,7 @@ class TestCapturedPicture : public QObject {
 private Q_SLOTS:
     void aPhotoIsLoadedPixelForPixel();
     void aPhotoWrittenAgainIsNotRemembered();
+    void aPhotoJustTakenIsShownWithoutBeingRead();
     void whatIsNoPictureIsNull_data();
     void whatIsNoPictureIsNull();
     void aPictureLargerThanAnyCamerasIsRefused();
@@ -34,6 +35,26 @@ void TestCapturedPicture::aPhotoWrittenAgainIsNotRemembered()
     QCOMPARE(CapturedPicture::load("photo1.png").toImage().pixelColor(5, 5), QColor(Qt::red));
     QVERIFY(CaptureFolder::save("photo1.png", QSize(20, 10), Qt::cyan));
     QCOMPARE(CapturedPicture::load("photo1.png").toImage().pixelColor(5, 5), QColor(Qt::cyan));
+}
+
+// The file has another colour than what is remembered of it, so that a reading shows.
+void TestCapturedPicture::aPhotoJustTakenIsShownWithoutBeingRead()
+{
+    const auto shown = [] {
+        return CapturedPicture::load("photo1.png").toImage().pixelColor(5, 5);
+    };
+    QImage taken(20, 10, QImage::Format_RGB888);
+    taken.fill(Qt::cyan);
+    QVERIFY(CaptureFolder::save("photo1.png", QSize(20, 10), Qt::red));
+    CapturedPicture::remember("photo1.png", taken);
+    QCOMPARE(shown(), QColor(Qt::cyan));
+    CapturedPicture::remember("photo1.png", QImage()); // nothing to remember
+    QCOMPARE(shown(), QColor(Qt::cyan));
+    QTest::qWait(50); // nothing to wait for: the file system's clock has to tick
+    QVERIFY(CaptureFolder::save("photo1.png", QSize(20, 10), Qt::green));
+    QCOMPARE(shown(), QColor(Qt::green));
+    QVERIFY(CaptureFolder::save("photo2.png", QSize(20, 10), Qt::red));
+    QCOMPARE(CapturedPicture::load("photo2.png").toImage().pixelColor(5, 5), QColor(Qt::red));
 }
 
 void TestCapturedPicture::whatIsNoPictureIsNull_data()

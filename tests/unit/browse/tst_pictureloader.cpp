@@ -1,4 +1,5 @@
 #include "CaptureFolder.h"
+#include "CapturedPicture.h"
 #include "PictureLoader.h"
 
 #include <QElapsedTimer>
@@ -39,6 +40,8 @@ private Q_SLOTS:
     void anotherSizeIsAnotherPicture();
     void whatCannotBeReadIsDeliveredAsNull_data();
     void whatCannotBeReadIsDeliveredAsNull();
+    void aPhotoJustShownIsKnownInTheUsualSizes();
+    void nothingIsReadToBePrepared();
     void aReceiverThatForgetsGetsNothingMore();
     void aReceiverThatIsGoneGetsNothing();
     void aLoaderCanGoWhileItsWorkersRead();
@@ -204,6 +207,38 @@ void TestPictureLoader::whatCannotBeReadIsDeliveredAsNull()
     QTRY_COMPARE(deliveries, 1);
     QVERIFY(delivered.isNull());
     QVERIFY(QFile::exists(CaptureFolder::path("photobad.png")));
+}
+
+void TestPictureLoader::aPhotoJustShownIsKnownInTheUsualSizes()
+{
+    const QImage taken = speckled({640, 480}, QImage::Format_RGB888);
+    QVERIFY(CaptureFolder::save(photo(1), taken));
+    CapturedPicture::remember(photo(1), taken);
+    PictureLoader loader;
+    loader.setUsualSizes({{161, 124}, {341, 192}});
+    loader.prepare(photo(1));
+    for (const QSize fit : {QSize(161, 124), QSize(341, 192)}) {
+        QImage delivered;
+        loader.later(photo(1), fit, this, [&](const QImage &picture) { delivered = picture; });
+        const QPixmap expected = QPixmap(CaptureFolder::path(photo(1)))
+                                     .scaled(fit, Qt::KeepAspectRatio, Qt::FastTransformation);
+        QCOMPARE(delivered, expected.toImage());
+    }
+}
+
+void TestPictureLoader::nothingIsReadToBePrepared()
+{
+    QVERIFY(CaptureFolder::save(photo(1), QSize(64, 48), Qt::green));
+    QVERIFY(CaptureFolder::save(photo(2), QSize(64, 48), Qt::red));
+    QTest::qWait(50); // nothing to wait for: the file system's clock has to tick
+    CapturedPicture::whole(photo(2));
+    PictureLoader loader;
+    loader.setUsualSizes({{16, 16}});
+    loader.prepare(photo(1));
+    QImage delivered;
+    loader.later(photo(1), {16, 16}, this, [&](const QImage &picture) { delivered = picture; });
+    QVERIFY(delivered.isNull());
+    QTRY_VERIFY(!delivered.isNull());
 }
 
 void TestPictureLoader::aReceiverThatForgetsGetsNothingMore()

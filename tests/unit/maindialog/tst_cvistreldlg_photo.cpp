@@ -1,6 +1,7 @@
 #include "DialogFixture.h"
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
+#include "PictureListView.h"
 #include "PictureWidget.h"
 
 #include <QFile>
@@ -12,6 +13,7 @@ class PhotoFlowTest : public QObject {
 
 private Q_SLOTS:
     void aPhotoIsShownBesideTheLivePicture();
+    void aPhotoIsShownAsItWasTakenAndIsKnownToTheStrip();
     void acceptingShowsThePhotoAloneAndKeepsItsFile();
     void acceptingLeavesThePreviewSettingAsItWas();
     void retryRemovesExactlyTheLastPhoto();
@@ -36,6 +38,28 @@ void PhotoFlowTest::aPhotoIsShownBesideTheLivePicture()
     QVERIFY(fixture.child<LiveVideoWidget>().isVisible());
     QCOMPARE(picture.fileName(), fixture.captures().first());
     QCOMPARE(picture.labelText(), QStringLiteral("Still"));
+}
+
+// The engine's picture has another colour than its file, so that a reading shows.
+void PhotoFlowTest::aPhotoIsShownAsItWasTakenAndIsKnownToTheStrip()
+{
+    QImage taken(1280, 720, QImage::Format_RGB888);
+    taken.fill(Qt::cyan);
+    DialogFixture fixture;
+    fixture.build();
+    FakeEngine::script().savedPicture = taken;
+    fixture.click("Photo");
+    auto &picture = fixture.child<PictureWidget>();
+    QCOMPARE(picture.grab().toImage().pixelColor(picture.rect().center()), QColor(Qt::cyan));
+    fixture.click("Apply");
+    fixture.click("Live");
+    fixture.click("List");
+    auto &strip = fixture.child<PictureListView>();
+    QCOMPARE(strip.count(), 1);
+    const QSize size = strip.iconSize();
+    const QImage thumbnail = strip.item(0)->icon().pixmap(size).toImage();
+    QVERIFY(!thumbnail.isNull()); // at once, and of the same picture
+    QCOMPARE(thumbnail.pixelColor(thumbnail.rect().center()), QColor(Qt::cyan));
 }
 
 void PhotoFlowTest::acceptingShowsThePhotoAloneAndKeepsItsFile()
