@@ -1,15 +1,17 @@
 // A guided tour of the program for those who have no screen at hand: it uses the program in the lab
 // with real clicks, keeps a picture of every screen and, at the end, the photo that was saved.
 //
-//   orvanta_tour PROGRAM FOLDER CAMERA WIDTHxHEIGHT
+//   orvanta_tour PROGRAM FOLDER CAMERA WIDTHxHEIGHT [COMMAND ARGS...]
 //
-// Run by tests/lab/tour, which builds the lab around it. Status 0 when every step worked.
+// Run by tests/lab/tour, which builds the lab around it. The command, such as the installation of
+// another version of the program, is run after the first photo. Status 0 when every step worked.
 
 #include "LabPattern.h"
 #include "Session.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QProcess>
 #include <QTest>
 
 #include <cstdio>
@@ -42,8 +44,8 @@ public:
         std::fflush(stdout);
     }
 
-    // The photos that the program saved, copied out of the lab.
-    void keepSavedPhotos()
+    // The photos that the program saved, copied out of the lab; and that the movie was saved, too.
+    void keepSavedFiles()
     {
         const QDir saved(m_user->program().saveFolder());
         const QStringList files = saved.entryList({"photo*"}, QDir::Files, QDir::Name);
@@ -53,7 +55,9 @@ public:
                 && LabPattern::counterOf(QImage(kept)) >= 0;
             std::printf("%-58s %s\n", "A saved photo", qPrintable(QDir::cleanPath(kept)));
         }
-        m_good = m_good && !files.isEmpty();
+        const QStringList movies = saved.entryList({"movie*.mov"}, QDir::Files);
+        m_good = m_good && !files.isEmpty() && movies.size() == 1
+            && QFileInfo(saved.filePath(movies[0])).size() > 0;
     }
 
     bool isGood() const { return m_good; }
@@ -75,6 +79,16 @@ void photograph(Tour *tour, Session *user)
     tour->stop("photo", "The accepted photo",
                user->pressWhenReady(WindowMap::PreviewScreen, "Apply")
                    && QTest::qWaitFor([&] { return user->isStillAt(map.videoRect()); }));
+}
+
+// What it says is seen; long enough for a slow machine to install packages.
+bool runMeanwhile(const QStringList &command)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(command.value(0), command.mid(1));
+    return process.waitForFinished(300000) && process.exitStatus() == QProcess::NormalExit
+        && process.exitCode() == 0;
 }
 
 void film(Tour *tour, Session *user)
@@ -152,7 +166,7 @@ void leave(Tour *tour, Session *user)
     const bool ended = user->answerExitQuestion("Yes") && user->program().hasEndedWithin(5000)
         && user->program().exitStatus() == 0;
     tour->stop("gone", "\"Yes\": the desktop is back", ended);
-    tour->keepSavedPhotos();
+    tour->keepSavedFiles();
 }
 
 } // namespace
@@ -170,6 +184,9 @@ int main(int argc, char *argv[])
     QDir().mkpath(arguments[2]);
     Tour tour(&user, arguments[2]);
     photograph(&tour, &user);
+    if (arguments.size() > 5)
+        tour.stop("meanwhile", "The program after what happened meanwhile",
+                  runMeanwhile(arguments.mid(5)) && user.program().isRunning());
     film(&tour, &user);
     photographASeries(&tour, &user);
     lookAround(&tour, &user);
