@@ -51,6 +51,11 @@ int main(int argc, char **argv)
     qputenv("QT_XCB_GL_INTEGRATION", "none");
 
     LayoutScale::apply();
+    // A dock tells by the class of a window whose it is, and takes name and icon from the program's
+    // entry in the menu; left alone the class would be the name of the file that was started. One
+    // desktop's own part of the toolkit tells it the entry's name besides.
+    QCoreApplication::setApplicationName("orvanta");
+    QGuiApplication::setDesktopFileName("orvanta");
     QtSingleApplication application("Orvanta", argc, argv);
     if (application.sendMessage("Wake up!", 5000))
         return 0;
