@@ -1,0 +1,192 @@
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTest>
+
+// What the pages tell a reader to open or to type is there and is understood.
+class TestPages : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyPathLeadsSomewhere_data();
+    void everyPathLeadsSomewhere();
+    void everyCommandUnderstandsWhatItIsTold_data();
+    void everyCommandUnderstandsWhatItIsTold();
+    void everyPresetExists_data();
+    void everyPresetExists();
+    void everyVariableIsRead_data();
+    void everyVariableIsRead();
+
+private:
+    struct Code {
+        QString page;
+        QString text;
+    };
+
+    static void addRows(const QVector<Code> &rows, const char *column);
+    QVector<Code> matches(const QString &pattern) const;
+
+    QVector<Code> m_codes; ///< what the pages set apart as code, line by line
+    QVector<Code> m_links; ///< where they lead to
+    QStringList m_files; ///< of the tree
+    QString m_sources; ///< of everything that runs or is built
+};
+
+static QString contentOf(const QString &path)
+{
+    QFile file(QDir(HOUSE).filePath(path));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+static QStringList captured(const QString &text, const QString &pattern)
+{
+    QStringList found;
+    const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
+    for (auto match = expression.globalMatch(text); match.hasNext();)
+        found.append(match.next().captured(1).trimmed());
+    return found;
+}
+
+void TestPages::initTestCase()
+{
+    const QDir house(HOUSE);
+    QDirIterator files(HOUSE, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = house.relativeFilePath(files.next());
+        if (path.startsWith("build/") || path.startsWith(".git/"))
+            continue;
+        m_files.append(path);
+        const bool isScript = QFileInfo(house.filePath(path)).isExecutable();
+        if (isScript || path.endsWith(".cpp") || path.endsWith(".txt"))
+            m_sources += contentOf(path);
+    }
+    for (const QString page : {"README.md", "CONTRIBUTING.md", "ARCHITECTURE.md"}) {
+        const QString text = contentOf(page);
+        QVERIFY2(!text.isEmpty(), qPrintable(page));
+        for (const QString &code : captured(text, "^    ([^#\\n]+?)(?: +#.*)?$"))
+            m_codes.append({page, code});
+        for (const QString &code : captured(text, "`([^`\\n]+)`"))
+            m_codes.append({page, code});
+        for (const QString &link : captured(text, "\\]\\(([^)]+)\\)"))
+            m_links.append({page, link});
+    }
+    QVERIFY(m_codes.size() > 100 && m_links.size() > 5);
+}
+
+QVector<TestPages::Code> TestPages::matches(const QString &pattern) const
+{
+    QVector<Code> found;
+    for (const Code &code : m_codes)
+        for (const QString &part : captured(code.text, pattern))
+            found.append({code.page, part});
+    return found;
+}
+
+void TestPages::addRows(const QVector<Code> &rows, const char *column)
+{
+    QTest::addColumn<QString>(column);
+    QVERIFY(!rows.isEmpty());
+    QStringList names;
+    for (const Code &row : rows) {
+        const QString name = row.page + ": " + row.text;
+        if (!names.contains(name))
+            QTest::newRow(qPrintable(name)) << row.text;
+        names.append(name);
+    }
+}
+
+void TestPages::everyPathLeadsSomewhere_data()
+{
+    // A folder, something in one, or a file by its ending; not what is on other people's disks or
+    // only made by the build.
+    QVector<Code> rows = m_links;
+    const QString path =
+        "^(?:\\./)?+((?:[\\w.-]+/)+[\\w.-]*|[\\w-]+\\.(?:cpp|h|md|txt|svg|ui|sh))$";
+    for (const Code &code : matches(path))
+        if (!code.text.startsWith("build/"))
+            rows.append(code);
+    addRows(rows, "path");
+}
+
+void TestPages::everyPathLeadsSomewhere()
+{
+    QFETCH(QString, path);
+    for (const QString &file : qAsConst(m_files))
+        if (file == path || file.endsWith('/' + path)
+            || (path.endsWith('/') && ('/' + file).contains('/' + path)))
+            return;
+    QFAIL("there is no such thing in the tree");
+}
+
+// Commands of our own: a script of the tree and what stands behind it.
+void TestPages::everyCommandUnderstandsWhatItIsTold_data()
+{
+    QVector<Code> rows;
+    for (const Code &code : qAsConst(m_codes)) {
+        const QString script =
+            code.text.section(' ', code.text.startsWith("sudo ") ? 1 : 0).section(' ', 0, 0);
+        const QFileInfo file(QDir(HOUSE).filePath(script));
+        if (code.text.startsWith("./")
+            || (script.contains('/') && file.isFile() && file.isExecutable())
+            || (code.text.contains(' ') && script.startsWith("tests/")))
+            rows.append(code);
+    }
+    addRows(rows, "command");
+}
+
+void TestPages::everyCommandUnderstandsWhatItIsTold()
+{
+    QFETCH(QString, command);
+    QStringList words = command.split(' ', Qt::SkipEmptyParts);
+    if (words.first() == "sudo")
+        words.removeFirst();
+    const QString script = words.takeFirst();
+    QVERIFY2(QFileInfo(QDir(HOUSE).filePath(script)).isExecutable(), "no such command");
+    const QString text = contentOf(script);
+    for (const QString &word : qAsConst(words)) {
+        if (word == "-R") // what follows is the test tool's own
+            return;
+        QVERIFY2(text.contains(QRegularExpression("(?:^|[^\\w-])" + QRegularExpression::escape(word)
+                                                  + "\\b")),
+                 qPrintable(script + " knows nothing of " + word));
+    }
+}
+
+void TestPages::everyPresetExists_data()
+{
+    addRows(matches("((?:cmake|ctest)(?: --build)? --preset [\\w-]+)"), "command");
+}
+
+void TestPages::everyPresetExists()
+{
+    QFETCH(QString, command);
+    const QString kind = command.startsWith("ctest") ? "testPresets"
+        : command.contains("--build")                ? "buildPresets"
+                                                     : "configurePresets";
+    QStringList names;
+    const QJsonObject file =
+        QJsonDocument::fromJson(contentOf("CMakePresets.json").toUtf8()).object();
+    for (const auto &preset : file.value(kind).toArray())
+        names.append(preset.toObject().value("name").toString());
+    QVERIFY2(names.contains(command.section(' ', -1)), qPrintable(names.join(' ')));
+}
+
+void TestPages::everyVariableIsRead_data()
+{
+    addRows(matches("(ORVANTA_[A-Z_]+)"), "name");
+}
+
+void TestPages::everyVariableIsRead()
+{
+    QFETCH(QString, name);
+    QVERIFY(m_sources.contains(QRegularExpression("\\b" + name + "\\b")));
+}
+
+QTEST_GUILESS_MAIN(TestPages)
+#include "tst_pages.moc"
