@@ -108,7 +108,7 @@ public:
 
     // --- ShutterSound.cpp ------------------------------------------------------------------
     /// @p path is the folder of the program, without a trailing slash; "photo.wav" in it becomes
-    /// the shutter sound.
+    /// the shutter sound. It is read a moment later, or by the first photo.
     void SetPluginPath(const QString &path);
 
 Q_SIGNALS:
@@ -249,8 +249,10 @@ private:
     bool m_photoPreview = true;
 
     // --- ShutterSound.cpp ------------------------------------------------------------------
+    void loadShutterSound();
     void playShutterSound();
 
+    QString m_shutterSoundPath; ///< empty when there is none
     QSound *m_shutterSound = nullptr; ///< null when there is none
 
     // --- SeriesFlow.cpp --------------------------------------------------------------------

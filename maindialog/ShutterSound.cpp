@@ -5,16 +5,27 @@
 
 #include <QFile>
 #include <QSound>
+#include <QTimer>
+
+// Reading a sound brings up the toolkit's sound and network parts, which must not compete with the
+// first live picture; a second is a moment before anybody has found the button.
+static constexpr int soundDelay = 1000; // ms
 
 void CVistrelDlg::SetPluginPath(const QString &path)
 {
-    const QString sound = path + QStringLiteral("/photo.wav");
-    if (QFile::exists(sound))
-        m_shutterSound = new QSound(sound, this);
+    m_shutterSoundPath = path + QStringLiteral("/photo.wav");
+    QTimer::singleShot(soundDelay, this, &CVistrelDlg::loadShutterSound);
+}
+
+void CVistrelDlg::loadShutterSound()
+{
+    if (!m_shutterSound && QFile::exists(m_shutterSoundPath))
+        m_shutterSound = new QSound(m_shutterSoundPath, this);
 }
 
 void CVistrelDlg::playShutterSound()
 {
+    loadShutterSound(); // a photo may be taken at once
     if (m_shutterSound)
         m_shutterSound->play();
 }

@@ -77,6 +77,7 @@ private Q_SLOTS:
     void theFolderSurvivesDiscarding();
     void theUnusedHandOversDoNothing();
     void aSoundBesideTheProgramIsTheShutters();
+    void aPhotoTakenAtOnceHasItsSound();
     void withoutASoundThereIsNoShutter();
 };
 
@@ -258,15 +259,28 @@ void HandOverTest::aSoundBesideTheProgramIsTheShutters()
     const QString sound = paste.home() + QStringLiteral("/photo.wav");
     QVERIFY(QFile::copy(QStringLiteral(SHUTTER_SOUND), sound));
     paste.dialog().SetPluginPath(paste.home());
-    const auto *shutter = paste.dialog().findChild<QSound *>();
-    QVERIFY(shutter);
-    QCOMPARE(shutter->fileName(), sound);
+    QVERIFY(!paste.dialog().findChild<QSound *>()); // the first live picture comes first
+    QTRY_VERIFY(paste.dialog().findChild<QSound *>());
+    QCOMPARE(paste.dialog().findChild<QSound *>()->fileName(), sound);
+}
+
+void HandOverTest::aPhotoTakenAtOnceHasItsSound()
+{
+    Paste paste;
+    QVERIFY(
+        QFile::copy(QStringLiteral(SHUTTER_SOUND), paste.home() + QStringLiteral("/photo.wav")));
+    paste.dialog().SetPluginPath(paste.home());
+    QVERIFY(QMetaObject::invokeMethod(&paste.dialog(), "OnPhoto"));
+    QCOMPARE(paste.dialog().findChildren<QSound *>().size(), 1);
+    QTest::qWait(1200); // nothing to wait for: a second sound that must not come
+    QCOMPARE(paste.dialog().findChildren<QSound *>().size(), 1);
 }
 
 void HandOverTest::withoutASoundThereIsNoShutter()
 {
     Paste paste;
     paste.dialog().SetPluginPath(paste.home());
+    QTest::qWait(1200); // nothing to wait for: a sound that must not come
     QVERIFY(!paste.dialog().findChild<QSound *>());
 }
 
