@@ -43,7 +43,11 @@ bool Session::waitForMainWindow()
 
 bool Session::waitForChooser()
 {
-    return QTest::qWaitFor([this] { return dialog().isActive; }, startLimit);
+    const bool isAsked = QTest::qWaitFor([this] { return dialog().isActive; }, startLimit);
+    if (!isAsked)
+        qWarning("nothing was asked; the window %s; the program said: %s",
+                 mainWindow().id ? "came up" : "did not come up", qPrintable(m_program.output()));
+    return isAsked;
 }
 
 Desktop::Window Session::mainWindow() const
