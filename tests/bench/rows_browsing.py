@@ -1,5 +1,13 @@
 """Looking at what was captured: the strip, the tiles, the listing of a full folder."""
+import functools
+
 from classroom import lines_of
+
+
+@functools.lru_cache(maxsize=None)
+def browsed(kind, rounds):
+    """Measured once for the rows of both strip and tiles."""
+    return lines_of("bench_browse", kind, rounds)
 
 
 def fill(figures, lines):
@@ -17,7 +25,7 @@ def strip(report, plan):
         "strip again found": report.figure("the same strip again", "ms", plain, 0.005),
     }
     for kind in ("taken", "found"):
-        fill(figures, lines_of("bench_browse", kind, plan.pairs))
+        fill(figures, browsed(kind, plan.pairs))
 
 
 def tiles(report, plan):
@@ -31,7 +39,7 @@ def tiles(report, plan):
         "back found": report.figure("back to nine tiles", "ms", nine, 0.1),
     }
     for kind in ("taken", "found"):
-        fill(figures, lines_of("bench_browse", kind, plan.pairs))
+        fill(figures, browsed(kind, plan.pairs))
 
 
 def listing(report, plan):

@@ -2,7 +2,7 @@
 import os
 import time
 
-from classroom import Classroom, Failure, processor_seconds, now
+from classroom import Classroom, Failure, now, thread_seconds
 from figures import rounds
 
 settle = 1.5  # s that a pipeline just started takes to run evenly
@@ -30,10 +30,9 @@ class Cost:
 
     def __init__(self, room, pid, eyes, place, seconds):
         time.sleep(settle)  # nothing to wait for: until it runs evenly
-        used = lambda: processor_seconds(pid) + processor_seconds(room.server)
-        begin, before = now(), used()
+        begin, before = now(), thread_seconds(pid) + thread_seconds(room.server)
         time.sleep(seconds)  # nothing to wait for: what is measured
-        end, after = now(), used()
+        end, after = now(), thread_seconds(pid) + thread_seconds(room.server)
         frames = eyes.frames(place, begin, end)
         if len(set(frames)) < 2:
             raise Failure("no picture moves on the screen")

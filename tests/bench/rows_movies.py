@@ -47,8 +47,9 @@ def movies_in(folder):
 def per_frame(share, path):
     """ms of a processor for each frame in the movie, and how many are missing in it. A machine that
     is too busy to record all of them would seem a quick one."""
-    _, count, missing, seconds = lines_of("bench_movie", path)[0]
-    return 1000 * share * float(seconds) / int(count), int(missing)
+    _, count, missing = lines_of("bench_movie", path)[0]
+    share_of_frames = int(count) / (int(count) + int(missing))
+    return frame * share / share_of_frames, int(missing)
 
 
 class Recorded:
