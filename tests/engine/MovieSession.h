@@ -37,6 +37,9 @@ protected:
     void verifyPlayable(const MovieFile &movie, double from, double to) const;
     /// Seconds since open(); 0 on a machine that has time.
     double lateness() const { return m_time ? m_time->lateness() : 0; }
+    /// Frames that may be missing: of an encoder without time, which gets every second one or
+    /// fewer; else none.
+    int leftOut(const MovieFile &movie) const { return lateness() > 0 ? movie.frames().size() : 0; }
 
     std::unique_ptr<LiveVideoData> m_engine;
     QTemporaryDir m_folder;

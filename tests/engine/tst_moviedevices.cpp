@@ -117,7 +117,7 @@ void TestMovieDevices::aMicrophonePulledOutLeavesSilence()
              qPrintable(QString::number(movie.soundDuration())));
     QVERIFY(!movie.tones().isEmpty());
     QVERIFY(movie.tones().last() < pulledOut);
-    QVERIFY(movie.missingFrames() <= 2 + 30 * lateness());
+    QVERIFY(movie.missingFrames() <= 2 + leftOut(movie));
 }
 
 void TestMovieDevices::aCameraPulledOutLeavesTheMovieUntilThen()
