@@ -14,7 +14,10 @@ static constexpr int soundDelay = 1000; // ms
 void CVistrelDlg::SetPluginPath(const QString &path)
 {
     m_shutterSoundPath = path + QStringLiteral("/photo.wav");
-    QTimer::singleShot(soundDelay, this, &CVistrelDlg::loadShutterSound);
+    auto *timer = new QTimer(this);
+    timer->setSingleShot(true);
+    connect(timer, &QTimer::timeout, this, &CVistrelDlg::loadShutterSound);
+    timer->start(soundDelay);
 }
 
 void CVistrelDlg::loadShutterSound()
