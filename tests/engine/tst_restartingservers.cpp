@@ -54,11 +54,6 @@ static QString footprint(const Footprint &before, const Footprint &now)
         .arg(now.memory - before.memory, 0, 'f', 1);
 }
 
-// Version 1.4 of the media server's library opens a descriptor for each thread that first has
-// something to say to a connection's frames: for the second one in some runs of a server, in others
-// never. It closes them with the connection. What leaks does so at every restart.
-static constexpr int lateDescriptors = 1;
-
 static bool hasNotGrown(const Footprint &before, int allowedDescriptors)
 {
     const Footprint now = Footprint::now();
@@ -173,7 +168,7 @@ void TestRestartingServers::manyRestartsOfTheMediaServerLeaveNothingBehind()
     restart(10);
     qInfo() << footprint(before, Footprint::now()) << "after 10 restarts, loss told after"
             << m_soonestLoss << "ms";
-    QTRY_VERIFY2(hasNotGrown(before, lateDescriptors),
+    QTRY_VERIFY2(hasNotGrown(before, Footprint::lateDescriptors),
                  qPrintable(footprint(before, Footprint::now())));
     // The watch over silence takes a second: it was not that which told.
     QVERIFY2(m_soonestLoss < 500, qPrintable(QString::number(m_soonestLoss)));
@@ -197,7 +192,7 @@ void TestRestartingServers::aMediaServerThatEndsWhileItHangsIsReplaced()
     restartHanging(2);
     const Footprint before = Footprint::now();
     restartHanging(3);
-    QTRY_VERIFY2(hasNotGrown(before, lateDescriptors),
+    QTRY_VERIFY2(hasNotGrown(before, Footprint::lateDescriptors),
                  qPrintable(footprint(before, Footprint::now())));
 }
 
