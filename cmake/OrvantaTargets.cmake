@@ -96,7 +96,8 @@ function(orvanta_test name)
         list(APPEND environment "QT_QPA_PLATFORM=offscreen")
     endif()
     set(processors 1)
-    if(TEST_BUSY)
+    # With sanitizers so does what takes long anyway: most of that are movies.
+    if(TEST_BUSY OR (ORVANTA_SANITIZE AND TEST_COST GREATER 25))
         set(processors 2) # as many as the tests that share one
     endif()
     set_tests_properties(${name} PROPERTIES
