@@ -1,8 +1,13 @@
+#include "HouseFiles.h"
+
 #include <QDir>
 #include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 #include <QTest>
+
+using HouseFiles::captured;
+using HouseFiles::contentOf;
 
 // What the package and the desktop are told of the program is complete and says the same
 // everywhere.
@@ -23,25 +28,10 @@ private Q_SLOTS:
 static const char menuEntry[] = "packaging/desktop/orvanta.desktop";
 static const char metainfo[] = "packaging/desktop/org.orvanta.orvanta.metainfo.xml.in";
 
-static QString contentOf(const QString &path)
-{
-    QFile file(QDir(HOUSE).filePath(path));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-// The first part of the pattern that is caught, of each place where it fits.
-static QStringList allOf(const QString &text, const QString &pattern)
-{
-    QStringList found;
-    const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
-    for (auto match = expression.globalMatch(text); match.hasNext();)
-        found.append(match.next().captured(1));
-    return found;
-}
-
 static QStringList listed(const QString &list)
 {
-    QStringList packages = allOf(contentOf("packaging/packages/" + list + ".txt"), "^([a-z]\\S+)$");
+    QStringList packages =
+        captured(contentOf("packaging/packages/" + list + ".txt"), "^([a-z]\\S+)$");
     packages.sort();
     return packages;
 }
@@ -50,8 +40,8 @@ static QStringList listed(const QString &list)
 static QStringList named(const QString &field)
 {
     const QString lines =
-        allOf(contentOf("packaging/debian/control"), "^" + field + ":\\n((?: .*\\n)+)").value(0);
-    QStringList packages = allOf(lines, "^ ([a-z][^ ,\\n]*),?$");
+        captured(contentOf("packaging/debian/control"), "^" + field + ":\\n((?: .*\\n)+)").value(0);
+    QStringList packages = captured(lines, "^ ([a-z][^ ,\\n]*),?$");
     packages.sort();
     return packages;
 }
@@ -83,7 +73,7 @@ void TestPackaging::theMenuEntrySpeaksEveryLanguage_data()
     const QStringList sources = QDir(QString(HOUSE) + "/translations").entryList({"*.ts"});
     QVERIFY(sources.size() >= 30);
     for (const QString &source : sources) {
-        const QString code = allOf(source, "^qvexplugin_(.*)\\.ts$").value(0);
+        const QString code = captured(source, "^qvexplugin_(.*)\\.ts$").value(0);
         if (code != "en")
             QTest::newRow(qPrintable(code)) << desktopLanguage(code);
     }
@@ -93,7 +83,7 @@ void TestPackaging::theMenuEntrySpeaksEveryLanguage()
 {
     QFETCH(QString, language);
     const QString entry = contentOf(menuEntry);
-    const auto said = [&](const QString &key) { return allOf(entry, "^" + key + "=(.+)$"); };
+    const auto said = [&](const QString &key) { return captured(entry, "^" + key + "=(.+)$"); };
     QCOMPARE(said("Name\\[" + language + "\\]"), said("Name"));
     for (const QString key : {"GenericName", "Comment", "Keywords"}) {
         const QStringList here = said(key + "\\[" + language + "\\]");
@@ -106,17 +96,18 @@ void TestPackaging::theMenuEntrySpeaksEveryLanguage()
 void TestPackaging::softwareCentresShowWhatTheMenuEntrySays()
 {
     QString told = contentOf(metainfo);
-    QStringList comments = allOf(contentOf(menuEntry), "^Comment(?:\\[\\w+\\])?=(.+)$");
-    QCOMPARE(allOf(told, "<summary[^>]*>(.+)</summary>"), comments);
-    QStringList languages = allOf(contentOf(menuEntry), "^Comment\\[(\\w+)\\]=");
-    QCOMPARE(allOf(told, "<summary xml:lang=\"(\\w+)\">"), languages);
-    QCOMPARE(allOf(told, "<launchable type=\"desktop-id\">(.+)</launchable>"),
+    QStringList comments = captured(contentOf(menuEntry), "^Comment(?:\\[\\w+\\])?=(.+)$");
+    QCOMPARE(captured(told, "<summary[^>]*>(.+)</summary>"), comments);
+    QStringList languages = captured(contentOf(menuEntry), "^Comment\\[(\\w+)\\]=");
+    QCOMPARE(captured(told, "<summary xml:lang=\"(\\w+)\">"), languages);
+    QCOMPARE(captured(told, "<launchable type=\"desktop-id\">(.+)</launchable>"),
              QStringList(QFileInfo(menuEntry).fileName()));
 }
 
 void TestPackaging::theirPicturesAreInTheTree()
 {
-    const QStringList pictures = allOf(contentOf(metainfo), "@ORVANTA_SCREENSHOTS_URL@/(\\S+)</");
+    const QStringList pictures =
+        captured(contentOf(metainfo), "@ORVANTA_SCREENSHOTS_URL@/(\\S+)</");
     QVERIFY(!pictures.isEmpty());
     for (const QString &picture : pictures)
         QVERIFY2(QFile::exists(QString(HOUSE) + "/docs/" + picture), qPrintable(picture));
@@ -140,9 +131,9 @@ void TestPackaging::everyPlaceTellsTheSameVersion()
     QFETCH(QString, file);
     QFETCH(QString, pattern);
     const QString version =
-        allOf(contentOf("CMakeLists.txt"), "^project\\(\\w+ VERSION ([\\d.]+)").value(0);
+        captured(contentOf("CMakeLists.txt"), "^project\\(\\w+ VERSION ([\\d.]+)").value(0);
     QVERIFY(!version.isEmpty());
-    QCOMPARE(allOf(contentOf(file), pattern).value(0), version); // the newest comes first
+    QCOMPARE(captured(contentOf(file), pattern).value(0), version); // the newest comes first
 }
 
 QTEST_GUILESS_MAIN(TestPackaging)

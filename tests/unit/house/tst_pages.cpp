@@ -1,3 +1,5 @@
+#include "HouseFiles.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -7,6 +9,9 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QTest>
+
+using HouseFiles::captured;
+using HouseFiles::contentOf;
 
 // What the pages tell a reader to open or to type is there and is understood.
 class TestPages : public QObject {
@@ -37,21 +42,6 @@ private:
     QStringList m_files; ///< of the tree
     QString m_sources; ///< of everything that runs or is built
 };
-
-static QString contentOf(const QString &path)
-{
-    QFile file(QDir(HOUSE).filePath(path));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-static QStringList captured(const QString &text, const QString &pattern)
-{
-    QStringList found;
-    const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
-    for (auto match = expression.globalMatch(text); match.hasNext();)
-        found.append(match.next().captured(1).trimmed());
-    return found;
-}
 
 void TestPages::initTestCase()
 {
