@@ -1,10 +1,13 @@
+#include "HouseFiles.h"
+
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
+
+using HouseFiles::contentOf;
 
 // What ARCHITECTURE.md says of the house is true of the house.
 class TestArchitecture : public QObject {
@@ -29,12 +32,6 @@ private:
     QStringList m_files; ///< of the house, each with its folder
     QMap<QString, QStringList> m_rooms; ///< which rooms each uses, in order
 };
-
-static QString contentOf(const QString &path)
-{
-    QFile file(QDir(HOUSE).filePath(path));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 static QString withoutComments(QString script)
 {
