@@ -79,6 +79,11 @@ QStringList LiveVideoWidget::getVideoDeviceList()
     return m_engine.GetVideoDeviceList();
 }
 
+bool LiveVideoWidget::isDeviceListComplete() const
+{
+    return m_engine.IsListComplete();
+}
+
 void LiveVideoWidget::setVideoDevice(int index)
 {
     m_engine.SetVideoDevice(index);

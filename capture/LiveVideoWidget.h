@@ -39,6 +39,8 @@ public:
 
     /// Names in device order; a position in the list is what setVideoDevice() takes.
     QStringList getVideoDeviceList();
+    /// Whether that list is all there is; false while a server or a driver is still thinking.
+    bool isDeviceListComplete() const;
     /// Selects the camera that the next Create() opens.
     void setVideoDevice(int index);
 

@@ -236,6 +236,11 @@ void DeviceProviders::start(steady_clock::time_point deadline)
     awaitStart(all.mediaServer, deadline);
 }
 
+bool DeviceProviders::haveAnswered()
+{
+    return !sources().videoNodes.task && !sources().mediaServer.task;
+}
+
 static QVector<CameraHandle> camerasOf(const Source &source)
 {
     QVector<CameraHandle> cameras;

@@ -36,6 +36,9 @@ public:
     /// Starts every provider that does not run yet; waits for them until @p deadline at most.
     static void start(std::chrono::steady_clock::time_point deadline);
 
+    /// The last start() has not left any that is still being started.
+    static bool haveAnswered();
+
     /// All cameras that are there, the demonstration last if it is wanted.
     static QVector<CameraHandle> cameras();
 

@@ -213,6 +213,11 @@ QStringList LiveVideoData::GetVideoDeviceList()
     return names;
 }
 
+bool LiveVideoData::IsListComplete() const
+{
+    return DeviceProviders::haveAnswered() && MicrophoneFinder::hasAnswered();
+}
+
 void LiveVideoData::SetVideoDevice(int index)
 {
     d->choice = choiceOf(d->lastList, index);

@@ -43,6 +43,11 @@ void MicrophoneFinder::waitUntil(steady_clock::time_point deadline)
     soundServer().waitUntil(deadline);
 }
 
+bool MicrophoneFinder::hasAnswered()
+{
+    return soundServer().hasAnswered();
+}
+
 std::optional<SoundSource> MicrophoneFinder::source()
 {
     if (!soundServer().isThere())

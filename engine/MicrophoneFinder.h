@@ -38,6 +38,9 @@ public:
     /// Waits until @p deadline at most for that answer.
     static void waitUntil(std::chrono::steady_clock::time_point deadline);
 
+    /// It has come, or there is no sound server.
+    static bool hasAnswered();
+
     /// What a movie is to listen to; empty when there is no microphone. Without a sound server
     /// there is always one to try.
     static std::optional<SoundSource> source();

@@ -217,6 +217,11 @@ void SoundServer::waitUntil(steady_clock::time_point deadline) const
         qCWarning(engineLog, "the sound server does not answer");
 }
 
+bool SoundServer::hasAnswered() const
+{
+    return m_client->state() != Client::State::Connecting;
+}
+
 bool SoundServer::isThere() const
 {
     return m_client && m_client->state() != Client::State::Ended;

@@ -32,6 +32,9 @@ public:
     /// Only after begin().
     void waitUntil(std::chrono::steady_clock::time_point deadline) const;
 
+    /// The list of sources has come, or it is known that there is no server. Only after begin().
+    bool hasAnswered() const;
+
     /// One that does not answer counts.
     bool isThere() const;
 

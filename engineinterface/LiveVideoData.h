@@ -88,6 +88,10 @@ public:
     /// numbered. At its limit it answers with what has been found by then.
     QStringList GetVideoDeviceList();
 
+    /// Whether the last GetVideoDeviceList() has heard from every server and driver: if not, there
+    /// may be cameras and microphones that are not known yet.
+    bool IsListComplete() const;
+
     /// Chooses a camera of the last list for the next Create(). The camera is remembered by what it
     /// is, not by its place: plugged in again it is found under any index. An index that the
     /// list does not have is no camera. Without any choice it is the first one.

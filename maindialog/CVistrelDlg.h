@@ -96,6 +96,7 @@ public:
     // --- DeviceFlow.cpp --------------------------------------------------------------------
     /// Lets the user choose among several cameras. False: the chooser was closed without a choice.
     bool selectVideoDevice();
+    QStringList patientDeviceList();
     /// Reports a camera or microphone that is missing at start. Called once, after showing.
     void chkdevice();
 

@@ -10,11 +10,22 @@
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
 
+static constexpr int looksAtStart = 4; // of three seconds at most each
 static constexpr int raisePeriodAfterChoice = 500; // ms, as before the chooser stopped the raising
+
+// A computer that is still busy with its own start answers late, and must not be said to have no
+// camera; one that never answers must not keep the window away.
+QStringList CVistrelDlg::patientDeviceList()
+{
+    QStringList names = m_liveView->getVideoDeviceList();
+    for (int look = 1; look < looksAtStart && !m_liveView->isDeviceListComplete(); ++look)
+        names = m_liveView->getVideoDeviceList();
+    return names;
+}
 
 bool CVistrelDlg::selectVideoDevice()
 {
-    const QStringList names = m_liveView->getVideoDeviceList();
+    const QStringList names = patientDeviceList();
     if (names.isEmpty())
         return true; // reported by chkdevice(), once the window is there
     SelectDeviceDlg chooser(this);

@@ -49,6 +49,7 @@ void TestHangingServer::theListComesInTimeAndTheCamerasLater()
         timer.start();
         QCOMPARE(engine.GetVideoDeviceList(), QStringList{"Demonstration Camera"});
         QVERIFY2(timer.elapsed() < 3500, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY(!engine.IsListComplete());
     }
     qunsetenv("ORVANTA_DEMO_CAMERA");
     engine.Create();
@@ -56,6 +57,7 @@ void TestHangingServer::theListComesInTimeAndTheCamerasLater()
     QVERIFY(!engine.created);
     QCOMPARE(::kill(pid_t(m_server), SIGCONT), 0);
     QTRY_COMPARE(engine.GetVideoDeviceList(), QStringList{"first"});
+    QTRY_VERIFY((engine.GetVideoDeviceList(), engine.IsListComplete()));
     engine.Create();
     QVERIFY(engine.created);
 }

@@ -84,7 +84,15 @@ void LiveVideoData::SetTarget(QWidget *target)
 QStringList LiveVideoData::GetVideoDeviceList()
 {
     note(QStringLiteral("GetVideoDeviceList()"));
-    return FakeEngine::script().deviceNames;
+    FakeEngine &script = FakeEngine::script();
+    if (script.hastyLists > 0)
+        --script.hastyLists;
+    return script.hastyLists > 0 ? script.deviceNames.mid(0, 1) : script.deviceNames;
+}
+
+bool LiveVideoData::IsListComplete() const
+{
+    return FakeEngine::script().hastyLists == 0;
 }
 
 void LiveVideoData::SetVideoDevice(int index)

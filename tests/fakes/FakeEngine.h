@@ -32,6 +32,8 @@ struct FakeEngine {
 
     // What the engine finds.
     QStringList deviceNames = {QStringLiteral("Fake Camera")};
+    /// Up to and without which list only the first camera has been heard of; 0 for none.
+    int hastyLists = 0;
     bool supported = true; ///< capture is possible at all
     bool videoPresent = true;
     bool createOpens = true; ///< Create() opens the camera, when it is supported and present

@@ -126,6 +126,8 @@ private Q_SLOTS:
     void noCameraAsksNothing();
     void theChosenCameraIsUsed_data();
     void theChosenCameraIsUsed();
+    void aCameraThatIsHeardOfLateIsAskedForToo();
+    void aServerThatNeverAnswersDoesNotKeepTheWindowAway();
     void theChooserStandsInTheMiddleOfTheDesktop();
     void aClosedChooserLeavesNoCameraAndNoWindow();
 
@@ -229,6 +231,29 @@ void DevicesTest::theChosenCameraIsUsed()
     QVERIFY(calls.indexOf(QStringLiteral("SetVideoDevice(%1)").arg(device))
             < calls.indexOf(QStringLiteral("Create()")));
     QCOMPARE(fixture.usableButtons(), liveButtons);
+}
+
+void DevicesTest::aCameraThatIsHeardOfLateIsAskedForToo()
+{
+    DialogFixture fixture;
+    FakeEngine::script().deviceNames = QStringList{"A", "B"};
+    FakeEngine::script().hastyLists = 3;
+    const BoxUser user({{"SelectDeviceDlg", [](QWidget &box) {
+                             box.findChild<QComboBox *>()->setCurrentIndex(1);
+                             pressIn(box, QStringLiteral("OK"));
+                         }}});
+    fixture.build();
+    QVERIFY(user.hasDoneAll());
+    QCOMPARE(FakeEngine::script().videoDevice, 1);
+}
+
+void DevicesTest::aServerThatNeverAnswersDoesNotKeepTheWindowAway()
+{
+    DialogFixture fixture;
+    FakeEngine::script().hastyLists = 1000;
+    fixture.build();
+    QCOMPARE(fixture.usableButtons(), liveButtons);
+    QCOMPARE(FakeEngine::callCount("GetVideoDeviceList"), 4);
 }
 
 void DevicesTest::theChooserStandsInTheMiddleOfTheDesktop()
