@@ -12,7 +12,7 @@
 #include <QTimer>
 #include <QTouchDevice>
 
-static constexpr int patience = 10000; // ms
+static constexpr int patience = 60000; // ms, for 600 ticks on a machine that is busy
 
 /** Recording a movie, up to where it is ready to be played. */
 class MovieFlowTest : public QObject {
