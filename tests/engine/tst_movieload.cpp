@@ -9,6 +9,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -61,6 +62,7 @@ private:
 
 static const int briefLength = 2; // s
 static const milliseconds longestStop(4000); // of a movie with a queue of a second
+static const double longestSoundWait = 1; // s, the recorder's, for sound that may be lost or late
 
 static MovieEncoding encodingBehind(const QByteArray &hindrance)
 {
@@ -123,14 +125,21 @@ void TestMovieLoad::verifySpan(const MovieFile &movie, int rate, double shortest
 }
 
 // Every tone is where it was. When sound was heard is told from when it arrives: nobody could know
-// better than by so many seconds that all of it was handed over late.
+// better than by so many seconds that all of it was handed over late, a tone that came in two parts
+// may be heard as two, and what is later than the recorder waits for is silence.
 void TestMovieLoad::verifySound(const MovieFile &movie, int rate, int length, double late) const
 {
     const double beat = double(LabPattern::beatFrames) / rate;
-    QCOMPARE(movie.tones().size(), qRound(length / beat));
-    for (int i = 0; i < movie.tones().size(); ++i)
-        QVERIFY2(qAbs(movie.tones().at(i) - i * beat) < 0.04 + late,
-                 qPrintable(QString::number(movie.tones().at(i))));
+    if (late > 0.9 * longestSoundWait)
+        return;
+    QSet<int> heard;
+    for (const double tone : movie.tones()) {
+        const int nearest = qRound(tone / beat);
+        QVERIFY2(qAbs(tone - nearest * beat) < 0.04 + late, qPrintable(QString::number(tone)));
+        QVERIFY(late > 0.04 || !heard.contains(nearest));
+        heard.insert(nearest);
+    }
+    QCOMPARE(heard.size(), qRound(length / beat));
 }
 
 // Every frame is shown when it was taken, and none for much longer than the others, but for @p late
