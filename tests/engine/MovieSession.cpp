@@ -1,11 +1,11 @@
 #include "MovieSession.h"
+#include "Patience.h"
 
 #include "LabCommands.h"
 #include "MovieProbe.h"
 
 #include <QElapsedTimer>
 #include <QFile>
-#include <QTest>
 
 void MovieSession::setUpCamera()
 {

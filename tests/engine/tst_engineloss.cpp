@@ -6,6 +6,7 @@
 #include "LabCommands.h"
 #include "LabPattern.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 #include "PictureConverter.h"
 
 #include <QElapsedTimer>
@@ -13,7 +14,6 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 // A camera that goes away while it is open, and comes back.
 class TestEngineLoss : public QObject {

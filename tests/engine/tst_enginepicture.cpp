@@ -1,6 +1,7 @@
 #include "LabCommands.h"
 #include "LabPattern.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 
 #include <QApplication>
 #include <QDir>
@@ -10,7 +11,6 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <gst/gst.h>
 

@@ -1,10 +1,10 @@
 #include "Footprint.h"
 #include "LabCommands.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 
 #include <QFrame>
 #include <QSignalSpy>
-#include <QTest>
 
 // A cable with a bad contact: the camera goes and comes back all day.
 class TestEnginePlugging : public QObject {

@@ -1,11 +1,11 @@
 #include "LabCommands.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 
 #include <QFile>
 #include <QFrame>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <functional>
 

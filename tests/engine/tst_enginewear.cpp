@@ -1,8 +1,8 @@
 #include "Footprint.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 
 #include <QFrame>
-#include <QTest>
 
 // A classroom computer runs the program all day.
 class TestEngineWear : public QObject {

@@ -1,10 +1,10 @@
 #include "Footprint.h"
 #include "LabCommands.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <csignal>
 #include <gst/gst.h>

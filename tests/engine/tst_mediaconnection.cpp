@@ -1,11 +1,11 @@
 #include "MediaConnection.h"
+#include "Patience.h"
 
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QSignalSpy>
 #include <QSocketNotifier>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 

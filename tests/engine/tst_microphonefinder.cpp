@@ -1,7 +1,6 @@
 #include "LabCommands.h"
 #include "MicrophoneFinder.h"
-
-#include <QTest>
+#include "Patience.h"
 
 #include <atomic>
 

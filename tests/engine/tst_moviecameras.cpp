@@ -2,12 +2,12 @@
 #include "LiveVideoData.h"
 #include "MovieFile.h"
 #include "MovieProbe.h"
+#include "Patience.h"
 #include "SpareTime.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <algorithm>
 #include <memory>

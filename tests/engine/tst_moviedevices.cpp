@@ -1,11 +1,11 @@
 #include "LabCommands.h"
 #include "MovieSession.h"
+#include "Patience.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <algorithm>
 

@@ -4,6 +4,7 @@
 #include "MovieFile.h"
 #include "MovieProbe.h"
 #include "MovieRecorder.h"
+#include "Patience.h"
 #include "SpareTime.h"
 #include "StandInCamera.h"
 
@@ -11,7 +12,6 @@
 #include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <phonon/mediaobject.h>
 #include <phonon/videoplayer.h>

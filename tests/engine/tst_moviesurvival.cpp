@@ -1,6 +1,7 @@
 #include "LabCommands.h"
 #include "MovieFile.h"
 #include "MovieProbe.h"
+#include "Patience.h"
 #include "Recording.h"
 #include "SmallDisk.h"
 #include "SpareTime.h"
@@ -8,8 +9,8 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QVector>
 
 #include <phonon/mediaobject.h>
@@ -17,12 +18,6 @@
 
 #include <memory>
 #include <vector>
-
-namespace {
-
-constexpr int patience = 10000; // ms
-
-} // namespace
 
 // Movies whose program or disk does not live to see their end, as the program's player plays them.
 class TestMovieSurvival : public QObject {
@@ -76,15 +71,17 @@ void TestMovieSurvival::playAndSeek(const QString &path, double from, double to)
     player.resize(320, 180);
     player.show();
     player.play(Phonon::MediaSource(QUrl::fromLocalFile(path)));
-    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.totalTime() > 0, patience);
+    QTRY_VERIFY(player.isPlaying() && player.totalTime() > 0);
     const double length = double(player.totalTime()) / 1000;
     QVERIFY2(length >= from && length <= to, qPrintable(QString::number(length)));
     QVERIFY(player.mediaObject()->isSeekable());
     const qint64 middle = player.totalTime() / 2;
+    const QSignalSpy ends(&player,
+                          &Phonon::VideoPlayer::finished); // a short one is soon at its end
     player.seek(middle);
-    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() >= middle - 1000 && player.currentTime() > 0,
-                             patience);
-    QVERIFY(player.isPlaying());
+    QTRY_VERIFY((player.currentTime() >= middle - 1000 && player.currentTime() > 0)
+                || ends.count() > 0);
+    QVERIFY(player.isPlaying() || ends.count() > 0);
     player.stop();
 }
 
@@ -138,8 +135,8 @@ void TestMovieSurvival::aFullDiskEndsTheMovieAndLeavesItPlayable()
     SmallDisk disk(m_folder.filePath("small"), 64);
     QVERIFY2(disk.isThere(), "no small disk can be made here, not even in a name space of its own");
     Recording recording("beeper", disk.path() + "/movie.mov", disk.entrance());
-    QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
-    QTRY_COMPARE_WITH_TIMEOUT(disk.bytesAvailable(), qint64(0), patience);
+    QTRY_VERIFY(recording.hasBegun());
+    QTRY_COMPARE(disk.bytesAvailable(), qint64(0));
     QVERIFY2(recording.isRunning(), "the camera must go on when the disk is full");
     QTRY_COMPARE(recording.failures(), 1);
     QVERIFY(recording.stop());
@@ -158,8 +155,8 @@ void TestMovieSurvival::aFileThatMayNotGrowIsPlayable()
     // blocks of 512 bytes; the index takes 3100 of them.
     Recording recording("beeper", path,
                         {"sh", "-c", "trap '' XFSZ; ulimit -f 3200; exec \"$@\"", "sh"});
-    QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
-    QTRY_COMPARE_WITH_TIMEOUT(QFileInfo(path).size(), qint64(3200 * 512), patience);
+    QTRY_VERIFY(recording.hasBegun());
+    QTRY_COMPARE(QFileInfo(path).size(), qint64(3200 * 512));
     QVERIFY2(recording.isRunning(), "the camera must go on when the file is full");
     QTRY_COMPARE(recording.failures(), 1);
     QVERIFY(recording.stop());
@@ -171,7 +168,7 @@ void TestMovieSurvival::aFileThatMayNotGrowIsPlayable()
 void TestMovieSurvival::aMovieOfAProgramThatStoodStillSpansTheWholeTime()
 {
     Recording recording("beeper", newPath());
-    QTRY_VERIFY_WITH_TIMEOUT(recording.hasBegun(), patience);
+    QTRY_VERIFY(recording.hasBegun());
     QTest::qWait(1500); // nothing to wait for: the movie's length so far
     recording.halt();
     QTest::qWait(3000); // nothing to wait for: the time it stands still

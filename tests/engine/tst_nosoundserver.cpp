@@ -1,12 +1,12 @@
 #include "LiveVideoData.h"
 #include "MovieFile.h"
 #include "MovieProbe.h"
+#include "Patience.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
 #include <QTimer>
 

@@ -2,13 +2,13 @@
 #include "LabCommands.h"
 #include "LiveVideoData.h"
 #include "MovieFile.h"
+#include "Patience.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFrame>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <algorithm>
 #include <csignal>

@@ -1,8 +1,8 @@
 #include "LabCommands.h"
+#include "Patience.h"
 #include "SoundServer.h"
 
 #include <QProcess>
-#include <QTest>
 
 #include <atomic>
 

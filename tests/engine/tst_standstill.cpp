@@ -1,12 +1,12 @@
 #include "LabCommands.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 #include <QWidget>
 

@@ -1,9 +1,9 @@
+#include "Patience.h"
 #include "TargetPainter.h"
 
 #include <QBackingStore>
 #include <QFrame>
 #include <QSignalSpy>
-#include <QTest>
 
 class TestTargetPainter : public QObject {
     Q_OBJECT

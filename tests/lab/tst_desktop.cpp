@@ -1,11 +1,11 @@
 #include "Desktop.h"
+#include "Patience.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 #include <QVBoxLayout>
 
 namespace {

@@ -1,10 +1,10 @@
 #include "LabPattern.h"
+#include "Patience.h"
 #include "Receiver.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QTest>
 
 namespace {
 

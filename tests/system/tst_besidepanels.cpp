@@ -1,9 +1,9 @@
+#include "Patience.h"
 #include "Session.h"
 
 #include <QGuiApplication>
 #include <QProcess>
 #include <QScreen>
-#include <QTest>
 #include <QWidget>
 
 #include <memory>

@@ -1,9 +1,9 @@
 #include "LabPattern.h"
+#include "Patience.h"
 #include "Session.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTest>
 
 #include <memory>
 

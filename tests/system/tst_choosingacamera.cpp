@@ -1,7 +1,6 @@
 #include "LabCommands.h"
+#include "Patience.h"
 #include "Session.h"
-
-#include <QTest>
 
 // Several cameras, one of them the maker's own document camera, which is not the first of them.
 class TestChoosingACamera : public QObject {

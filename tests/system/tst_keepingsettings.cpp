@@ -1,9 +1,9 @@
+#include "Patience.h"
 #include "Session.h"
 
 #include <QDate>
 #include <QDir>
 #include <QSettings>
-#include <QTest>
 
 #include <memory>
 

@@ -1,6 +1,5 @@
+#include "Patience.h"
 #include "Session.h"
-
-#include <QTest>
 
 #include <memory>
 

@@ -1,10 +1,10 @@
 #include "CStretchBitmapButton.h"
 #include "LabPattern.h"
 #include "LayoutScale.h"
+#include "Patience.h"
 #include "Session.h"
 
 #include <QApplication>
-#include <QTest>
 
 // A screen of twice the usual size in each direction: everything is as large to the eye as ever.
 class TestLargeScreen : public QObject {

@@ -1,16 +1,15 @@
 #include "LabCommands.h"
 #include "LabPattern.h"
+#include "Patience.h"
 #include "Session.h"
 
 #include <QDir>
 #include <QProcess>
-#include <QTest>
 
 #include <memory>
 
 namespace {
 
-constexpr int patienceMs = 10000;
 const QSize cameraSize(1280, 720);
 
 // With its trailing blank.
@@ -149,7 +148,7 @@ void TestLosingMidway::inTheMiddleOfASeries()
     QVERIFY(m_user->startLive());
     QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti"));
     // Hidden while it is being written.
-    QTRY_VERIFY_WITH_TIMEOUT(m_user->program().captured().value(0).startsWith("photo"), patienceMs);
+    QTRY_VERIFY(m_user->program().captured().value(0).startsWith("photo"));
     const QStringList captured = m_user->program().captured();
     pullTheCable();
     QVERIFY(m_user->confirmMessage());
@@ -181,7 +180,7 @@ void TestLosingMidway::whileRecording()
     QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Show"));
     QVERIFY(m_user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
     // To the last half second; the very last frame is not waited for, the player leaves it at once.
-    QTRY_VERIFY_WITH_TIMEOUT(m_user->counterAt(map.videoRect()) > filmed - 15, patienceMs);
+    QTRY_VERIFY(m_user->counterAt(map.videoRect()) > filmed - 15);
     QCOMPARE(m_user->program().captured().size(), 2);
     QVERIFY(labctl({"plug", "cam1", "1280x720"}));
     expectLiveAgainFrom(WindowMap::MovieScreen);
@@ -256,7 +255,7 @@ void TestLosingMidway::duringPlayback()
     QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Show"));
     QVERIFY(m_user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
     const QRect video = m_user->map().videoRect();
-    QTRY_VERIFY_WITH_TIMEOUT(movesOnScreen(video), patienceMs);
+    QTRY_VERIFY(movesOnScreen(video));
 
     pullTheCable();
     const QRect aboveTheMessage = video.adjusted(0, 0, 0, -video.height() / 2 - 100);

@@ -2,6 +2,7 @@
 
 #include "LabPattern.h"
 #include "MovieProbe.h"
+#include "Patience.h"
 #include "Session.h"
 #include "SpareTime.h"
 #include "TimerWidget.h"
@@ -9,13 +10,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QTest>
 
 #include <csignal>
 #include <phonon/mediaobject.h>
 #include <phonon/videoplayer.h>
-
-static constexpr int patienceMs = 10000;
 
 class MoviesTest : public QObject {
     Q_OBJECT
@@ -113,26 +111,25 @@ void MoviesTest::aMovieIsRecordedAndPlayedTwice()
         user.press(WindowMap::MovieScreen, "MoviePlay");
         // The length is there before the first second has passed.
         int second = -1;
-        QTRY_VERIFY_WITH_TIMEOUT((second = secondShown(user, length)) >= 0, patienceMs);
+        QTRY_VERIFY((second = secondShown(user, length)) >= 0);
         QVERIFY2(second <= spare.lateness(), qPrintable(QString::number(second)));
         QVERIFY(user.waitForPressable(WindowMap::PlayingScreen,
                                       {"Live", "MoviePause", "List", "Close"}));
-        QTRY_VERIFY_WITH_TIMEOUT(user.counterAt(picture) > 0, patienceMs);
+        QTRY_VERIFY(user.counterAt(picture) > 0);
         if (showing == 0) {
             user.press(WindowMap::PlayingScreen, "MoviePause");
             QVERIFY(user.waitForPressable(WindowMap::MovieScreen,
                                           {"Live", "MoviePlay", "List", "Close"}));
-            QTRY_VERIFY_WITH_TIMEOUT(user.isStillAt(picture), patienceMs);
+            QTRY_VERIFY(user.isStillAt(picture));
             user.press(WindowMap::MovieScreen, "MoviePlay");
         }
         // Its end brings "Play" back.
-        QTRY_VERIFY_WITH_TIMEOUT(
+        QTRY_VERIFY(
             user.map().look(user.desktop().screenshot(), WindowMap::MovieScreen, "MoviePlay")
-                == WindowMap::Up,
-            patienceMs);
+            == WindowMap::Up);
     }
     QVERIFY(user.pressWhenReady(WindowMap::MovieScreen, "Live"));
-    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(picture), patienceMs);
+    QTRY_VERIFY(user.isLiveAt(picture));
 }
 
 void MoviesTest::theFirstPictureStandsBeforePlayAndAfterTheEnd()
@@ -147,12 +144,12 @@ void MoviesTest::theFirstPictureStandsBeforePlayAndAfterTheEnd()
     const QString still = QString(movies(user).first()).replace(".mov", "tmp.png");
     const int first = LabPattern::counterOf(QImage(still));
     QVERIFY(first >= 0);
-    QTRY_COMPARE_WITH_TIMEOUT(user.counterAt(picture), first, patienceMs);
+    QTRY_COMPARE(user.counterAt(picture), first);
     user.press(WindowMap::MovieScreen, "MoviePlay");
-    QTRY_VERIFY_WITH_TIMEOUT(user.counterAt(picture) > first + 15, patienceMs);
+    QTRY_VERIFY(user.counterAt(picture) > first + 15);
     QVERIFY(
         user.waitForPressable(WindowMap::PlayingScreen, {"Live", "MoviePause", "List", "Close"}));
-    QTRY_COMPARE_WITH_TIMEOUT(user.counterAt(picture), first, patienceMs);
+    QTRY_COMPARE(user.counterAt(picture), first);
     QVERIFY(user.waitForPressable(WindowMap::MovieScreen, {"Live", "MoviePlay", "List", "Close"}));
 }
 
@@ -187,7 +184,7 @@ void MoviesTest::rubbishInPlaceOfAMovieHangsNothing()
     QVERIFY(showTheMovie(WindowMap::MovieListScreen));
     QVERIFY(user.pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
     QVERIFY(user.pressWhenReady(WindowMap::PlayingScreen, "Live"));
-    QTRY_VERIFY_WITH_TIMEOUT(user.isLiveAt(map.videoRect()), patienceMs);
+    QTRY_VERIFY(user.isLiveAt(map.videoRect()));
     QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "Movie")); // and a real one can be made
     QVERIFY(user.waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
 }
@@ -218,7 +215,7 @@ void MoviesTest::aMovieSurvivesTheEndOfTheProgram()
 
     Phonon::VideoPlayer player(Phonon::VideoCategory);
     player.play(Phonon::MediaSource(QUrl::fromLocalFile(movies(user).first())));
-    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.totalTime() > 0, patienceMs);
+    QTRY_VERIFY(player.isPlaying() && player.totalTime() > 0);
     QVERIFY2(player.totalTime() > 2200 && player.totalTime() < 6000,
              qPrintable(QString::number(player.totalTime())));
     player.stop();

@@ -1,16 +1,14 @@
 #include "LabCommands.h"
+#include "Patience.h"
 #include "Session.h"
 
 #include <QDir>
-#include <QTest>
 
 #include <memory>
 
 // With its trailing blank.
 static const char lostText[] = "The video device is invalid. Please confirm whether the device is "
                                "correctly connected. ";
-
-static constexpr int patienceMs = 10000;
 
 // The media server crashes in the middle of the lesson, and sound server and session manager go
 // with it. The session starts them anew.
@@ -41,7 +39,7 @@ void TestRestartedServers::theProgramGoesOnAsIfTheCameraHadBeenUnplugged()
     QTRY_COMPARE(area.entryList({"movie*.mov"}, QDir::Files).size(), 1);
 
     user.program().terminate();
-    QVERIFY(user.program().hasEndedWithin(patienceMs));
+    QVERIFY(user.program().hasEndedWithin(patience));
     QVERIFY(!user.program().hasCrashed());
 }
 
@@ -58,9 +56,9 @@ void TestRestartedServers::aServerThatHangsForEverDoesNotKeepTheProgramFromEndin
     QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "List"));
     QVERIFY(user.pressWhenReady(WindowMap::ListScreen, "Live"));
     QTRY_VERIFY_WITH_TIMEOUT(user.waitForPressable(WindowMap::LiveScreen, {"List", "Close"}),
-                             2 * patienceMs);
+                             2 * patience);
     user.program().terminate();
-    const bool hasEnded = user.program().hasEndedWithin(patienceMs);
+    const bool hasEnded = user.program().hasEndedWithin(patience);
     QVERIFY(labctl({"wake-media-server"}));
     QVERIFY(hasEnded);
     QVERIFY(!user.program().hasCrashed());

@@ -1,6 +1,6 @@
+#include "Patience.h"
 #include "Session.h"
 
-#include <QTest>
 #include <QWidget>
 
 #include <memory>

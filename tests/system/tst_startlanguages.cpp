@@ -3,11 +3,11 @@
 // to its save question.
 
 #include "Desktop.h"
+#include "Patience.h"
 #include "Program.h"
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <functional>
 #include <memory>
@@ -16,7 +16,6 @@
 namespace {
 
 // Long for a person, but the machine may be building something else meanwhile.
-constexpr int patienceMs = 30000;
 
 /// The program and all that lies beside it, in a folder that a test may add to and take from. As
 /// further names of the same files: copies of the program for each start keep a disk busy.
@@ -87,8 +86,7 @@ void StartLanguagesTest::startWith(const QString &stored, const QString &missing
         QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("qvexplugin_%1.qm").arg(missing))));
     m_program->setLanguage(stored);
     m_program->start();
-    QTRY_VERIFY2_WITH_TIMEOUT(isOnTop(QStringLiteral("Orvanta")), qPrintable(m_program->output()),
-                              patienceMs);
+    QTRY_VERIFY2(isOnTop(QStringLiteral("Orvanta")), qPrintable(m_program->output()));
 }
 
 /// As a person does it who sees that nothing happens: the first press on a window that has just
@@ -98,7 +96,7 @@ bool StartLanguagesTest::pressUntil(QPoint place, const std::function<bool()> &h
     constexpr int presses = 5;
     for (int i = 0; i < presses; ++i) {
         m_desktop.click(place);
-        if (QTest::qWaitFor(hasHappened, patienceMs / presses))
+        if (QTest::qWaitFor(hasHappened, patience / presses))
             return true;
     }
     return false;
@@ -158,7 +156,7 @@ void StartLanguagesTest::speaksTheWhiteboardsLanguage()
     QVERIFY(m_program->isRunning());
     QVERIFY(pressUntil(middleOfSmallButton(1), [&] { return isOnTop(settings); }));
     m_desktop.pressKey("Escape");
-    QTRY_VERIFY_WITH_TIMEOUT(isOnTop(QStringLiteral("Orvanta")), patienceMs);
+    QTRY_VERIFY(isOnTop(QStringLiteral("Orvanta")));
 }
 
 void StartLanguagesTest::theSaveQuestionReadsInTheDirectionOfTheLanguage_data()
@@ -190,11 +188,11 @@ void StartLanguagesTest::theSaveQuestionReadsInTheDirectionOfTheLanguage()
     const QRect question = top.geometry;
     m_desktop.click(question.bottomRight() - QPoint(question.width() / 6, 22));
     if (isRightToLeft) {
-        QTRY_VERIFY_WITH_TIMEOUT(!m_program->isRunning(), patienceMs);
+        QTRY_VERIFY(!m_program->isRunning());
         QVERIFY(!QFile::exists(photo));
         QVERIFY(!QDir(m_program->saveFolder()).isEmpty());
     } else {
-        QTRY_COMPARE_WITH_TIMEOUT(m_desktop.topWindowOf(m_program->pid()).id, window, patienceMs);
+        QTRY_COMPARE(m_desktop.topWindowOf(m_program->pid()).id, window);
         QVERIFY(m_program->isRunning());
         QVERIFY(QFile::exists(photo));
     }

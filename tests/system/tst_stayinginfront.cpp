@@ -1,7 +1,7 @@
+#include "Patience.h"
 #include "Session.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 #include <QWidget>
 
 #include <memory>

@@ -1,8 +1,8 @@
 #include "LabPattern.h"
+#include "Patience.h"
 #include "Session.h"
 
 #include <QRegularExpression>
-#include <QTest>
 #include <QTime>
 
 #include <memory>

@@ -1,4 +1,5 @@
 #include "InstanceChannel.h"
+#include "Patience.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -7,7 +8,6 @@
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QtEndian>
 
 #include <chrono>

@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "QtSingleApplication.h"
 
 #include <QDialog>
@@ -5,7 +6,6 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 #include <algorithm>
 #include <memory>

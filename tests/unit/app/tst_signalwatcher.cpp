@@ -1,7 +1,7 @@
+#include "Patience.h"
 #include "SignalWatcher.h"
 
 #include <QMessageBox>
-#include <QTest>
 #include <QTimer>
 #include <QWidget>
 

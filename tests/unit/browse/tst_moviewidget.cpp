@@ -1,17 +1,16 @@
 #include "CaptureFolder.h"
 #include "MovieWidget.h"
+#include "Patience.h"
 
 #include <QLabel>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <phonon/mediaobject.h>
 
 namespace {
 
 constexpr int movieMs = 2500;
-constexpr int patienceMs = 10000;
 
 // Where the player is, for a readable failure.
 QByteArray position(const MovieWidget &player)
@@ -106,7 +105,7 @@ void TestMovieWidget::theCaptionStaysAboveThePicture()
     player.Create(m_movie);
     player.show();
     player.Play();
-    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 0, patienceMs);
+    QTRY_VERIFY(player.currentTime() > 0);
     const auto *label = player.findChild<QLabel *>();
     QCOMPARE(player.childAt(label->geometry().center()), label);
 }
@@ -125,7 +124,7 @@ void TestMovieWidget::theStillPictureStandsWheneverThePlayerIsBlack()
     QCOMPARE(colourAt(161), QColor(Qt::magenta));
     QCOMPARE(colourAt(158), QColor(Qt::black));
     player.Play();
-    QTRY_VERIFY_WITH_TIMEOUT(colourAt(320) != QColor(Qt::magenta), patienceMs);
+    QTRY_VERIFY(colourAt(320) != QColor(Qt::magenta));
     QVERIFY(player.isPlaying());
     player.Stop();
     QTRY_COMPARE(colourAt(320), QColor(Qt::magenta));
@@ -138,7 +137,7 @@ void TestMovieWidget::aMovieWaitsForPlay()
 {
     MovieWidget player(nullptr);
     player.Create(m_movie);
-    QTRY_VERIFY_WITH_TIMEOUT(player.mediaObject()->state() == Phonon::StoppedState, patienceMs);
+    QTRY_VERIFY(player.mediaObject()->state() == Phonon::StoppedState);
     QVERIFY(!player.isPlaying());
 }
 
@@ -148,10 +147,10 @@ void TestMovieWidget::playingRunsToItsEndAndIsThenComplete()
     QSignalSpy finished(&player, &MovieWidget::finished);
     player.Create(m_movie);
     player.Play();
-    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.totalTime() > 0, patienceMs);
+    QTRY_VERIFY(player.isPlaying() && player.totalTime() > 0);
     QVERIFY2(!player.isComplete(), position(player).constData());
     QVERIFY2(qAbs(player.totalTime() - movieMs) < 200, position(player).constData());
-    QVERIFY(finished.wait(patienceMs));
+    QVERIFY(finished.wait(patience));
     QVERIFY2(player.isComplete(), position(player).constData());
 }
 
@@ -166,7 +165,7 @@ void TestMovieWidget::theLengthIsToldOnceForEachMovieThatBeginsToPlay()
     for (int movie = 1; movie <= 2; ++movie) {
         player.Create(m_movie);
         player.Play();
-        QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 500, patienceMs);
+        QTRY_VERIFY(player.currentTime() > 500);
         QCOMPARE(timesKnown, movie);
         player.Stop();
     }
@@ -177,12 +176,12 @@ void TestMovieWidget::playWhilePlayingLeavesPlaybackWhereItIs()
     MovieWidget player(nullptr);
     player.Create(m_movie);
     player.Play();
-    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 1000, patienceMs);
+    QTRY_VERIFY(player.currentTime() > 1000);
     const QSignalSpy changed(player.mediaObject(), &Phonon::MediaObject::stateChanged);
     const qint64 before = player.currentTime();
     player.Play();
     QVERIFY(player.isPlaying());
-    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > before + 300, patienceMs);
+    QTRY_VERIFY(player.currentTime() > before + 300);
     QCOMPARE(changed.count(), 0);
 }
 
@@ -191,13 +190,13 @@ void TestMovieWidget::playResumesWherePauseStopped()
     MovieWidget player(nullptr);
     player.Create(m_movie);
     player.Play();
-    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 1000, patienceMs);
+    QTRY_VERIFY(player.currentTime() > 1000);
     player.pause();
-    QTRY_VERIFY_WITH_TIMEOUT(player.isPaused(), patienceMs);
+    QTRY_VERIFY(player.isPaused());
     QVERIFY2(!player.isComplete(), position(player).constData());
     const qint64 paused = player.currentTime();
     player.Play();
-    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying(), patienceMs);
+    QTRY_VERIFY(player.isPlaying());
     QVERIFY2(player.currentTime() >= paused, position(player).constData());
 }
 
@@ -206,10 +205,10 @@ void TestMovieWidget::resetPlaysFromTheBeginning()
     MovieWidget player(nullptr);
     player.Create(m_movie);
     player.Play();
-    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 1500, patienceMs);
+    QTRY_VERIFY(player.currentTime() > 1500);
     player.Reset();
-    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.currentTime() < 1000, patienceMs);
-    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 1000, patienceMs);
+    QTRY_VERIFY(player.isPlaying() && player.currentTime() < 1000);
+    QTRY_VERIFY(player.currentTime() > 1000);
 }
 
 void TestMovieWidget::stopEndsPlayback()
@@ -217,11 +216,11 @@ void TestMovieWidget::stopEndsPlayback()
     MovieWidget player(nullptr);
     player.Create(m_movie);
     player.Play();
-    QTRY_VERIFY_WITH_TIMEOUT(player.currentTime() > 300, patienceMs);
+    QTRY_VERIFY(player.currentTime() > 300);
     player.Release();
     QVERIFY(player.isPlaying());
     player.Stop();
-    QTRY_VERIFY_WITH_TIMEOUT(!player.isPlaying() && !player.isPaused(), patienceMs);
+    QTRY_VERIFY(!player.isPlaying() && !player.isPaused());
 }
 
 void TestMovieWidget::anUnplayableFileCountsAsComplete()
@@ -234,7 +233,7 @@ void TestMovieWidget::anUnplayableFileCountsAsComplete()
     player.Create(path);
     player.Play();
     // Whether the player calls this an error or just stops is its own affair.
-    QTRY_VERIFY_WITH_TIMEOUT(player.mediaObject()->state() != Phonon::LoadingState, patienceMs);
+    QTRY_VERIFY(player.mediaObject()->state() != Phonon::LoadingState);
     QVERIFY(!player.isPlaying());
     QVERIFY2(player.isComplete(), position(player).constData());
 }
@@ -247,7 +246,7 @@ void TestMovieWidget::oneWidgetPlaysOneMovieAfterTheOther()
     for (const QString &path : {m_movie, second}) {
         player.Create(path);
         player.Play();
-        QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.currentTime() > 100, patienceMs);
+        QTRY_VERIFY(player.isPlaying() && player.currentTime() > 100);
         player.Stop();
     }
 }

@@ -1,10 +1,10 @@
 #include "CaptureFolder.h"
 #include "CapturedPicture.h"
+#include "Patience.h"
 #include "PictureLoader.h"
 
 #include <QElapsedTimer>
 #include <QPixmap>
-#include <QTest>
 
 #include <memory>
 

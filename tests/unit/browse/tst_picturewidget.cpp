@@ -1,11 +1,11 @@
 #include "CStretchBitmapButton.h"
 #include "CaptureFolder.h"
+#include "Patience.h"
 #include "PictureLoader.h"
 #include "PictureWidget.h"
 
 #include <QLabel>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace {
 

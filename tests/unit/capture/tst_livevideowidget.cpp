@@ -1,6 +1,7 @@
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
 #include "MessageReader.h"
+#include "Patience.h"
 #include "WebcamUtil.h"
 
 #include <QApplication>
@@ -11,7 +12,6 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
 #include <QTimer>
 

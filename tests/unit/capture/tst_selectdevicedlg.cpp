@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "SelectDeviceDlg.h"
 #include "WebcamUtil.h"
 
@@ -6,12 +7,9 @@
 #include <QLayout>
 #include <QPushButton>
 #include <QScreen>
-#include <QTest>
 #include <QTimer>
 
 namespace {
-
-constexpr int patienceMs = 5000; // then a dialog that does not close is closed the wrong way
 
 QComboBox *boxOf(const SelectDeviceDlg &dialog)
 {
@@ -104,9 +102,9 @@ void SelectDeviceDlgTest::okAccepts()
     QTimer hand;
     connect(&hand, &QTimer::timeout, &dialog, [ok] { QTest::mouseClick(ok, Qt::LeftButton); });
     hand.start(0);
-    QTimer patience;
-    connect(&patience, &QTimer::timeout, &dialog, &QDialog::reject);
-    patience.start(patienceMs);
+    QTimer end;
+    connect(&end, &QTimer::timeout, &dialog, &QDialog::reject);
+    end.start(patience);
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
 }
 
@@ -118,9 +116,9 @@ void SelectDeviceDlgTest::closingRejects()
     QTimer hand;
     connect(&hand, &QTimer::timeout, &dialog, [&] { closed = dialog.close(); });
     hand.start(0);
-    QTimer patience;
-    connect(&patience, &QTimer::timeout, &dialog, &QDialog::accept);
-    patience.start(patienceMs);
+    QTimer end;
+    connect(&end, &QTimer::timeout, &dialog, &QDialog::accept);
+    end.start(patience);
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
     QVERIFY(closed);
 }

@@ -1,10 +1,10 @@
 #include "CWindowManagement.h"
 #include "FakeXlib.h"
+#include "Patience.h"
 
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QWidget>
 
 namespace {

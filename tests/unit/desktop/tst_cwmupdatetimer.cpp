@@ -1,8 +1,8 @@
 #include "CWMUpdateCallback.h"
 #include "CWMUpdateTimer.h"
+#include "Patience.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 #include <QTimerEvent>
 
 namespace {

@@ -1,7 +1,7 @@
 #include "CWindowManagement.h"
 #include "Desktop.h"
+#include "Patience.h"
 
-#include <QTest>
 #include <QWidget>
 #include <QX11Info>
 

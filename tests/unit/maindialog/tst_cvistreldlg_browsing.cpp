@@ -3,6 +3,7 @@
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
+#include "Patience.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
 #include "TimerWidget.h"
@@ -12,7 +13,6 @@
 #include <QFile>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QTest>
 #include <phonon/mediaobject.h>
 
 namespace {

@@ -3,6 +3,7 @@
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
+#include "Patience.h"
 #include "TimerWidget.h"
 
 #include <QDate>
@@ -10,7 +11,6 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QSignalSpy>
-#include <QTest>
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include "LiveVideoWidget.h"
 #include "MessageReader.h"
 #include "MovieWidget.h"
+#include "Patience.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
 #include "SaveConfirmDlg.h"
@@ -19,12 +20,10 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
-#include <QTest>
 #include <QTimer>
 
 namespace {
 
-constexpr int patienceMs = 10000; // until a user that no box comes for gives up
 constexpr int glanceMs = 10;
 
 // The blank at the end belongs to the text.
@@ -49,10 +48,10 @@ public:
         auto *glance = new QTimer(this);
         connect(glance, &QTimer::timeout, this, &BoxUser::look);
         glance->start(glanceMs);
-        auto *patience = new QTimer(this);
-        patience->setSingleShot(true);
-        connect(patience, &QTimer::timeout, this, [this] { m_givenUp = true; });
-        patience->start(patienceMs);
+        auto *end = new QTimer(this);
+        end->setSingleShot(true);
+        connect(end, &QTimer::timeout, this, [this] { m_givenUp = true; });
+        end->start(patience);
     }
 
     bool hasDoneAll() const { return m_done == m_steps.size() && !m_givenUp; }
@@ -487,7 +486,7 @@ void DevicesTest::aLossPausesPlaybackAndListAndViewPlayItAgain()
     showTheMovie();
     auto &player = fixture.child<MovieWidget>();
     fixture.click("MoviePlay");
-    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.currentTime() > 0, patienceMs);
+    QTRY_VERIFY(player.isPlaying() && player.currentTime() > 0);
 
     QString told;
     const BoxUser user({{"QMessageBox", [&](QWidget &box) {
@@ -506,7 +505,7 @@ void DevicesTest::aLossPausesPlaybackAndListAndViewPlayItAgain()
     showTheMovie();
     QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "List", "Close", "MoviePlay"}));
     fixture.click("MoviePlay");
-    QTRY_VERIFY_WITH_TIMEOUT(player.isPlaying() && player.currentTime() > 0, patienceMs);
+    QTRY_VERIFY(player.isPlaying() && player.currentTime() > 0);
 }
 
 void DevicesTest::deadButtonsDoNothingAfterALoss()

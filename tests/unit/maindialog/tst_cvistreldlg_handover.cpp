@@ -1,5 +1,6 @@
 #include "DialogFixture.h"
 #include "FakeEngine.h"
+#include "Patience.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
 #include "WebcamUtil.h"
@@ -9,7 +10,6 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QSound>
-#include <QTest>
 #include <QTime>
 
 namespace {

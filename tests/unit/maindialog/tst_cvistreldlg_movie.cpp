@@ -3,16 +3,14 @@
 #include "LiveVideoWidget.h"
 #include "MessageReader.h"
 #include "MovieWidget.h"
+#include "Patience.h"
 #include "TimerWidget.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QTest>
 #include <QTimer>
 #include <QTouchDevice>
-
-static constexpr int patience = 60000; // ms, for 600 ticks on a machine that is busy
 
 /** Recording a movie, up to where it is ready to be played. */
 class MovieFlowTest : public QObject {
@@ -81,7 +79,7 @@ void MovieFlowTest::aRecordingLeftAloneStopsAtTenMinutes()
     QStringList shown;
     connect(&time, &TimerWidget::movieTimeOver, this, [&] { shown.append(time.text()); });
     fixture.click("Movie");
-    QTRY_VERIFY_WITH_TIMEOUT(FakeEngine::script().recording.isEmpty(), patience);
+    QTRY_VERIFY(FakeEngine::script().recording.isEmpty());
     QCOMPARE(FakeEngine::callCount("RecordStop"), 1);
     QCOMPARE(dialog.displayMode(), MovieMode);
     // The movie screen clears the label in the same tick.
@@ -274,7 +272,7 @@ void MovieFlowTest::aRecordingThatBreaksOffIsKeptAndTold()
     QCOMPARE(QDir(area).entryList(QDir::Files, QDir::Name), kept);
     QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "List", "Close", "MoviePlay"}));
     fixture.click("MoviePlay");
-    QTRY_VERIFY_WITH_TIMEOUT(fixture.child<MovieWidget>().isPlaying(), patience);
+    QTRY_VERIFY(fixture.child<MovieWidget>().isPlaying());
 }
 
 void MovieFlowTest::theEndOfNoRecordingIsNotTold()

@@ -2,15 +2,13 @@
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
+#include "Patience.h"
 #include "PictureListView.h"
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <phonon/mediaobject.h>
-
-static constexpr int patience = 10000; // ms
 
 /** Playing a movie that was just recorded, or is shown from the list. */
 class PlaybackTest : public QObject {
@@ -44,11 +42,11 @@ void PlaybackTest::theTimeIsRoundedToTheNearestSecond()
     fixture.click("MovieStop");
     fixture.click("MoviePlay");
     auto &movie = fixture.child<MovieWidget>();
-    QTRY_VERIFY_WITH_TIMEOUT(movie.isPlaying() && movie.totalTime() == 61000, patience);
+    QTRY_VERIFY(movie.isPlaying() && movie.totalTime() == 61000);
     movie.pause();
-    QTRY_VERIFY_WITH_TIMEOUT(movie.isPaused(), patience);
+    QTRY_VERIFY(movie.isPaused());
     movie.seek(59600);
-    QTRY_VERIFY_WITH_TIMEOUT(qAbs(movie.currentTime() - 59600) < 100, patience);
+    QTRY_VERIFY(qAbs(movie.currentTime() - 59600) < 100);
     dialog.setMovieTime();
     QCOMPARE(fixture.child<TimerWidget>().text(), QString("01:00/01:01"));
 }
@@ -64,13 +62,13 @@ void PlaybackTest::theLengthIsShownAsSoonAsItIsKnown()
     time.setTickInterval(1000000); // the press of "Play" is the only tick
     QCOMPARE(time.text(), QString());
     fixture.click("MoviePlay");
-    QTRY_COMPARE_WITH_TIMEOUT(time.text(), QString("00:00/00:12"), patience);
+    QTRY_COMPARE(time.text(), QString("00:00/00:12"));
     // Not where no movie is being played for the user.
     fixture.click("Live");
     time.setText(QString());
     auto &movie = fixture.child<MovieWidget>();
     movie.Play();
-    QTRY_VERIFY_WITH_TIMEOUT(movie.isPlaying() && movie.totalTime() > 0, patience);
+    QTRY_VERIFY(movie.isPlaying() && movie.totalTime() > 0);
     QCOMPARE(time.text(), QString());
 }
 
@@ -86,13 +84,13 @@ void PlaybackTest::playPauseAndTheEndOfAMovie()
     time.setTickInterval(50);
     fixture.click("MoviePlay");
     QVERIFY(fixture.button("MoviePause").isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(time.text() == "00:01/00:03", patience);
+    QTRY_VERIFY(time.text() == "00:01/00:03");
     fixture.click("MoviePause");
     QVERIFY(fixture.button("MoviePlay").isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(movie.isPaused(), patience);
+    QTRY_VERIFY(movie.isPaused());
     const QSignalSpy finished(&movie, &MovieWidget::finished);
     fixture.click("MoviePlay");
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, patience);
+    QTRY_COMPARE(finished.count(), 1);
     QTRY_VERIFY(fixture.button("MoviePlay").isVisible());
     QVERIFY(!fixture.button("MoviePause").isVisible());
     QTRY_VERIFY(!movie.isPlaying());
@@ -111,7 +109,7 @@ void PlaybackTest::playAfterTheEndBeginsAgain()
     QVERIFY(finished.wait(patience));
     QTRY_VERIFY(fixture.button("MoviePlay").isVisible());
     fixture.click("MoviePlay");
-    QTRY_VERIFY_WITH_TIMEOUT(movie.isPlaying() && movie.currentTime() < 1500, patience);
+    QTRY_VERIFY(movie.isPlaying() && movie.currentTime() < 1500);
     QVERIFY(finished.wait(patience));
     QCOMPARE(finished.count(), 2);
 }
@@ -141,7 +139,7 @@ void PlaybackTest::aMovieThatCannotBePlayedLeavesTheScreenUsable()
     for (int press = 0; press < 2; ++press) {
         fixture.click("MoviePlay");
         QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "List", "Close", "MoviePause"}));
-        QTRY_VERIFY_WITH_TIMEOUT(movie.mediaObject()->state() != Phonon::LoadingState, patience);
+        QTRY_VERIFY(movie.mediaObject()->state() != Phonon::LoadingState);
         QVERIFY(!movie.isPlaying());
         fixture.click("MoviePause");
         QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "List", "Close", "MoviePlay"}));
@@ -163,7 +161,7 @@ void PlaybackTest::aMovieThatCannotBePlayedLeavesTheScreenUsable()
     fixture.click("Movie");
     fixture.click("MovieStop");
     fixture.click("MoviePlay");
-    QTRY_VERIFY_WITH_TIMEOUT(movie.isPlaying(), patience);
+    QTRY_VERIFY(movie.isPlaying());
 }
 
 void PlaybackTest::leavingThePlaybackScreenStopsTheMovie_data()
@@ -190,7 +188,7 @@ void PlaybackTest::leavingThePlaybackScreenStopsTheMovie()
     auto &time = fixture.child<TimerWidget>();
     time.setTickInterval(20);
     fixture.click("MoviePlay");
-    QTRY_VERIFY_WITH_TIMEOUT(movie.isPlaying() && movie.currentTime() > 0, patience);
+    QTRY_VERIFY(movie.isPlaying() && movie.currentTime() > 0);
     const QSignalSpy finished(&movie, &MovieWidget::finished);
     const QSignalSpy ticks(&time, &TimerWidget::set);
     fixture.click(button.constData());
@@ -235,14 +233,14 @@ void PlaybackTest::theStillPictureStandsUntilTheMovieMoves()
     fixture.click("MovieStop");
     QTRY_VERIFY(showsTheStill());
     fixture.click("MoviePlay");
-    QTRY_VERIFY_WITH_TIMEOUT(!showsTheStill(), patience);
+    QTRY_VERIFY(!showsTheStill());
     QVERIFY(movie.isPlaying());
     fixture.click("MoviePause");
-    QTRY_VERIFY_WITH_TIMEOUT(movie.isPaused(), patience);
+    QTRY_VERIFY(movie.isPaused());
     QVERIFY(!showsTheStill());
     const QSignalSpy finished(&movie, &MovieWidget::finished);
     fixture.click("MoviePlay");
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, patience);
+    QTRY_COMPARE(finished.count(), 1);
     QTRY_VERIFY(showsTheStill());
 
     fixture.click("List");

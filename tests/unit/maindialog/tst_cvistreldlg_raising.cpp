@@ -3,18 +3,17 @@
 #include "DialogFixture.h"
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
+#include "Patience.h"
 #include "TimerWidget.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QTest>
 #include <QTimer>
 
 namespace {
 
 constexpr int fastMs = 10; // a period that tests can wait for
 constexpr int severalPeriodsMs = 150;
-constexpr int patienceMs = 5000;
 
 /** Counts how often the window looks whether it is still in front. */
 class Looks : public QObject {
@@ -90,7 +89,7 @@ void RaisingTest::aFreshWindowKeepsItselfInFront()
     DialogFixture fixture;
     fixture.build();
     const Looks looks;
-    QVERIFY(looks.goOn(patienceMs));
+    QVERIFY(looks.goOn(patience));
 }
 
 void RaisingTest::aFlowEndsTheRaising_data()
@@ -117,7 +116,7 @@ void RaisingTest::aFlowEndsTheRaising()
     before(fixture);
     fixture.dialog().start_window(fastMs);
     const Looks looks;
-    QVERIFY(looks.goOn(patienceMs));
+    QVERIFY(looks.goOn(patience));
     flow(fixture);
     QVERIFY(!looks.goOn(severalPeriodsMs));
 }
@@ -166,7 +165,7 @@ void RaisingTest::noBoxIsCovered()
     before(fixture);
     fixture.dialog().start_window(fastMs);
     const Looks looks;
-    QVERIFY(looks.goOn(patienceMs));
+    QVERIFY(looks.goOn(patience));
     const BoxWatch user(looks);
     flow(fixture);
     QVERIFY(user.boxes > 0);
@@ -189,7 +188,7 @@ void RaisingTest::theChooserIsNotCoveredAndTheRaisingGoesOnAfterwards()
     fixture.build();
     QVERIFY(fixture.dialog().isDeviceSelected());
     QVERIFY(!isCovered);
-    QVERIFY(looks.goOn(patienceMs));
+    QVERIFY(looks.goOn(patience));
 }
 
 QTEST_MAIN(RaisingTest)

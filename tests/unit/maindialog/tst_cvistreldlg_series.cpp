@@ -1,6 +1,7 @@
 #include "DialogFixture.h"
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
+#include "Patience.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
 #include "SpareTime.h"
@@ -9,7 +10,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 
 #include <algorithm>

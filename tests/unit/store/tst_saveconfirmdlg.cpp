@@ -1,10 +1,10 @@
 #include "ContextTranslator.h"
+#include "Patience.h"
 #include "SaveConfirmDlg.h"
 
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 #include <algorithm>
@@ -74,9 +74,9 @@ void SaveConfirmDlgTest::theAnswerIsTheResult()
     connect(&user, &QTimer::timeout, &dialog, [&] { answer(dialog); });
     user.start(20);
     // An answer that goes unheard must not hold up the tests.
-    QTimer patience;
-    connect(&patience, &QTimer::timeout, &dialog, [&] { dialog.done(99); });
-    patience.start(5000);
+    QTimer end;
+    connect(&end, &QTimer::timeout, &dialog, [&] { dialog.done(99); });
+    end.start(patience);
     QCOMPARE(dialog.exec(), result);
 }
 

@@ -1,0 +1,20 @@
+#ifndef PATIENCE_H
+#define PATIENCE_H
+
+#include <QTest>
+
+/// How long (ms) a test waits for what must happen but is promised no time: for as long as a busy
+/// machine may take. The test library's own five seconds are for a machine that has nothing else to
+/// do; what goes well is waited for no longer by either.
+static constexpr int patience = 30000;
+
+#undef QTRY_VERIFY
+#define QTRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT((condition), patience)
+
+#undef QTRY_VERIFY2
+#define QTRY_VERIFY2(condition, message) QTRY_VERIFY2_WITH_TIMEOUT((condition), (message), patience)
+
+#undef QTRY_COMPARE
+#define QTRY_COMPARE(actual, expected) QTRY_COMPARE_WITH_TIMEOUT((actual), expected, patience)
+
+#endif
