@@ -1,7 +1,8 @@
 #include "MovieSession.h"
-#include "Patience.h"
 
 #include "LabCommands.h"
+#include "Opening.h"
+#include "Patience.h"
 #include "MovieProbe.h"
 
 #include <QElapsedTimer>
@@ -23,8 +24,7 @@ void MovieSession::open()
     m_time = std::make_unique<SpareTime>();
     m_engine = std::make_unique<LiveVideoData>();
     QTRY_COMPARE(m_engine->GetVideoDeviceList(), QStringList{"beeper"});
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
     QTRY_VERIFY(m_engine->IsValidVideoDevice());
     QTRY_VERIFY(m_engine->IsValidAudioDevice());
 }

@@ -6,6 +6,7 @@
 #include "LabCommands.h"
 #include "LabPattern.h"
 #include "LiveVideoData.h"
+#include "Opening.h"
 #include "Patience.h"
 #include "PictureConverter.h"
 
@@ -61,8 +62,7 @@ void TestEngineLoss::init()
     m_engine->SetTarget(&m_target);
     QTRY_COMPARE(m_engine->GetVideoDeviceList(), (QStringList{"first", "second"}));
     m_engine->SetVideoDevice(0);
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
     m_engine->Start();
     QTRY_VERIFY(!targetIsBlack());
 }
@@ -131,8 +131,7 @@ void TestEngineLoss::aCameraPluggedInAgainIsFoundUnderAnyIndex()
     QVERIFY(labctl({"plug", "another", "320x240"}));
     QVERIFY(labctl({"plug", "first", "1280x720"}));
     QTRY_COMPARE(m_engine->GetVideoDeviceList(), (QStringList{"another", "first", "second"}));
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
     QCOMPARE(QSize(m_engine->nativeWidth, m_engine->nativeHeight), QSize(1280, 720));
     QVERIFY(labctl({"unplug", "another"}));
 }
@@ -225,8 +224,7 @@ void TestEngineLoss::aCameraThatSendsNothingIsNotOpened()
     QVERIFY(!m_engine->videoPresent);
     QVERIFY2(timer.elapsed() < 6000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(labctl({"thaw", "second"}));
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
     QCOMPARE(m_losses->count(), 0);
 }
 

@@ -1,6 +1,7 @@
 #include "Footprint.h"
 #include "LabCommands.h"
 #include "LiveVideoData.h"
+#include "Opening.h"
 #include "Patience.h"
 
 #include <QFrame>
@@ -19,8 +20,7 @@ namespace {
 // Opens the camera, loses it, gives it up as the window does, and plugs it in again.
 void loseAndFindAgain(LiveVideoData &engine)
 {
-    engine.Create();
-    QVERIFY(engine.created);
+    QVERIFY(opens(engine));
     engine.Start();
     const QSignalSpy losses(&engine, &LiveVideoData::disconnectDevice);
     QVERIFY(labctl({"unplug", "first"}));

@@ -1,5 +1,6 @@
 #include "LabCommands.h"
 #include "LiveVideoData.h"
+#include "Opening.h"
 #include "Patience.h"
 
 #include <QFile>
@@ -252,8 +253,7 @@ void TestEngineStates::aListIsNoCameraBeyondItsEnd()
     QVERIFY(!m_engine->videoPresent);
     QVERIFY(m_engine->supported);
     m_engine->SetVideoDevice(0);
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
 }
 
 void TestEngineStates::theSlotsMayBeCalledAtAnyTime()

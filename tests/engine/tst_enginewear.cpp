@@ -1,5 +1,6 @@
 #include "Footprint.h"
 #include "LiveVideoData.h"
+#include "Opening.h"
 #include "Patience.h"
 
 #include <QFrame>
@@ -14,8 +15,7 @@ private Q_SLOTS:
 
 static void openAndClose(LiveVideoData &engine)
 {
-    engine.Create();
-    QVERIFY(engine.created);
+    QVERIFY(opens(engine));
     engine.Start();
     QTest::qWait(20); // nothing to wait for: a short use, which may end before a picture came
     engine.Stop();

@@ -1,6 +1,7 @@
 #include "Footprint.h"
 #include "LabCommands.h"
 #include "LiveVideoData.h"
+#include "Opening.h"
 #include "Patience.h"
 
 #include <QElapsedTimer>
@@ -58,8 +59,7 @@ void TestHangingServer::theListComesInTimeAndTheCamerasLater()
     QCOMPARE(::kill(pid_t(m_server), SIGCONT), 0);
     QTRY_COMPARE(engine.GetVideoDeviceList(), QStringList{"first"});
     QTRY_VERIFY((engine.GetVideoDeviceList(), engine.IsListComplete()));
-    engine.Create();
-    QVERIFY(engine.created);
+    QVERIFY(opens(engine));
 }
 
 // The milliseconds that @p call takes.
@@ -75,8 +75,7 @@ template <typename Call> static qint64 timeOf(Call call)
 void TestHangingServer::loseToHangingServer(LiveVideoData &engine)
 {
     QTRY_COMPARE(engine.GetVideoDeviceList(), QStringList{"first"});
-    engine.Create();
-    QVERIFY(engine.created);
+    QVERIFY(opens(engine));
     const QSignalSpy losses(&engine, &LiveVideoData::disconnectDevice);
     QVERIFY(labctl({"hang-media-server"}));
     const qint64 listing = timeOf([&] { engine.GetVideoDeviceList(); });

@@ -2,6 +2,7 @@
 #include "LiveVideoData.h"
 #include "MovieFile.h"
 #include "MovieProbe.h"
+#include "Opening.h"
 #include "Patience.h"
 #include "SpareTime.h"
 
@@ -54,8 +55,7 @@ void TestMovieCameras::plug(const QStringList &options)
     QVERIFY(labctl(QStringList{"plug", "camera"} + options + QStringList{"--beep", "micfeed"}));
     m_engine = std::make_unique<LiveVideoData>();
     QTRY_COMPARE(m_engine->GetVideoDeviceList(), QStringList{"camera"});
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
     QTRY_VERIFY(m_engine->IsValidAudioDevice());
 }
 
@@ -163,8 +163,7 @@ void TestMovieCameras::aMovieThatIsRefusedLeavesNothingBehind()
     QVERIFY(m_engine->created);
     m_engine->RecordStop();
     m_engine->Release();
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
     const double length = record(1000);
     verifySpan(MovieFile(m_path), length, 30);
 }

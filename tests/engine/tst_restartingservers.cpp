@@ -2,6 +2,7 @@
 #include "LabCommands.h"
 #include "LiveVideoData.h"
 #include "MovieFile.h"
+#include "Opening.h"
 #include "Patience.h"
 
 #include <QElapsedTimer>
@@ -87,8 +88,7 @@ void TestRestartingServers::open()
 {
     QElapsedTimer timer;
     timer.start();
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
     QVERIFY2(timer.elapsed() < 4000, qPrintable(QString::number(timer.elapsed())));
     m_engine->Start();
     m_losses->clear();
