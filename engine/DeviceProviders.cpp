@@ -236,9 +236,22 @@ void DeviceProviders::start(steady_clock::time_point deadline)
     awaitStart(all.mediaServer, deadline);
 }
 
-bool DeviceProviders::haveAnswered()
+static DeviceProviders::Answer answerOf(const Source &source)
 {
-    return !sources().videoNodes.task && !sources().mediaServer.task;
+    using Answer = DeviceProviders::Answer;
+    if (source.task)
+        return Answer::Late;
+    return source.provider ? Answer::Given : Answer::None;
+}
+
+DeviceProviders::Answer DeviceProviders::videoNodes()
+{
+    return answerOf(sources().videoNodes);
+}
+
+DeviceProviders::Answer DeviceProviders::mediaServer()
+{
+    return answerOf(sources().mediaServer);
 }
 
 static QVector<CameraHandle> camerasOf(const Source &source)

@@ -36,8 +36,13 @@ public:
     /// Starts every provider that does not run yet; waits for them until @p deadline at most.
     static void start(std::chrono::steady_clock::time_point deadline);
 
-    /// The last start() has not left any that is still being started.
-    static bool haveAnswered();
+    enum class Answer {
+        None, ///< there is no such source on this machine
+        Late, ///< it was asked and has not answered yet
+        Given
+    };
+    static Answer videoNodes();
+    static Answer mediaServer();
 
     /// All cameras that are there, the demonstration last if it is wanted.
     static QVector<CameraHandle> cameras();

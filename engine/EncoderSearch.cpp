@@ -29,13 +29,14 @@ public:
     void search(); ///< the trials, best first
     bool waitUntilDecided(steady_clock::time_point deadline);
     MovieEncoding best();
+    EncoderFindings findings();
     void reject(const QByteArray &video);
 
 private:
-    enum class Verdict { Unknown, Works, Fails };
+    using Verdict = EncoderFinding::Verdict;
     struct Candidate {
         Encoder encoder;
-        Verdict verdict = Verdict::Unknown;
+        Verdict verdict = Verdict::Untried;
         double frameTime = 0; ///< s
     };
     using Candidates = std::vector<Candidate>;
@@ -43,12 +44,15 @@ private:
     static Candidates existing(const QVector<Encoder> &encoders);
     static const Candidate *bestOf(const Candidates &candidates);
     static bool isDecided(const Candidates &candidates);
+    static QVector<EncoderFinding> findingsOf(const QVector<Encoder> &encoders,
+                                              const Candidates &candidates);
     void recall();
     void remember();
     void tryOut(Candidates State::*kind, const QByteArray &source);
     void judge(Candidates State::*kind, size_t index, double frameTime);
 
     const QSize m_size;
+    const double m_rate;
     QByteArray m_key; ///< of the cache
 
     std::mutex m_mutex; ///< guards the candidates
@@ -59,6 +63,7 @@ private:
 
 EncoderSearch::State::State(const QSize &size, double rate)
     : m_size(size)
+    , m_rate(rate)
     , m_video(existing(videoEncoders(size, rate)))
     , m_sound(existing(soundEncoders()))
 {
@@ -121,6 +126,27 @@ MovieEncoding EncoderSearch::State::best()
     return encoding;
 }
 
+QVector<EncoderFinding> EncoderSearch::State::findingsOf(const QVector<Encoder> &encoders,
+                                                         const Candidates &candidates)
+{
+    QVector<EncoderFinding> findings;
+    for (const Encoder &encoder : encoders) {
+        EncoderFinding finding{encoder.element};
+        for (const Candidate &candidate : candidates)
+            if (candidate.encoder.element == encoder.element)
+                finding = {encoder.element, candidate.verdict, candidate.frameTime};
+        findings.append(finding);
+    }
+    return findings;
+}
+
+EncoderFindings EncoderSearch::State::findings()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return {findingsOf(videoEncoders(m_size, m_rate), m_video),
+            findingsOf(soundEncoders(), m_sound)};
+}
+
 void EncoderSearch::State::reject(const QByteArray &video)
 {
     EncoderCache::forget();
@@ -173,7 +199,7 @@ void EncoderSearch::State::judge(Candidates State::*kind, size_t index, double f
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     Candidate &candidate = (this->*kind)[index];
-    if (candidate.verdict != Verdict::Unknown)
+    if (candidate.verdict != Verdict::Untried)
         return;
     candidate.verdict = frameTime < 0 ? Verdict::Fails : Verdict::Works;
     candidate.frameTime = qMax(0.0, frameTime);
@@ -244,6 +270,11 @@ MovieEncoding EncoderSearch::waitUntil(steady_clock::time_point deadline) const
     qCInfo(engineLog) << "movies are written with" << encoding.video << "and" << encoding.sound
                       << "smaller by" << encoding.divisor;
     return encoding;
+}
+
+EncoderFindings EncoderSearch::findings() const
+{
+    return m_state->findings();
 }
 
 void EncoderSearch::reject(const QByteArray &video)

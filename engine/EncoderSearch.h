@@ -7,6 +7,27 @@
 #include <chrono>
 #include <memory>
 
+/// What is known of an encoder that comes into question.
+struct EncoderFinding {
+    enum class Verdict {
+        Missing, ///< this machine does not have it
+        Untried, ///< or its trial has not ended; none is tried that is not better than one that
+                 ///< works
+        Works,
+        Fails
+    };
+
+    QByteArray element; ///< that does the work, "x264enc"
+    Verdict verdict = Verdict::Missing;
+    double frameTime = 0; ///< s that it needs for a frame; 0 when that is not known
+};
+
+/// Each best first.
+struct EncoderFindings {
+    QVector<EncoderFinding> video;
+    QVector<EncoderFinding> sound;
+};
+
 /**
  * The search for the best encoder of one camera mode. Whether one works is found by letting it
  * encode a few frames: graphics drivers offer encoders that then fail. That takes a moment and may
@@ -28,6 +49,9 @@ public:
 
     /// True when all has been tried and is remembered at @p deadline, or earlier.
     bool hasEnded(std::chrono::steady_clock::time_point deadline) const;
+
+    /// What is known by now of all that come into question.
+    EncoderFindings findings() const;
 
     /// The encoder @p video failed in a movie: it is not taken again.
     void reject(const QByteArray &video);

@@ -14,6 +14,7 @@
 #include "MovieMaker.h"
 #include "PatientWait.h"
 #include "PictureConverter.h"
+#include "SoundServer.h"
 #include "StillWriter.h"
 #include "TargetPainter.h"
 
@@ -215,7 +216,11 @@ QStringList LiveVideoData::GetVideoDeviceList()
 
 bool LiveVideoData::IsListComplete() const
 {
-    return DeviceProviders::haveAnswered() && MicrophoneFinder::hasAnswered();
+    using Answer = DeviceProviders::Answer;
+    const SoundServer &sound = MicrophoneFinder::server();
+    return DeviceProviders::videoNodes() != Answer::Late
+        && DeviceProviders::mediaServer() != Answer::Late
+        && (!sound.isThere() || sound.hasAnswered());
 }
 
 void LiveVideoData::SetVideoDevice(int index)

@@ -43,9 +43,9 @@ void MicrophoneFinder::waitUntil(steady_clock::time_point deadline)
     soundServer().waitUntil(deadline);
 }
 
-bool MicrophoneFinder::hasAnswered()
+const SoundServer &MicrophoneFinder::server()
 {
-    return soundServer().hasAnswered();
+    return soundServer();
 }
 
 std::optional<SoundSource> MicrophoneFinder::source()

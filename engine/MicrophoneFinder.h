@@ -12,6 +12,8 @@
 #include <memory>
 #include <optional>
 
+class SoundServer;
+
 /**
  * Whether there is a microphone, which source it is, and whether it can be used now.
  *
@@ -38,8 +40,8 @@ public:
     /// Waits until @p deadline at most for that answer.
     static void waitUntil(std::chrono::steady_clock::time_point deadline);
 
-    /// It has come, or there is no sound server.
-    static bool hasAnswered();
+    /// The one that all ask, for whoever wants to know more of it.
+    static const SoundServer &server();
 
     /// What a movie is to listen to; empty when there is no microphone. Without a sound server
     /// there is always one to try.

@@ -3,6 +3,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <array>
 #include <tuple>
 
 static qint64 area(const QSize &size)
@@ -19,14 +20,22 @@ static int formatRank(const QByteArray &format)
 }
 
 // Larger is better, member by member.
-static auto merit(const CameraMode &mode)
+using Merit = std::array<double, 8>;
+
+static Merit meritOf(const CameraMode &mode)
 {
     const double rate = mode.rate();
     const bool smooth = rate >= 24;
     const bool fits = mode.width <= 1920 && mode.height <= 1080;
-    return std::make_tuple(!mode.isGrey(), smooth, smooth ? 0.0 : rate, fits,
-                           fits ? area(mode.size()) : -area(mode.size()), -qAbs(rate - 30),
-                           mode.encoding == CameraMode::Encoding::Raw, -formatRank(mode.format));
+    const double size = double(area(mode.size()));
+    return {double(!mode.isGrey()),
+            double(smooth),
+            smooth ? 0.0 : rate,
+            double(fits),
+            fits ? size : -size,
+            -qAbs(rate - 30),
+            double(mode.encoding == CameraMode::Encoding::Raw),
+            -double(formatRank(mode.format))};
 }
 
 int bestMode(const QVector<CameraMode> &modes, const QSize &wanted)
@@ -35,10 +44,29 @@ int bestMode(const QVector<CameraMode> &modes, const QSize &wanted)
     for (int i = 0; i < modes.size(); ++i) {
         if (!wanted.isEmpty() && modes.at(i).size() != wanted)
             continue;
-        if (best < 0 || merit(modes.at(best)) < merit(modes.at(i)))
+        if (best < 0 || meritOf(modes.at(best)) < meritOf(modes.at(i)))
             best = i;
     }
     return best;
+}
+
+QByteArray advantageOf(const CameraMode &mode, const CameraMode &other)
+{
+    static const std::array<const char *, std::tuple_size<Merit>::value> names{
+        "colours",
+        "at least 24 frames a second",
+        "more frames a second",
+        "a size of at most 1920x1080",
+        "the better size",
+        "a rate nearer to 30 frames a second",
+        "no JPEG to decode",
+        "a format that is quick to convert"};
+    const Merit merit = meritOf(mode);
+    const Merit rival = meritOf(other);
+    const auto differ = std::mismatch(merit.begin(), merit.end(), rival.begin());
+    if (differ.first == merit.end() || *differ.first < *differ.second)
+        return {};
+    return names[size_t(std::distance(merit.begin(), differ.first))];
 }
 
 QStringList resolutionNames(const QVector<CameraMode> &modes)

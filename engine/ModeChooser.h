@@ -16,6 +16,10 @@
  */
 int bestMode(const QVector<CameraMode> &modes, const QSize &wanted = {});
 
+/// In what @p mode is better than @p other, in a few words that follow "it has": the first
+/// thing that bestMode() looks at in which they differ. Empty when @p mode is not better.
+QByteArray advantageOf(const CameraMode &mode, const CameraMode &other);
+
 /// The sizes among @p modes, "1280x720", each once, largest first.
 QStringList resolutionNames(const QVector<CameraMode> &modes);
 

@@ -6,6 +6,7 @@
 
 #include <QMap>
 
+#include <algorithm>
 #include <condition_variable>
 #include <mutex>
 #include <pulse/pulseaudio.h>
@@ -28,6 +29,8 @@ public:
     bool waitUntil(steady_clock::time_point deadline) const; ///< listed, or ended
     State state() const;
     QByteArray microphone() const;
+    QString serverName() const;
+    QVector<ListedSource> sources() const;
 
 private:
     static void onState(pa_context *context, void *client);
@@ -43,12 +46,15 @@ private:
 
     // The connection's thread only: the list that is being heard.
     QByteArray m_heardDefault;
-    QMap<QByteArray, bool> m_heard; ///< by name; true for a microphone
+    QString m_heardServer;
+    QMap<QByteArray, ListedSource> m_heard; ///< by name
 
     mutable std::mutex m_mutex; ///< guards everything below
     mutable std::condition_variable m_entered;
     State m_state = State::Connecting;
     QByteArray m_microphone;
+    QString m_server;
+    QVector<ListedSource> m_sources;
 };
 
 // The answer comes by itself.
@@ -124,7 +130,22 @@ void SoundServer::Client::onServer(pa_context *context, const pa_server_info *se
 {
     auto *const self = static_cast<Client *>(client);
     self->m_heardDefault = server ? QByteArray(server->default_source_name) : QByteArray();
+    self->m_heardServer = server
+        ? QStringLiteral("%1 %2").arg(QString::fromUtf8(server->server_name),
+                                      QString::fromUtf8(server->server_version))
+        : QString();
     ask(pa_context_get_source_info_list(context, onSource, self));
+}
+
+static ListedSource listed(const pa_source_info &source)
+{
+    const char *serial = pa_proplist_gets(source.proplist, "device.serial");
+    return {source.name,
+            QString::fromUtf8(source.description),
+            QString::fromUtf8(serial),
+            source.monitor_of_sink == PA_INVALID_INDEX,
+            int(source.sample_spec.rate),
+            source.sample_spec.channels};
 }
 
 void SoundServer::Client::onSource(pa_context *, const pa_source_info *source, int end,
@@ -132,7 +153,7 @@ void SoundServer::Client::onSource(pa_context *, const pa_source_info *source, i
 {
     auto *const self = static_cast<Client *>(client);
     if (end == 0)
-        self->m_heard.insert(source->name, source->monitor_of_sink == PA_INVALID_INDEX);
+        self->m_heard.insert(source->name, listed(*source));
     else
         self->takeList();
 }
@@ -150,14 +171,24 @@ void SoundServer::Client::enter(State state)
         m_changed();
 }
 
+static QByteArray microphoneAmong(const QMap<QByteArray, ListedSource> &sources,
+                                  const QByteArray &usual)
+{
+    if (sources.value(usual).isMicrophone)
+        return usual;
+    const auto first = std::find_if(sources.begin(), sources.end(),
+                                    [](const ListedSource &source) { return source.isMicrophone; });
+    return first == sources.end() ? QByteArray() : first.key();
+}
+
 void SoundServer::Client::takeList()
 {
-    const QMap<QByteArray, bool> sources = std::exchange(m_heard, {});
-    const QByteArray microphone =
-        sources.value(m_heardDefault) ? m_heardDefault : sources.key(true);
+    const QMap<QByteArray, ListedSource> sources = std::exchange(m_heard, {});
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_microphone = microphone;
+        m_microphone = microphoneAmong(sources, m_heardDefault);
+        m_server = m_heardServer;
+        m_sources = sources.values().toVector();
     }
     enter(State::Listed);
 }
@@ -183,6 +214,18 @@ QByteArray SoundServer::Client::microphone() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_state == State::Listed ? m_microphone : QByteArray();
+}
+
+QString SoundServer::Client::serverName() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_state == State::Listed ? m_server : QString();
+}
+
+QVector<ListedSource> SoundServer::Client::sources() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_state == State::Listed ? m_sources : QVector<ListedSource>();
 }
 
 SoundServer::SoundServer(std::function<void()> changed)
@@ -217,14 +260,24 @@ void SoundServer::waitUntil(steady_clock::time_point deadline) const
         qCWarning(engineLog, "the sound server does not answer");
 }
 
-bool SoundServer::hasAnswered() const
-{
-    return m_client->state() != Client::State::Connecting;
-}
-
 bool SoundServer::isThere() const
 {
     return m_client && m_client->state() != Client::State::Ended;
+}
+
+bool SoundServer::hasAnswered() const
+{
+    return m_client && m_client->state() == Client::State::Listed;
+}
+
+QString SoundServer::serverName() const
+{
+    return m_client ? m_client->serverName() : QString();
+}
+
+QVector<ListedSource> SoundServer::sources() const
+{
+    return m_client ? m_client->sources() : QVector<ListedSource>();
 }
 
 QByteArray SoundServer::microphone() const

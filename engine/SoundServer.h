@@ -2,10 +2,22 @@
 #define SOUNDSERVER_H
 
 #include <QByteArray>
+#include <QString>
+#include <QVector>
 
 #include <chrono>
 #include <functional>
 #include <memory>
+
+/// One of the sound server's sources.
+struct ListedSource {
+    QByteArray name; ///< the server's own for it; with some servers the device's serial is in it
+    QString description; ///< what a user knows it by
+    QString serial; ///< of the device, often empty
+    bool isMicrophone = false; ///< and no loudspeaker's monitor
+    int rate = 0; ///< sample frames a second
+    int channels = 0;
+};
 
 /**
  * The sound server as far as microphones go: whether it is there, and which of its sources is the
@@ -32,11 +44,17 @@ public:
     /// Only after begin().
     void waitUntil(std::chrono::steady_clock::time_point deadline) const;
 
-    /// The list of sources has come, or it is known that there is no server. Only after begin().
-    bool hasAnswered() const;
-
     /// One that does not answer counts.
     bool isThere() const;
+
+    /// It has said by now what it has. False without a server, too.
+    bool hasAnswered() const;
+
+    /// What the server calls itself, with its version; empty until it has answered.
+    QString serverName() const;
+
+    /// All sources that were heard of last, by name.
+    QVector<ListedSource> sources() const;
 
     /// The name of the source to listen to: the server's default, or when that is a loudspeaker's
     /// monitor the first by name that is none. Empty when there is no such source.

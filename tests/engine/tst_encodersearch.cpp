@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QMap>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -149,6 +150,7 @@ private Q_SLOTS:
     void theBitRateFitsSizeAndRate();
     void aDriversEncoderThatDoesNotWorkIsPassedOver_data();
     void aDriversEncoderThatDoesNotWorkIsPassedOver();
+    void whatIsKnownOfEachEncoderIsTold();
     void aDriverThatHangsKeepsNoMovieFromBeginning();
     void aDriverThatIsMerelySlowIsTakenInTheEnd();
     void whatFailedIsRememberedForTheNextStart();
@@ -251,6 +253,27 @@ void TestEncoderSearch::aDriversEncoderThatDoesNotWorkIsPassedOver()
     withoutElements({"vah264enc"});
     QVERIFY2(encoding.video.startsWith("x264enc "), encoding.video.constData());
     QVERIFY(encoding.isComplete());
+}
+
+void TestEncoderSearch::whatIsKnownOfEachEncoderIsTold()
+{
+    using Verdict = EncoderFinding::Verdict;
+    defect = Defect::Fails;
+    plugDriverIn(useless_encoder_get_type());
+    const EncoderSearch search({640, 480}, 30);
+    QVERIFY(search.hasEnded(steady_clock::now() + seconds(20)));
+    withoutElements({"vah264enc"});
+    QMap<QByteArray, EncoderFinding> found;
+    for (const EncoderFinding &finding : search.findings().video + search.findings().sound)
+        found[finding.element] = finding;
+    QVERIFY(found["vah264enc"].verdict == Verdict::Fails);
+    QVERIFY(found["v4l2h264enc"].verdict == Verdict::Missing);
+    QVERIFY(found["x264enc"].verdict == Verdict::Works);
+    QVERIFY(found["x264enc"].frameTime > 0);
+    QVERIFY2(found["jpegenc"].verdict == Verdict::Untried, "one that is better works");
+    QVERIFY(found["avenc_aac"].verdict == Verdict::Works);
+    QCOMPARE(search.findings().video.size(), videoEncoders({640, 480}, 30).size());
+    QCOMPARE(search.findings().sound.first().element, soundEncoders().first().element);
 }
 
 void TestEncoderSearch::aDriverThatHangsKeepsNoMovieFromBeginning()

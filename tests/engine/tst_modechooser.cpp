@@ -27,6 +27,8 @@ private Q_SLOTS:
     void aCameraWithoutModesHasNoBestOne();
     void onlyModesOfTheWantedSizeCount();
     void eachSizeIsNamedOnceAndTheLargestFirst();
+    void theFirstDifferenceThatCountsIsNamed_data();
+    void theFirstDifferenceThatCountsIsNamed();
 };
 
 void TestModeChooser::theBestModeIsChosen_data()
@@ -96,6 +98,38 @@ void TestModeChooser::eachSizeIsNamedOnceAndTheLargestFirst()
                                     raw(1280, 720, 5)};
     QCOMPARE(resolutionNames(modes), (QStringList{"1920x1080", "1280x720", "640x480"}));
     QCOMPARE(resolutionNames({}), QStringList());
+}
+
+void TestModeChooser::theFirstDifferenceThatCountsIsNamed_data()
+{
+    QTest::addColumn<CameraMode>("chosen");
+    QTest::addColumn<CameraMode>("other");
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("colours") << raw(640, 480, 15) << raw(1920, 1080, 30, "GRAY8")
+                             << QByteArray("colours");
+    QTest::newRow("smooth") << jpeg(640, 480, 30) << raw(1920, 1080, 5)
+                            << QByteArray("at least 24 frames a second");
+    QTest::newRow("less slow") << raw(640, 480, 15) << raw(1920, 1080, 5)
+                               << QByteArray("more frames a second");
+    QTest::newRow("not too large")
+        << raw(640, 480, 30) << jpeg(3840, 2160, 30) << QByteArray("a size of at most 1920x1080");
+    QTest::newRow("larger") << jpeg(1280, 720, 60) << raw(640, 480, 30) << QByteArray("the better size");
+    QTest::newRow("not faster than needed") << jpeg(640, 480, 30) << raw(640, 480, 60)
+                                            << QByteArray("a rate nearer to 30 frames a second");
+    QTest::newRow("raw") << raw(640, 480, 30, "BGR") << jpeg(640, 480, 30)
+                         << QByteArray("no JPEG to decode");
+    QTest::newRow("quick") << raw(640, 480, 30, "YUY2") << raw(640, 480, 30, "NV12")
+                           << QByteArray("a format that is quick to convert");
+}
+
+void TestModeChooser::theFirstDifferenceThatCountsIsNamed()
+{
+    QFETCH(CameraMode, chosen);
+    QFETCH(CameraMode, other);
+    QTEST(advantageOf(chosen, other), "name");
+    QCOMPARE(advantageOf(other, chosen), QByteArray());
+    QCOMPARE(advantageOf(chosen, chosen), QByteArray());
+    QCOMPARE(bestMode({other, chosen}), 1);
 }
 
 QTEST_GUILESS_MAIN(TestModeChooser)

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void theDefaultSourceIsTheMicrophone();
     void aMonitorAsTheDefaultIsPassedOverForTheFirstByName();
     void monitorsAloneAreNoMicrophone();
+    void everySourceIsListedAsAUserKnowsIt();
     void everyChangeIsTold();
     void theEndOfTheServerIsToldAndTheNextStartFindsTheNewOne();
 
@@ -107,6 +108,25 @@ void TestSoundServer::monitorsAloneAreNoMicrophone()
     QVERIFY(m_server->isThere());
     QVERIFY(labctl({"microphone", "on"}));
     QTRY_COMPARE(m_server->microphone(), QByteArray("labmic"));
+}
+
+void TestSoundServer::everySourceIsListedAsAUserKnowsIt()
+{
+    QVERIFY(m_server->hasAnswered());
+    QVERIFY2(m_server->serverName().contains("PipeWire"), qPrintable(m_server->serverName()));
+    const auto named = [this](const QByteArray &name) {
+        for (const ListedSource &source : m_server->sources())
+            if (source.name == name)
+                return source;
+        return ListedSource();
+    };
+    QTRY_COMPARE(named("labmic").description, QString("LabMicrophone"));
+    QVERIFY(named("labmic").isMicrophone);
+    QVERIFY(named("labmic").rate > 0 && named("labmic").channels > 0);
+    QCOMPARE(named("labspeaker.monitor").name, QByteArray("labspeaker.monitor"));
+    QVERIFY(!named("labspeaker.monitor").isMicrophone);
+    const SoundServer unasked([] {});
+    QVERIFY(!unasked.hasAnswered() && unasked.sources().isEmpty());
 }
 
 void TestSoundServer::everyChangeIsTold()
