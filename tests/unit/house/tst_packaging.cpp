@@ -124,6 +124,8 @@ void TestPackaging::everyPlaceTellsTheSameVersion_data()
     QTest::newRow("software centres") << metainfo << "<release version=\"([\\d.]+)\"";
     QTest::newRow("manual page") << "packaging/desktop/orvanta.1"
                                  << "^\\.TH .*\"Orvanta ([\\d.]+)\"";
+    QTest::newRow("manual page of the report") << "packaging/desktop/orvanta-report.1"
+                                               << "^\\.TH .*\"Orvanta ([\\d.]+)\"";
 }
 
 void TestPackaging::everyPlaceTellsTheSameVersion()
