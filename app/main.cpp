@@ -37,6 +37,15 @@ int runWindow()
     return QtSingleApplication::exec();
 }
 
+// Only an X server lets a window stand where it wants and come back in front. Every Wayland desktop
+// has one for its guests, while the toolkit, left alone, would do without.
+void preferX11()
+{
+    const QByteArray wanted = qgetenv("QT_QPA_PLATFORM");
+    if (wanted.isEmpty() || wanted.startsWith("wayland"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -50,6 +59,7 @@ int main(int argc, char **argv)
     // it, which takes a third of the start and 47 MB where the driver is one of software.
     qputenv("QT_XCB_GL_INTEGRATION", "none");
 
+    preferX11();
     LayoutScale::apply();
     // A dock tells by the class of a window whose it is, and takes name and icon from the program's
     // entry in the menu; left alone the class would be the name of the file that was started. One

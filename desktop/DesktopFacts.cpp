@@ -1,5 +1,7 @@
 #include "DesktopFacts.h"
 
+#include <QX11Info>
+
 #include <algorithm>
 #include <memory>
 
@@ -123,6 +125,11 @@ DesktopScreen DesktopFacts::primary() const
     const auto found = std::find_if(screens.begin(), screens.end(),
                                     [](const DesktopScreen &screen) { return screen.isPrimary; });
     return found != screens.end() ? *found : screens.value(0);
+}
+
+DesktopFacts ownDesktop()
+{
+    return QX11Info::isPlatformX11() ? readDesktop() : DesktopFacts();
 }
 
 DesktopFacts readDesktop()

@@ -30,6 +30,10 @@ struct DesktopFacts {
     DesktopScreen primary() const;
 };
 
+/// The desktop that the program's own windows stand on, which is there on X11 only. For a program
+/// with an application object.
+DesktopFacts ownDesktop();
+
 /// Asks the X server that DISPLAY names, over a connection of its own. Needs no application object.
 /// Waits for a server that hangs as long as that takes. One thread at a time.
 DesktopFacts readDesktop();

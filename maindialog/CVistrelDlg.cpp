@@ -4,6 +4,8 @@
 #include "CVistrelDlg.h"
 
 #include "CStretchBitmapButton.h"
+#include "DesktopFacts.h"
+#include "DesktopLog.h"
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
 #include "PictureListView.h"
@@ -164,6 +166,21 @@ void CVistrelDlg::setWindowLook()
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setWindowTitle(tr("Orvanta"));
     setWindowIcon(QIcon(QStringLiteral(":/res/Vistrel.ico")));
+    askForTheScreen(ownDesktop());
+}
+
+// A Wayland compositor puts the windows of its guests where it likes. Only one that wants all of
+// the screen gets its place.
+void CVistrelDlg::askForTheScreen(const DesktopFacts &desktop)
+{
+    if (!desktop.isOnWayland)
+        return;
+    qCWarning(desktopLog,
+              "this is a Wayland desktop (%s): it decides where the window stands and "
+              "whether it comes back in front of others",
+              qPrintable(desktop.windowManager));
+    if (m_screen == QGuiApplication::primaryScreen()->geometry())
+        setWindowState(Qt::WindowFullScreen);
 }
 
 void CVistrelDlg::showFirstScreen()

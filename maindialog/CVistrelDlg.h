@@ -16,6 +16,7 @@
 #include <initializer_list>
 
 class CStretchBitmapButton;
+struct DesktopFacts;
 class LiveVideoWidget;
 class MovieWidget;
 class PictureListView;
@@ -195,6 +196,7 @@ private:
     void SetButtonCaptionText();
     void SetChildInstance();
     void setWindowLook();
+    void askForTheScreen(const DesktopFacts &desktop);
     void showFirstScreen();
     void SetBaseRect();
     void tellUsualSizes();

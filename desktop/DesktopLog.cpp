@@ -1,0 +1,3 @@
+#include "DesktopLog.h"
+
+Q_LOGGING_CATEGORY(desktopLog, "orvanta.desktop", QtWarningMsg)
