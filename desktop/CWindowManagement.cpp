@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include <xcb/xcb.h>
+
 // Xlib defines macros as common as Bool and None: it comes after every header of Qt.
 #include <X11/Xlib.h>
 
@@ -72,6 +74,7 @@ void CWindowManagement::update_window()
     if (m_raiseParents)
         raiseParentWidgetTop(m_widget->parentWidget());
     raiseQtWindowTop(m_widget->winId());
+    askForTop(m_widget->window()->winId());
 }
 
 bool CWindowManagement::hasBeenOnScreen()
@@ -108,6 +111,35 @@ void CWindowManagement::raiseQtWindowTop(unsigned long windowId)
     if (frame)
         raiseWindowTop(frame);
     raiseWindowTop(windowId);
+}
+
+// As a taskbar does it: what a program asks for itself may be declined, because it is not the one
+// that the user is working with.
+void CWindowManagement::askForTop(unsigned long windowId)
+{
+    static constexpr uint32_t fromTaskbar = 2;
+    static constexpr char name[] = "_NET_RESTACK_WINDOW";
+    xcb_connection_t *connection = QX11Info::isPlatformX11() ? QX11Info::connection() : nullptr;
+    if (!connection)
+        return;
+    static const xcb_atom_t restack = [connection] {
+        const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&free)> reply(
+            xcb_intern_atom_reply(
+                connection, xcb_intern_atom(connection, 0, sizeof name - 1, name), nullptr),
+            free);
+        return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+    }();
+    xcb_client_message_event_t request = {};
+    request.response_type = XCB_CLIENT_MESSAGE;
+    request.format = 32;
+    request.window = xcb_window_t(windowId);
+    request.type = restack;
+    request.data.data32[0] = fromTaskbar;
+    request.data.data32[2] = XCB_STACK_MODE_ABOVE; // of all, as none is named
+    xcb_send_event(connection, 0, xcb_window_t(QX11Info::appRootWindow()),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char *>(&request));
+    xcb_flush(connection);
 }
 
 void CWindowManagement::raiseWindowTop(unsigned long windowId)

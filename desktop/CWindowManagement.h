@@ -45,6 +45,11 @@ public:
     void raiseParentWidgetTop(QWidget *widget);
     /// Raises a client window together with the window manager's frame around it.
     void raiseQtWindowTop(unsigned long windowId);
+    /// Asks the window manager to raise a window of its own. One that puts windows into frames of
+    /// several layers, or draws all of the screen itself, goes by its own list of who is in front,
+    /// whatever the X server was told. Without one, or with one that does not know the request,
+    /// nothing happens.
+    static void askForTop(unsigned long windowId);
     /// Raises one X window, whether the window manager agrees or not.
     void raiseWindowTop(unsigned long windowId);
 
