@@ -3,6 +3,9 @@
 #include <QColor>
 #include <QTest>
 
+#include <algorithm>
+#include <iterator>
+
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -55,30 +58,36 @@ QRect geometryOnScreen(Display *display, ::Window window)
 
 Desktop::Desktop()
     : m_display(XOpenDisplay(nullptr))
+    , m_screen(m_display)
 {
     XSetErrorHandler(ignoreError);
+    const QByteArray screen = qgetenv("ORVANTA_LAB_SCREEN");
+    if (m_display && !screen.isEmpty())
+        m_screen = XOpenDisplay(screen.constData());
 }
 
 Desktop::~Desktop()
 {
+    if (m_screen && m_screen != m_display)
+        XCloseDisplay(m_screen);
     if (m_display)
         XCloseDisplay(m_display);
 }
 
 QRect Desktop::screen() const
 {
-    if (!m_display)
+    if (!m_screen)
         return {};
-    const int number = DefaultScreen(m_display);
-    return {0, 0, DisplayWidth(m_display, number), DisplayHeight(m_display, number)};
+    const int number = DefaultScreen(m_screen);
+    return {0, 0, DisplayWidth(m_screen, number), DisplayHeight(m_screen, number)};
 }
 
 QImage Desktop::screenshot() const
 {
-    if (!m_display)
+    if (!m_screen)
         return {};
     XImage *shot =
-        XGetImage(m_display, DefaultRootWindow(m_display), 0, 0, unsigned(screen().width()),
+        XGetImage(m_screen, DefaultRootWindow(m_screen), 0, 0, unsigned(screen().width()),
                   unsigned(screen().height()), AllPlanes, ZPixmap);
     if (!shot)
         return {};
@@ -98,15 +107,58 @@ QColor Desktop::pixel(QPoint at) const
     return picture.valid(at) ? picture.pixelColor(at) : QColor();
 }
 
+QVector<quint32> Desktop::childrenOf(quint32 window) const
+{
+    ::Window root = 0;
+    ::Window parent = 0;
+    ::Window *children = nullptr;
+    unsigned count = 0;
+    QVector<quint32> found;
+    if (XQueryTree(m_display, window, &root, &parent, &children, &count))
+        std::transform(children, children + count, std::back_inserter(found),
+                       [](::Window child) { return quint32(child); });
+    if (children)
+        XFree(children);
+    return found;
+}
+
+// Of all windows that a program has named as its own, one frame around them looked through.
+QVector<quint32> Desktop::stacking() const
+{
+    const auto root = quint32(DefaultRootWindow(m_display));
+    QVector<quint32> listed = cardinals(root, "_NET_CLIENT_LIST_STACKING");
+    if (!listed.isEmpty())
+        return listed;
+    for (const quint32 child : childrenOf(root)) {
+        QVector<quint32> both = childrenOf(child);
+        both.append(child);
+        for (const quint32 window : both)
+            if (!cardinals(window, "_NET_WM_PID").isEmpty())
+                listed.append(window);
+    }
+    return listed;
+}
+
+quint32 Desktop::activeWindow() const
+{
+    const auto root = quint32(DefaultRootWindow(m_display));
+    const QVector<quint32> told = cardinals(root, "_NET_ACTIVE_WINDOW");
+    if (!told.isEmpty())
+        return told.first();
+    ::Window focused = 0;
+    int revert = 0;
+    XGetInputFocus(m_display, &focused, &revert);
+    return quint32(focused);
+}
+
 QVector<Desktop::Window> Desktop::windows() const
 {
     QVector<Window> found;
     if (!m_display)
         return found;
-    const quint32 root = quint32(DefaultRootWindow(m_display));
-    const QVector<quint32> active = cardinals(root, "_NET_ACTIVE_WINDOW");
-    for (const quint32 id : cardinals(root, "_NET_CLIENT_LIST_STACKING")) {
-        const Window window = describe(id, active.value(0));
+    const quint32 active = activeWindow();
+    for (const quint32 id : stacking()) {
+        const Window window = describe(id, active);
         if (!window.geometry.isEmpty())
             found.append(window);
     }
@@ -168,26 +220,26 @@ void Desktop::closeWindow(quint32 id) const
 
 void Desktop::moveMouse(QPoint to) const
 {
-    if (m_display) {
-        XTestFakeMotionEvent(m_display, DefaultScreen(m_display), to.x(), to.y(), CurrentTime);
-        XSync(m_display, False);
+    if (m_screen) {
+        XTestFakeMotionEvent(m_screen, DefaultScreen(m_screen), to.x(), to.y(), CurrentTime);
+        XSync(m_screen, False);
     }
 }
 
 void Desktop::pressMouse(QPoint at) const
 {
     moveMouse(at);
-    if (m_display) {
-        XTestFakeButtonEvent(m_display, leftButton, True, CurrentTime);
-        XSync(m_display, False);
+    if (m_screen) {
+        XTestFakeButtonEvent(m_screen, leftButton, True, CurrentTime);
+        XSync(m_screen, False);
     }
 }
 
 void Desktop::releaseMouse() const
 {
-    if (m_display) {
-        XTestFakeButtonEvent(m_display, leftButton, False, CurrentTime);
-        XSync(m_display, False);
+    if (m_screen) {
+        XTestFakeButtonEvent(m_screen, leftButton, False, CurrentTime);
+        XSync(m_screen, False);
     }
 }
 
@@ -201,29 +253,29 @@ void Desktop::click(QPoint at) const
 
 void Desktop::pressKey(const char *name) const
 {
-    if (m_display)
+    if (m_screen)
         pressSymbol(XStringToKeysym(name));
 }
 
 void Desktop::type(const QString &text) const
 {
     for (const QChar c : text)
-        if (m_display && c.unicode() < 128) // the keyboard's symbols are numbered like ASCII
+        if (m_screen && c.unicode() < 128) // the keyboard's symbols are numbered like ASCII
             pressSymbol(c.unicode());
 }
 
 void Desktop::pressSymbol(unsigned long symbol) const
 {
-    const KeyCode code = XKeysymToKeycode(m_display, symbol);
-    const KeyCode shift = XKeysymToKeycode(m_display, XK_Shift_L);
-    const bool shifted = XkbKeycodeToKeysym(m_display, code, 0, 0) != symbol;
+    const KeyCode code = XKeysymToKeycode(m_screen, symbol);
+    const KeyCode shift = XKeysymToKeycode(m_screen, XK_Shift_L);
+    const bool shifted = XkbKeycodeToKeysym(m_screen, code, 0, 0) != symbol;
     if (shifted)
-        XTestFakeKeyEvent(m_display, shift, True, CurrentTime);
-    XTestFakeKeyEvent(m_display, code, True, CurrentTime);
-    XTestFakeKeyEvent(m_display, code, False, CurrentTime);
+        XTestFakeKeyEvent(m_screen, shift, True, CurrentTime);
+    XTestFakeKeyEvent(m_screen, code, True, CurrentTime);
+    XTestFakeKeyEvent(m_screen, code, False, CurrentTime);
     if (shifted)
-        XTestFakeKeyEvent(m_display, shift, False, CurrentTime);
-    XSync(m_display, False);
+        XTestFakeKeyEvent(m_screen, shift, False, CurrentTime);
+    XSync(m_screen, False);
 }
 
 Desktop::Window Desktop::describe(quint32 id, quint32 activeId) const

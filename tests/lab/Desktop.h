@@ -14,6 +14,9 @@
 // Mouse and keys go through the X server and the window manager like those of real devices; the
 // calls return when the server has taken them, not when a program has reacted: wait for that with
 // QTRY_VERIFY. Positions are pixels of the screen.
+//
+// Where the programs are guests of a Wayland desktop, their X server shows no screen: eyes and
+// hands are at the one of $ORVANTA_LAB_SCREEN.
 class Desktop {
 public:
     struct Window {
@@ -35,7 +38,8 @@ public:
     QImage screenshot() const;
     QColor pixel(QPoint at) const;
 
-    // The managed windows that are on the screen, the lowest first.
+    // The managed windows that are on the screen, the lowest first; without a window manager that
+    // lists them, those that name their program.
     QVector<Window> windows() const;
     QVector<Window> windowsOf(qint64 pid) const;
     // Of the windows of a program the highest, or one with id 0.
@@ -59,10 +63,14 @@ public:
 private:
     Window describe(quint32 id, quint32 activeId) const;
     void pressSymbol(unsigned long symbol) const;
+    QVector<quint32> childrenOf(quint32 window) const;
+    QVector<quint32> stacking() const;
+    quint32 activeWindow() const;
     QVector<quint32> cardinals(quint32 window, const char *property) const;
 
     // Xlib's own name for its Display, whose header must not meet Qt's.
-    struct _XDisplay *m_display;
+    struct _XDisplay *m_display; // of the programs
+    struct _XDisplay *m_screen; // of the person; mostly the same
 };
 
 #endif // DESKTOP_H
