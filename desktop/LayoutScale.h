@@ -23,8 +23,8 @@ QSize primaryScreenSize();
 
 /**
  * Tells the toolkit the factor for the primary monitor. To be called before the application
- * object is built; the desktop's own text scaling no longer counts, which the layout, made of
- * pixels, could not follow.
+ * object is built; the desktop's own scaling, of texts or of all, no longer counts: the layout,
+ * made of pixels, could not follow.
  */
 void apply();
 

@@ -10,6 +10,8 @@ private Q_SLOTS:
     void theFactorFollowsTheLesserDirection();
     void withoutAServerTheSizeIsEmpty();
     void applyingTellsTheToolkitBothValues();
+    void theDesktopsOwnScalingNoLongerCounts_data();
+    void theDesktopsOwnScalingNoLongerCounts();
 };
 
 void LayoutScaleTest::theFactorFollowsTheLesserDirection_data()
@@ -50,6 +52,24 @@ void LayoutScaleTest::applyingTellsTheToolkitBothValues()
     LayoutScale::apply();
     QCOMPARE(qgetenv("QT_SCALE_FACTOR"), QByteArray("1"));
     QCOMPARE(qgetenv("QT_FONT_DPI"), QByteArray("96"));
+}
+
+void LayoutScaleTest::theDesktopsOwnScalingNoLongerCounts_data()
+{
+    QTest::addColumn<QByteArray>("variable");
+    for (const char *variable : {"QT_SCREEN_SCALE_FACTORS", "QT_AUTO_SCREEN_SCALE_FACTOR",
+                                 "QT_ENABLE_HIGHDPI_SCALING", "QT_DEVICE_PIXEL_RATIO"})
+        QTest::newRow(variable) << QByteArray(variable);
+}
+
+void LayoutScaleTest::theDesktopsOwnScalingNoLongerCounts()
+{
+    QFETCH(QByteArray, variable);
+    qputenv("DISPLAY", ":987654");
+    qputenv(variable.constData(), "2");
+    LayoutScale::apply();
+    QVERIFY(!qEnvironmentVariableIsSet(variable.constData()));
+    QCOMPARE(qgetenv("QT_SCALE_FACTOR"), QByteArray("1"));
 }
 
 QTEST_APPLESS_MAIN(LayoutScaleTest)
