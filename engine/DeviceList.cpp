@@ -105,6 +105,7 @@ QVector<ListedDevice> listedDevices(const QVector<DeviceRecord> &records)
         device.record = i;
         device.model = tidyName(record.name);
         device.identity = baseIdentity(record);
+        device.serial = record.serial;
         devices.append(device);
     }
     const auto order = [&records](const ListedDevice &device) {
@@ -135,6 +136,10 @@ int indexOfChoice(const QVector<ListedDevice> &devices, const DeviceChoice &choi
     int index = findDevice(
         devices, [&](const ListedDevice &device) { return device.identity == choice.identity; });
     if (index < 0)
+        index = findDevice(devices, [&](const ListedDevice &device) {
+            return device.model == choice.model && device.serial == choice.serial;
+        });
+    if (index < 0)
         index = findDevice(
             devices, [&](const ListedDevice &device) { return device.model == choice.model; });
     if (index < 0 && choice.onlyOne && !devices.isEmpty())
@@ -149,6 +154,7 @@ DeviceChoice choiceOf(const QVector<ListedDevice> &devices, int index)
     if (index >= 0 && index < devices.size()) {
         choice.identity = devices.at(index).identity;
         choice.model = devices.at(index).model;
+        choice.serial = devices.at(index).serial;
         choice.onlyOne = devices.size() == 1;
     }
     return choice;

@@ -12,6 +12,7 @@ struct ListedDevice {
     QString model; ///< the name without the number that tells twins apart
     /// What the camera is, independent of its index in the list and of the name that is shown.
     QString identity;
+    QString serial; ///< of the camera; may be empty, or that of every camera of its model
 };
 
 /// Which camera the user wants.
@@ -19,6 +20,7 @@ struct DeviceChoice {
     int index = 0; ///< used as long as no identity is known
     QString identity;
     QString model;
+    QString serial;
     bool onlyOne = false; ///< there was nothing to choose from
 };
 
@@ -28,7 +30,8 @@ struct DeviceChoice {
 QVector<ListedDevice> listedDevices(const QVector<DeviceRecord> &records);
 
 /// Index of the wanted camera in @p devices, -1 when it is not there. A camera plugged into another
-/// socket is recognised by its model; one that never had a rival may be stood in for by the first.
+/// socket is recognised by its model, and among several of that by its serial number; one that
+/// never had a rival may be stood in for by the first.
 int indexOfChoice(const QVector<ListedDevice> &devices, const DeviceChoice &choice);
 
 /// The choice of entry @p index of @p devices, also when there is no such entry.

@@ -198,6 +198,17 @@ void TestDeviceList::theChoiceIsFoundAgain_data()
     QTest::newRow("in another socket")
         << Records{a, b} << 1 << Records{a, with(b, &DeviceRecord::busPath, QString("usb-7"))}
         << "Desk";
+    const DeviceRecord twin = videoNode("Webcam", "usb-2", 2, "T");
+    const auto onBus = [](const DeviceRecord &record, const char *bus) {
+        return with(record, &DeviceRecord::busPath, QString(bus));
+    };
+    QTest::newRow("changed places with its twin")
+        << Records{a, twin} << 0 << Records{onBus(a, "usb-2"), onBus(twin, "usb-1")}
+        << "Webcam (2)";
+    QTest::newRow("in another socket, behind its twin")
+        << Records{a, twin} << 0 << Records{onBus(a, "usb-7"), twin} << "Webcam (2)";
+    QTest::newRow("gone: its twin is of the same model")
+        << Records{a, twin} << 0 << Records{twin} << "Webcam";
     QTest::newRow("gone: another one is not taken for it")
         << Records{a, b} << 1 << Records{a} << QString();
     QTest::newRow("gone, and it was the only one: the first now")
