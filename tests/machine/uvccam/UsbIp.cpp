@@ -6,8 +6,8 @@ namespace UsbIp {
 
 // Of the two kinds of message: operations begin with the protocol's version, transfers with zero.
 static constexpr quint16 version = 0x0111;
-static constexpr quint16 listRequest = 0x8005;
-static constexpr quint16 importRequest = 0x8003;
+static constexpr quint16 listCode = 0x8005;
+static constexpr quint16 importCode = 0x8003;
 static constexpr quint16 listAnswer = 0x0005;
 static constexpr quint16 importAnswer = 0x0003;
 static constexpr quint32 submitCommand = 1;
@@ -29,12 +29,12 @@ static Reading takeOperation(QByteArray *stream, Request *request)
     quint16 spoken = 0;
     quint16 code = 0;
     bytes >> spoken >> code;
-    if (code == listRequest) {
+    if (code == listCode) {
         request->kind = Request::Kind::List;
         stream->remove(0, operationBytes);
         return Reading::Complete;
     }
-    if (code != importRequest)
+    if (code != importCode)
         return Reading::Broken;
     if (stream->size() < operationBytes + busIdBytes)
         return Reading::Incomplete;
@@ -141,6 +141,18 @@ QByteArray importReply(const Device &device, const QByteArray &wanted)
     if (isOurs)
         describe(out, device);
     return reply;
+}
+
+QByteArray importRequest(const QByteArray &wanted)
+{
+    QByteArray request;
+    QDataStream(&request, QIODevice::WriteOnly) << version << importCode << quint32(0);
+    return request + padded(wanted, busIdBytes);
+}
+
+bool isRefusal(const QByteArray &answer)
+{
+    return answer.size() == operationBytes && answer.mid(4) != QByteArray(4, '\0');
 }
 
 // Device, direction and endpoint are the kernel's to remember.

@@ -56,6 +56,10 @@ Reading takeRequest(QByteArray *stream, Request *request);
 QByteArray listReply(const Device &device);
 /// The refusal when @p wanted is not our bus.
 QByteArray importReply(const Device &device, const QByteArray &wanted);
+/// The request that importReply() answers, its length when it is granted, and whether it was not.
+QByteArray importRequest(const QByteArray &wanted);
+static constexpr int importBytes = 320;
+bool isRefusal(const QByteArray &answer);
 /// @p data is what goes to the kernel, no longer than it asked for. A transfer to the device has
 /// taken all that was sent, unless it is @p state that is wrong.
 QByteArray submitReply(const Request &request, int state, const QByteArray &data = {});

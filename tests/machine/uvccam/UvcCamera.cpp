@@ -2,9 +2,13 @@
 
 #include "FramePainter.h"
 #include "LabPattern.h"
+#include "UsbPort.h"
 
 #include <QStringList>
 #include <QTcpSocket>
+
+#include <algorithm>
+#include <utility>
 
 using UsbIp::Reading;
 using UsbIp::Request;
@@ -242,6 +246,8 @@ bool UvcCamera::command(const QString &line)
             m_kernel->write(UsbIp::submitReply(request, UsbIp::stalled));
     } else if (what == "go") {
         goOn();
+    } else if (what == "attach") {
+        attach(amount);
     } else if (what == "detach") {
         detach();
     } else {
@@ -260,6 +266,16 @@ void UvcCamera::goOn()
     for (const Request &request : std::exchange(m_unheard, {}))
         control(request);
     sendFrames();
+}
+
+void UvcCamera::attach(int port)
+{
+    auto *end = new UsbPort(port, m_server.serverPort());
+    end->setParent(this);
+    connect(end, &UsbPort::done, this, [this, end](const QString &problem) {
+        say(problem.isEmpty() ? QStringLiteral("plugged") : problem);
+        end->deleteLater();
+    });
 }
 
 void UvcCamera::detach()

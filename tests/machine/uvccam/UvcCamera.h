@@ -42,6 +42,7 @@ public:
     ///   mute       no answer to control requests, until "go"
     ///   halt       the transfers under way fail, as those of a loose contact
     ///   go         all is well again
+    ///   attach N   plugged into port N of this machine's kernel, from 0 to 7
     ///   detach     as if the cable was pulled; it can be taken again
     bool command(const QString &line);
 
@@ -62,6 +63,7 @@ private:
     bool nextFrame();
     QByteArray painted(quint32 counter);
     void goOn();
+    void attach(int port);
     void detach();
     void say(const QString &what) const;
 

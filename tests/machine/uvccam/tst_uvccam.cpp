@@ -30,11 +30,6 @@ static QByteArray operation(quint16 code, const QByteArray &rest = {})
     return bytes + rest;
 }
 
-static QByteArray importOf(const QByteArray &bus)
-{
-    return operation(0x8003, bus.leftJustified(32, '\0'));
-}
-
 // A transfer to or from the device; @p packets is not zero for one at a fixed pace.
 static QByteArray submit(quint32 number, bool isIn, int endpoint, int length,
                          const QByteArray &setup = QByteArray(8, '\0'), const QByteArray &data = {},
@@ -99,17 +94,15 @@ public:
 
     bool take()
     {
-        send(importOf(UsbIp::busId));
-        const QByteArray refusal("\x01\x11\x00\x03\0\0\0\1", 8);
-        constexpr int acceptBytes = 8 + 312;
+        send(UsbIp::importRequest(UsbIp::busId));
         QByteArray answer;
         const bool answered = QTest::qWaitFor(
             [&] {
                 answer += m_socket.readAll();
-                return answer.size() >= acceptBytes || answer == refusal;
+                return answer.size() >= UsbIp::importBytes || UsbIp::isRefusal(answer);
             },
             20000);
-        return answered && answer != refusal;
+        return answered && !UsbIp::isRefusal(answer);
     }
 
     void send(const QByteArray &bytes) { m_socket.write(bytes); }
@@ -277,8 +270,16 @@ void TestUvcCam::theListNamesTheOneDevice()
     QCOMPARE(list.mid(12 + 256, 4), QByteArray("1-1\0", 4));
     QCOMPARE(list.mid(12 + 300, 4), QByteArray("\x12\x09\x00\x01", 4));
     QCOMPARE(list.right(8), QByteArray("\x0e\x01\0\0\x0e\x02\0\0", 8));
-    QCOMPARE(UsbIp::importReply(device, "1-1").size(), 8 + 312);
+    QCOMPARE(UsbIp::importReply(device, "1-1").size(), UsbIp::importBytes);
+    QVERIFY(!UsbIp::isRefusal(UsbIp::importReply(device, "1-1")));
     QCOMPARE(UsbIp::importReply(device, "1-2"), QByteArray("\x01\x11\x00\x03\0\0\0\1", 8));
+    QVERIFY(UsbIp::isRefusal(UsbIp::importReply(device, "1-2")));
+    QByteArray wish = UsbIp::importRequest("1-2");
+    QCOMPARE(wish, operation(0x8003, QByteArray("1-2").leftJustified(32, '\0')));
+    Request request;
+    QCOMPARE(UsbIp::takeRequest(&wish, &request), Reading::Complete);
+    QCOMPARE(request.kind, Request::Kind::Import);
+    QCOMPARE(request.busId, QByteArray("1-2"));
 }
 
 void TestUvcCam::anAnswerCarriesNoMoreThanWasAskedFor()

@@ -4,8 +4,8 @@
 //   uvccam [--port 3240] [--name TEXT] [--serial TEXT] [--id 1209:0001] [--mode MJPG:640x480:30]...
 //
 // Commands are read from the standard input, a line each: see UvcCamera. What happens is told on
-// the standard output, a line each: "listens PORT", "taken", "streams MJPG 640x480 30", "rests",
-// "free", and "does ..." for each command. It ends with its input.
+// the standard output, a line each: "listens PORT", "taken", "plugged", "streams MJPG 640x480 30",
+// "rests", "free", and "does ..." for each command. It ends with its input.
 
 #include "UvcCamera.h"
 
