@@ -2,16 +2,26 @@
 
 #include "OpenFolder.h"
 
+#include <QThreadPool>
+
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
 constexpr char partialSuffix[] = ".part";
+
+// Files on their way together, far below the descriptors that a program may have (1024).
+constexpr size_t mostOpen = 256;
+
+// As many as the queues of usual disks hold at least.
+constexpr int flushesAtATime = 16;
 
 /** A file held open; close() tells whether the disk has taken everything. */
 class OpenFile {
@@ -21,7 +31,17 @@ public:
     {
     }
     ~OpenFile() { close(); }
-    Q_DISABLE_COPY(OpenFile)
+    OpenFile(OpenFile &&other) noexcept
+        : m_descriptor(std::exchange(other.m_descriptor, -1))
+    {
+    }
+    OpenFile &operator=(OpenFile &&other) noexcept
+    {
+        std::swap(m_descriptor, other.m_descriptor);
+        return *this;
+    }
+    OpenFile(const OpenFile &) = delete;
+    OpenFile &operator=(const OpenFile &) = delete;
 
     bool isOpen() const { return m_descriptor >= 0; }
     int descriptor() const { return m_descriptor; }
@@ -96,30 +116,29 @@ void copyRecord(int from, int to)
     (void)futimens(to, times);
 }
 
-// Copies to another file system, down to the disk.
-bool copyFile(int source, const OpenFolder &to, const QByteArray &name)
+// Copies to another file system. The disk is set to work at once, and not waited for: it writes
+// while the next file is read.
+bool beginCopy(const OpenFile &source, const OpenFile &copy)
 {
-    const QByteArray partial = '.' + name + partialSuffix;
-    // What is left of an earlier try is not written to: it may be a link to somewhere else.
-    unlinkat(to.descriptor(), partial.constData(), 0);
-    OpenFile copy(openat(to.descriptor(), partial.constData(),
-                         O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-    if (!copy.isOpen())
-        return false;
     holdUnfinished(copy.descriptor());
-    bool complete = copyContents(source, copy.descriptor());
-    copyRecord(source, copy.descriptor());
-    // A full network folder may tell only now, or only at the end.
-    complete = complete && flushToDisk(copy.descriptor());
-    complete = copy.close() && complete;
-    if (!complete || !renameFile(to, partial, to, name)) {
-        unlinkat(to.descriptor(), partial.constData(), 0);
-        return false;
-    }
-    if (to.flush())
-        return true;
-    unlinkat(to.descriptor(), name.constData(), 0);
-    return false;
+    const bool isComplete = copyContents(source.descriptor(), copy.descriptor());
+    copyRecord(source.descriptor(), copy.descriptor());
+    (void)sync_file_range(copy.descriptor(), 0, 0, SYNC_FILE_RANGE_WRITE);
+    return isComplete;
+}
+
+QByteArray partialName(const QByteArray &name)
+{
+    return '.' + name + partialSuffix;
+}
+
+OpenFile makePartial(const OpenFolder &folder, const QByteArray &name)
+{
+    const QByteArray partial = partialName(name);
+    // What is left of an earlier try is not written to: it may be a link to somewhere else.
+    unlinkat(folder.descriptor(), partial.constData(), 0);
+    return OpenFile(openat(folder.descriptor(), partial.constData(),
+                           O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
 }
 
 bool isHalfCopy(const char *name)
@@ -131,24 +150,164 @@ bool isHalfCopy(const char *name)
     return isCaptured && length > suffix && std::strcmp(name + length - suffix, partialSuffix) == 0;
 }
 
+/**
+ * Some files on their way, step by step: what has to wait for the disk waits once for all of them.
+ */
+class MovedFiles {
+public:
+    MovedFiles(const OpenFolder &from, const OpenFolder &to)
+        : m_from(from)
+        , m_to(to)
+    {
+    }
+
+    void begin(const QByteArray &name);
+    /// The names of those that are still where they were.
+    std::vector<QByteArray> finish();
+
+private:
+    enum State {
+        Failed, ///< it is where it was
+        Renamed,
+        Copied, ///< under its hidden name
+        There, ///< whole, under its own name, and here as well
+    };
+    struct File {
+        QByteArray name;
+        State state = Failed;
+        OpenFile written = OpenFile(-1); ///< what has to be on the disk, if it could be opened
+        bool isOnDisk = false;
+    };
+
+    void beginNew(File &file);
+    void flushAll();
+    void takeBackUnflushed(File &file);
+    void nameCopy(File &file);
+    void flushNames();
+
+    const OpenFolder &m_from;
+    const OpenFolder &m_to;
+    std::vector<File> m_files;
+};
+
+void MovedFiles::begin(const QByteArray &name)
+{
+    File file;
+    file.name = name;
+    struct stat there = {};
+    if (!isThere(m_to, name, there))
+        beginNew(file);
+    else if (S_ISREG(there.st_mode))
+        file.state = There;
+    m_files.push_back(std::move(file));
+}
+
+void MovedFiles::beginNew(File &file)
+{
+    OpenFile source(
+        openat(m_from.descriptor(), file.name.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+    if (renameFile(m_from, file.name, m_to, file.name)) {
+        file.state = Renamed;
+        file.written = std::move(source);
+        return;
+    }
+    if (!source.isOpen())
+        return;
+    OpenFile copy = makePartial(m_to, file.name);
+    if (!copy.isOpen())
+        return;
+    if (beginCopy(source, copy)) {
+        file.state = Copied;
+        file.written = std::move(copy);
+    } else {
+        unlinkat(m_to.descriptor(), partialName(file.name).constData(), 0);
+    }
+}
+
+// A disk takes about as long to make one file safe as to make all that are asked for at a time.
+void MovedFiles::flushAll()
+{
+    QThreadPool helpers;
+    helpers.setMaxThreadCount(flushesAtATime);
+    for (File &file : m_files)
+        if (file.written.isOpen())
+            helpers.start([&file] { file.isOnDisk = flushToDisk(file.written.descriptor()); });
+        else
+            file.isOnDisk = true;
+    helpers.waitForDone();
+    for (File &file : m_files)
+        // A full network folder may tell only now.
+        file.isOnDisk = file.written.close() && file.isOnDisk;
+}
+
+void MovedFiles::takeBackUnflushed(File &file)
+{
+    if (file.isOnDisk)
+        return;
+    (void)renameFile(m_to, file.name, m_from, file.name);
+    file.state = Failed;
+}
+
+void MovedFiles::nameCopy(File &file)
+{
+    const QByteArray partial = partialName(file.name);
+    if (file.isOnDisk && renameFile(m_to, partial, m_to, file.name))
+        return;
+    unlinkat(m_to.descriptor(), partial.constData(), 0);
+    file.state = Failed;
+}
+
+// The copies are as good as the files only when the disk knows them by their names.
+void MovedFiles::flushNames()
+{
+    const bool areNamed = m_to.flush();
+    for (File &file : m_files) {
+        if (file.state != Copied)
+            continue;
+        file.state = areNamed ? There : Failed;
+        if (!areNamed)
+            unlinkat(m_to.descriptor(), file.name.constData(), 0);
+    }
+}
+
+std::vector<QByteArray> MovedFiles::finish()
+{
+    flushAll();
+    bool isAnyCopied = false;
+    for (File &file : m_files) {
+        if (file.state == Renamed)
+            takeBackUnflushed(file);
+        else if (file.state == Copied)
+            nameCopy(file);
+        isAnyCopied = isAnyCopied || file.state == Copied;
+    }
+    if (isAnyCopied)
+        flushNames();
+    std::vector<QByteArray> left;
+    for (const File &file : m_files) {
+        const bool isMoved = file.state == Renamed
+            || (file.state == There
+                && unlinkat(m_from.descriptor(), file.name.constData(), 0) == 0);
+        if (!isMoved)
+            left.push_back(file.name);
+    }
+    return left;
+}
+
 } // namespace
 
-bool moveFile(const OpenFolder &from, const OpenFolder &to, const QByteArray &name)
+std::vector<QByteArray> moveFiles(const OpenFolder &from, const OpenFolder &to,
+                                  const std::vector<QByteArray> &names)
 {
-    struct stat there = {};
-    if (!isThere(to, name, there)) {
-        const OpenFile source(
-            openat(from.descriptor(), name.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
-        if (source.isOpen() && !flushToDisk(source.descriptor()))
-            return false;
-        if (renameFile(from, name, to, name))
-            return true;
-        if (!source.isOpen() || !copyFile(source.descriptor(), to, name))
-            return false;
-    } else if (!S_ISREG(there.st_mode)) {
-        return false;
+    std::vector<QByteArray> left;
+    for (size_t first = 0; first < names.size(); first += mostOpen) {
+        MovedFiles files(from, to);
+        for (size_t i = first; i < std::min(first + mostOpen, names.size()); ++i)
+            files.begin(names[i]);
+        for (const QByteArray &name : files.finish())
+            left.push_back(name);
     }
-    return unlinkat(from.descriptor(), name.constData(), 0) == 0;
+    return left;
 }
 
 void removeHalfCopies(const OpenFolder &folder)

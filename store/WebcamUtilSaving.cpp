@@ -39,14 +39,14 @@ bool WebcamUtil::saveData(const QString &target, const QDateTime &moment)
     const WaitCursor waitCursor;
     const OpenFolder area(areaPath);
     removeHalfCopies(folder);
-    bool areSaved = true;
-    for (const FolderFile &file : files) {
-        if (!isCaptured(file.name.constData()) || moveFile(area, folder, file.name))
-            continue;
-        qCWarning(storeLog) << "cannot save" << file.name << "to" << path;
-        areSaved = false;
-    }
-    return folder.flush() && areSaved;
+    std::vector<QByteArray> names;
+    for (const FolderFile &file : files)
+        if (isCaptured(file.name.constData()))
+            names.push_back(file.name);
+    const std::vector<QByteArray> left = moveFiles(area, folder, names);
+    for (const QByteArray &name : left)
+        qCWarning(storeLog) << "cannot save" << name << "to" << path;
+    return folder.flush() && left.empty();
 }
 
 void WebcamUtil::deleteData()

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstdio>
+#include <mutex>
 #include <unistd.h>
 
 FakeDisk::Hook FakeDisk::onFlush;
@@ -21,6 +22,8 @@ QByteArray pathOf(int descriptor)
 
 int errorOf(const FakeDisk::Hook &hook, int descriptor)
 {
+    static std::recursive_mutex oneAtATime; // hooks use the disk themselves
+    const std::lock_guard<std::recursive_mutex> lock(oneAtATime);
     return hook ? hook(pathOf(descriptor)) : 0;
 }
 

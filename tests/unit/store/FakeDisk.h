@@ -9,6 +9,7 @@
  * Stands between the store and the disk: programs that are linked with --wrap for the calls below
  * come here first. Without a hook a call goes through to the real disk. A hook gets the path of the
  * file that the call is about; other than 0 it returns the error number that the call fails with.
+ * Hooks are called one after the other, from whichever thread the store uses its disk.
  */
 class FakeDisk {
 public:

@@ -50,11 +50,14 @@ private Q_SLOTS:
     void aNameThatIsNoTextIsDeleted();
     void aDiskThatIsFullOnlyAtTheEndLosesNothing_data();
     void aDiskThatIsFullOnlyAtTheEndLosesNothing();
-    void thePhotoIsOnTheDiskBeforeItIsMoved();
+    void aPhotoThatTheDiskRefusesStaysWhereItIs();
     void aDiskThatKnowsNoFlushingIsWrittenAllTheSame();
     void aCapturedFileThatCannotBeRemovedIsAFailure();
     void aReadOnlyDaysFolderLeavesAllFiles();
     void aFolderThatVanishesMidwayLosesNothing();
+    void noFileIsRemovedBeforeTheFolderKnowsAllCopies();
+    void aLessonOfManyPhotosIsSavedWhole_data();
+    void aLessonOfManyPhotosIsSavedWhole();
     void halfCopiesOfASaveThatWasCutOffAreRemoved();
 };
 
@@ -130,10 +133,11 @@ void FileMoveTest::aDiskThatIsFullOnlyAtTheEndLosesNothing()
     QCOMPARE(StoreFolders::read(saved + "/photo1.png"), QByteArray("a photo"));
 }
 
-void FileMoveTest::thePhotoIsOnTheDiskBeforeItIsMoved()
+void FileMoveTest::aPhotoThatTheDiskRefusesStaysWhereItIs()
 {
     const StoreFolders folders;
     const QString photo = WebcamUtil::getTemporaryPath() + "/photo1.png";
+    const QString saved = folders.target() + "/TavelinCamera/20090304";
     QVERIFY(StoreFolders::write(photo, "a photo"));
     QByteArrayList flushed;
     {
@@ -143,8 +147,9 @@ void FileMoveTest::thePhotoIsOnTheDiskBeforeItIsMoved()
             return EIO;
         };
         QVERIFY(!WebcamUtil::saveData(folders.target(), lesson));
-        QVERIFY(flushed.contains(QFile::encodeName(photo)));
+        QVERIFY(!flushed.isEmpty() && flushed.constFirst().endsWith("/photo1.png"));
         QCOMPARE(StoreFolders::read(photo), QByteArray("a photo"));
+        QCOMPARE(filesIn(saved), QStringList());
 
         FakeDisk::onFlush = [&](const QByteArray &path) {
             flushed << path;
@@ -154,8 +159,9 @@ void FileMoveTest::thePhotoIsOnTheDiskBeforeItIsMoved()
         QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     }
     // First what is in it, and in the end where it is now.
-    const QString saved = folders.target() + "/TavelinCamera/20090304";
-    QCOMPARE(flushed, (QByteArrayList{QFile::encodeName(photo), QFile::encodeName(saved)}));
+    QCOMPARE(flushed,
+             (QByteArrayList{QFile::encodeName(saved + "/photo1.png"), QFile::encodeName(saved)}));
+    QCOMPARE(StoreFolders::read(saved + "/photo1.png"), QByteArray("a photo"));
 }
 
 void FileMoveTest::aDiskThatKnowsNoFlushingIsWrittenAllTheSame()
@@ -229,11 +235,68 @@ void FileMoveTest::aFolderThatVanishesMidwayLosesNothing()
         };
         QVERIFY(!WebcamUtil::saveData(folders.target(), lesson));
     }
-    // The newest went with the folder that had taken it already.
-    QCOMPARE(filesIn(area), QStringList({"photo1.png", "photo2.png"}));
+    QCOMPARE(filesIn(area), QStringList({"photo1.png", "photo2.png", "photo3.png"}));
     QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
     QCOMPARE(StoreFolders::read(day + "/photo1.png"), QByteArray("oldest"));
     QCOMPARE(StoreFolders::read(day + "/photo2.png"), QByteArray("older"));
+    QCOMPARE(StoreFolders::read(day + "/photo3.png"), QByteArray("newest"));
+}
+
+void FileMoveTest::noFileIsRemovedBeforeTheFolderKnowsAllCopies()
+{
+    const StoreFolders folders;
+    const AreaElsewhere elsewhere(folders);
+    QVERIFY2(elsewhere.isOther(), "needs a second file system at /dev/shm");
+    const QString area = WebcamUtil::getTemporaryPath();
+    for (int i = 0; i < 20; ++i)
+        QVERIFY(StoreFolders::write(area + QString("/photo%1.png").arg(i, 2, 10, QChar('0')), "x"));
+    const QString day = folders.target() + "/TavelinCamera/20090304";
+    const QStringList all = filesIn(area);
+    QStringList captured;
+    QStringList copied;
+    {
+        const FakeDisk disk;
+        FakeDisk::onFlush = [&](const QByteArray &path) {
+            if (path.endsWith("/20090304") && captured.isEmpty()) {
+                captured = filesIn(area);
+                copied = filesIn(day);
+            }
+            return 0;
+        };
+        QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
+    }
+    QCOMPARE(captured, all);
+    QCOMPARE(copied, all);
+    QCOMPARE(filesIn(area), QStringList());
+}
+
+void FileMoveTest::aLessonOfManyPhotosIsSavedWhole_data()
+{
+    aNameThatIsNoTextIsSavedAsItIs_data();
+}
+
+void FileMoveTest::aLessonOfManyPhotosIsSavedWhole()
+{
+    QFETCH(bool, isElsewhere);
+    constexpr int photos = 600; // more than are on their way together
+    const StoreFolders folders;
+    std::unique_ptr<AreaElsewhere> elsewhere;
+    if (isElsewhere) {
+        elsewhere = std::make_unique<AreaElsewhere>(folders);
+        QVERIFY2(elsewhere->isOther(), "needs a second file system at /dev/shm");
+    }
+    const QString area = WebcamUtil::getTemporaryPath();
+    const auto name = [](int number) { return QString("/photo%1.png").arg(number); };
+    for (int i = 0; i < photos; ++i)
+        QVERIFY(StoreFolders::write(area + name(i), QByteArray::number(i)));
+    const int open = QDir("/proc/self/fd").entryList(QDir::AllEntries).size();
+    QVERIFY(WebcamUtil::saveData(folders.target(), lesson));
+    QCOMPARE(int(QDir("/proc/self/fd").entryList(QDir::AllEntries).size()), open);
+    QCOMPARE(filesIn(area), QStringList());
+    const QString day = folders.target() + "/TavelinCamera/20090304";
+    QCOMPARE(filesIn(day).size(), photos);
+    for (int i = 0; i < photos; ++i)
+        QCOMPARE(StoreFolders::read(day + name(i)), QByteArray::number(i));
 }
 
 void FileMoveTest::halfCopiesOfASaveThatWasCutOffAreRemoved()
