@@ -11,34 +11,79 @@
 #include <algorithm>
 #include <cstring>
 #include <fnmatch.h>
-#include <tuple>
 
 namespace {
 
-// Newest first. Names carry the time of capture, so they decide between equal times.
-bool isNewer(const FolderFile &left, const FolderFile &right)
-{
-    return std::tie(left.modified.tv_sec, left.modified.tv_nsec, left.name)
-        > std::tie(right.modified.tv_sec, right.modified.tv_nsec, right.name);
-}
+// Names carry the time of capture, so they decide between equal times.
+struct NewestFirst {
+    bool operator()(const FolderFile &left, const FolderFile &right) const
+    {
+        if (left.modified.tv_sec != right.modified.tv_sec)
+            return left.modified.tv_sec > right.modified.tv_sec;
+        if (left.modified.tv_nsec != right.modified.tv_nsec)
+            return left.modified.tv_nsec > right.modified.tv_nsec;
+        return left.name > right.name;
+    }
+};
 
 // Folded by hand: to the C library a Turkish I is the capital letter of another i.
+char inSmallLetters(char letter)
+{
+    return letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter;
+}
+
 QByteArray inSmallLetters(QByteArray name)
 {
-    std::transform(name.begin(), name.end(), name.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter;
-    });
+    std::transform(name.begin(), name.end(), name.begin(),
+                   [](char letter) { return inSmallLetters(letter); });
     return name;
 }
 
-bool matchesAny(const char *name, const std::vector<QByteArray> &patterns)
+/** A wildcard pattern that matches in any case. One that merely tells how a name begins, as that of
+ *  all photos does, is matched without the C library, which takes longer than finding the file. */
+class NamePattern {
+public:
+    explicit NamePattern(const QByteArray &pattern)
+        : m_pattern(inSmallLetters(pattern))
+        , m_isBeginning(std::strcspn(m_pattern.constData(), "*?[") == size_t(m_pattern.size()) - 1
+                        && m_pattern.endsWith('*'))
+    {
+    }
+
+    bool matches(const char *name) const
+    {
+        return m_isBeginning ? isBeginningOf(name)
+                             : fnmatch(m_pattern.constData(), inSmallLetters(name).constData(),
+                                       FNM_CASEFOLD | FNM_NOESCAPE)
+                == 0;
+    }
+
+private:
+    bool isBeginningOf(const char *name) const
+    {
+        return std::equal(
+            m_pattern.cbegin(), m_pattern.cend() - 1, name,
+            [](char small, char letter) { return small == inSmallLetters(letter); });
+    }
+
+    QByteArray m_pattern;
+    bool m_isBeginning;
+};
+
+bool matchesAny(const char *name, const std::vector<NamePattern> &patterns)
 {
-    if (patterns.empty())
-        return true;
-    const QByteArray small = inSmallLetters(name);
-    return std::any_of(patterns.begin(), patterns.end(), [&small](const QByteArray &pattern) {
-        return fnmatch(pattern.constData(), small.constData(), FNM_CASEFOLD | FNM_NOESCAPE) == 0;
-    });
+    return patterns.empty()
+        || std::any_of(
+               patterns.begin(), patterns.end(),
+               [name](const NamePattern &pattern) { return pattern.matches(name); });
+}
+
+// The toolkit asks the locale about each name; the program's own have letters of one byte only.
+QString inUsersLetters(const QByteArray &name)
+{
+    const bool isPlain =
+        std::all_of(name.begin(), name.end(), [](char letter) { return uchar(letter) < 0x80; });
+    return isPlain ? QString::fromLatin1(name) : QFile::decodeName(name);
 }
 
 } // namespace
@@ -53,16 +98,16 @@ bool WebcamUtil::isCaptured(const char *name)
 // folder the program runs in.
 std::vector<FolderFile> WebcamUtil::readTemporaryArea(const QStringList &patterns)
 {
-    std::vector<QByteArray> encoded;
+    std::vector<NamePattern> encoded;
     encoded.reserve(size_t(patterns.size()));
     for (const QString &pattern : patterns)
-        encoded.push_back(inSmallLetters(QFile::encodeName(pattern)));
+        encoded.emplace_back(QFile::encodeName(pattern));
 
     std::vector<FolderFile> files =
         OpenFolder(getTemporaryPath()).files([&encoded](const char *name) {
             return name[0] != '.' && matchesAny(name, encoded);
         });
-    std::sort(files.begin(), files.end(), isNewer);
+    std::sort(files.begin(), files.end(), NewestFirst());
     return files;
 }
 
@@ -73,7 +118,7 @@ QStringList WebcamUtil::listTemporaryArea(const QStringList &patterns)
     QStringList names;
     names.reserve(int(files.size()));
     for (const FolderFile &file : files)
-        names.append(QFile::decodeName(file.name));
+        names.append(inUsersLetters(file.name));
     return names;
 }
 
@@ -84,7 +129,7 @@ QStringList WebcamUtil::getFileList(const QStringList &patterns)
     names.reserve(int(files.size()));
     for (auto file = files.rbegin(); file != files.rend(); ++file)
         if (isCaptured(file->name.constData()))
-            names.append(QFile::decodeName(file->name));
+            names.append(inUsersLetters(file->name));
     return names;
 }
 
