@@ -4,6 +4,7 @@
 #include "CWindowManagement.h"
 #include "DialogGeometry.h"
 #include "DisplayMode.h"
+#include "SpareMemory.h"
 
 #include <QElapsedTimer>
 #include <QRect>
@@ -229,6 +230,7 @@ private:
 
     DisplayMode m_displayMode = LiveMode;
     bool m_error = false;
+    SpareMemory m_spareMemory;
 
     // --- CaptureConditions.cpp -------------------------------------------------------------
     /// Opens the camera unless it is open, and notes what is missing. False: the window was closed

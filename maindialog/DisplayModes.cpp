@@ -35,6 +35,7 @@ void CVistrelDlg::TransitionMode(DisplayMode mode)
     }
     // Stored last: setListButton() looks at the screen that is being left.
     m_displayMode = mode;
+    m_spareMemory.giveBackSoon();
 }
 
 double CVistrelDlg::setButtonX(CStretchBitmapButton *button, double x)
