@@ -18,6 +18,8 @@
 #include "StillWriter.h"
 #include "TargetPainter.h"
 
+#include <QTimer>
+
 #include <utility>
 
 using std::chrono::steady_clock;
@@ -26,11 +28,15 @@ using std::chrono::steady_clock;
 // one that was not there.
 static const std::chrono::milliseconds listLimit = PatientCall::usualLimit;
 static const int openLimit = 4400; // ms of longLimit, which leaves a moment for closing again
+static const int wakeLimit = 2800; // ms; one that stays silent for little longer is lost
 // The camera's frame is there; only the disk can make it late, and it is not given up for that.
 static const std::chrono::milliseconds stillLimit(30000);
 static const std::chrono::seconds completionLimit(10);
 // The sound server was connected to with the camera: a movie waits only for one started anew.
 static const std::chrono::milliseconds microphoneLimit(200);
+// How long a camera runs on unseen: between two screens nobody waits for it, and whoever looks at a
+// photo for a moment only has the live picture back at once.
+static const std::chrono::milliseconds restDelay(1000);
 
 class LiveVideoData::Private {
 public:
@@ -39,6 +45,8 @@ public:
         , providers(lookAgain(engine))
         , microphones(lookAgain(engine))
     {
+        restTimer.setSingleShot(true);
+        connect(&restTimer, &QTimer::timeout, engine, [this] { letRest(); });
     }
 
     static std::function<void()> lookAgain(LiveVideoData *engine);
@@ -48,7 +56,10 @@ public:
     void loseCamera();
     std::chrono::milliseconds closingLimit() const;
     void setShowing(bool on);
+    bool isSeen() const { return showing && painter.hasRoom(); }
     void followTarget();
+    void letRest();
+    std::shared_ptr<const CameraFrame> newestFrame();
     QVector<CameraMode> modes() const;
 
     LiveVideoData *q;
@@ -62,6 +73,7 @@ public:
     GrabThread *thread = nullptr; ///< null while there is none, or it is lost
     CameraHandle camera; ///< null while there is none, or it is lost
     bool showing = false;
+    QTimer restTimer; ///< runs while a picture that is shown is out of sight
     QImage savedPicture; ///< of the last photo, until it is taken
     MovieMaker movie{microphones, [this] { Q_EMIT q->recordend(); }};
 };
@@ -131,6 +143,7 @@ bool LiveVideoData::Private::open(const CameraHandle &chosen, const QSize &size)
 
 void LiveVideoData::Private::close()
 {
+    restTimer.stop();
     movie.stop();
     GrabThread::retire(thread);
     thread = nullptr;
@@ -163,8 +176,32 @@ void LiveVideoData::Private::setShowing(bool on)
 // Tells the worker what is wanted on the screen now: nothing while the target cannot be seen.
 void LiveVideoData::Private::followTarget()
 {
-    if (thread)
-        thread->setSeen(showing && painter.hasRoom());
+    if (!thread)
+        return;
+    thread->setSeen(isSeen());
+    if (showing && !isSeen()) {
+        restTimer.start(restDelay);
+    } else {
+        restTimer.stop();
+        thread->setResting(false);
+    }
+}
+
+void LiveVideoData::Private::letRest()
+{
+    if (thread && !movie.isRecording())
+        thread->setResting(true);
+}
+
+// A camera that rests is woken for it, and rests again a while later.
+std::shared_ptr<const CameraFrame> LiveVideoData::Private::newestFrame()
+{
+    if (!thread)
+        return nullptr;
+    thread->setResting(false);
+    followTarget();
+    thread->waitForFrame(wakeLimit);
+    return thread->newestFrame();
 }
 
 QVector<CameraMode> LiveVideoData::Private::modes() const
@@ -292,7 +329,7 @@ bool LiveVideoData::SaveBitmap(QString path)
 {
     const PatientCall call(stillLimit);
     d->savedPicture = QImage();
-    const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
+    const std::shared_ptr<const CameraFrame> frame = d->newestFrame();
     if (!frame)
         return false;
     const BoundedTask writing([frame, path] {
@@ -312,7 +349,7 @@ QImage LiveVideoData::takeSavedPicture()
 void LiveVideoData::Record(const QString &path)
 {
     const PatientCall call;
-    const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
+    const std::shared_ptr<const CameraFrame> frame = d->newestFrame();
     if (!frame) {
         d->movie.refuse(MovieOutcome::NoCamera);
         return;
@@ -389,6 +426,7 @@ void LiveVideoData::RecordMovie()
 {
     const PatientCall call(PatientCall::longLimit);
     d->movie.stop();
+    d->followTarget();
 }
 
 void LiveVideoData::device()
