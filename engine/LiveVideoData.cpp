@@ -15,6 +15,7 @@
 #include "PatientWait.h"
 #include "PictureConverter.h"
 #include "SoundServer.h"
+#include "StillSaving.h"
 #include "StillWriter.h"
 #include "TargetPainter.h"
 
@@ -29,8 +30,7 @@ using std::chrono::steady_clock;
 static const std::chrono::milliseconds listLimit = PatientCall::usualLimit;
 static const int openLimit = 4400; // ms of longLimit, which leaves a moment for closing again
 static const int wakeLimit = 2800; // ms; one that stays silent for little longer is lost
-// The camera's frame is there; only the disk can make it late, and it is not given up for that.
-static const std::chrono::milliseconds stillLimit(30000);
+static const std::chrono::milliseconds stillLimit = StillSaving::limit;
 static const std::chrono::seconds completionLimit(10);
 // The sound server was connected to with the camera: a movie waits only for one started anew.
 static const std::chrono::milliseconds microphoneLimit(200);
@@ -75,6 +75,7 @@ public:
     bool showing = false;
     QTimer restTimer; ///< runs while a picture that is shown is out of sight
     QImage savedPicture; ///< of the last photo, until it is taken
+    StillSaving saving;
     MovieMaker movie{microphones, [this] { Q_EMIT q->recordend(); }};
 };
 
@@ -220,10 +221,12 @@ LiveVideoData::LiveVideoData()
     source.picture = [this](const QSize &size) { return d->thread->takePicture(size); };
     d->painter.setSource(source);
     connect(&d->painter, &TargetPainter::roomChanged, this, [this] { d->followTarget(); });
+    connect(&d->saving, &StillSaving::ended, this, &LiveVideoData::bitmapSaved);
 }
 
 LiveVideoData::~LiveVideoData()
 {
+    finishSaving(); // whoever sees the photo takes it to be there
     const PatientCall call(d->closingLimit());
     d->painter.disconnect(this);
     d->movie.stop();
@@ -344,6 +347,19 @@ bool LiveVideoData::SaveBitmap(QString path)
 QImage LiveVideoData::takeSavedPicture()
 {
     return std::exchange(d->savedPicture, QImage());
+}
+
+QImage LiveVideoData::startSaving(const QString &path)
+{
+    const PatientCall call;
+    const std::shared_ptr<const CameraFrame> frame = d->newestFrame();
+    return frame ? d->saving.begin(frame, path) : QImage();
+}
+
+// No PatientCall over all of it: who hears the end may open a box.
+void LiveVideoData::finishSaving()
+{
+    d->saving.finish();
 }
 
 void LiveVideoData::Record(const QString &path)

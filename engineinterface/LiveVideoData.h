@@ -28,7 +28,7 @@ class QWidget;
  *   4.8 s   Create, SetResolution, RecordStop; Release, the engine's end and the loss of a camera
  *           while a movie is recorded
  *   10 s    CompleteMovies; the engine's end waits so long in addition
- *   30 s    SaveBitmap
+ *   30 s    SaveBitmap, finishSaving; the engine's end waits for a file of startSaving in addition
  *
  * What they do besides waiting takes a few hundredths of a second, more on a busy machine. The very
  * first call in a session may take longer while GStreamer indexes its plug-ins.
@@ -46,6 +46,8 @@ class QWidget;
  *   Reset                 repaints black     repaints black    repaints           repaints black
  *   Release               -                  -> idle           -> idle            -> idle
  *   SaveBitmap            false              newest frame      newest frame       false
+ *   startSaving           null               newest frame      newest frame       null
+ *   finishSaving          waits              waits             waits              waits
  *   Record                -                  begins a movie     begins a movie     -
  *   RecordStop            -                  ends the movie     ends the movie     -
  *   IsRecording           false              a movie began?     a movie began?     false
@@ -119,6 +121,15 @@ public:
     /// without being read again. Null when that failed, or when it was taken already.
     QImage takeSavedPicture();
 
+    /// Takes the newest frame at the camera's full size like SaveBitmap(), but returns its picture
+    /// (RGB32) as soon as it can be shown: @p path is written meanwhile, whatever becomes of the
+    /// camera, and bitmapSaved() tells how that ended. Null, and nothing is written or told, when
+    /// there is no frame or when the last such file is still being written.
+    QImage startSaving(const QString &path);
+    /// Waits for the file of startSaving(); bitmapSaved() is emitted before this returns. Returns
+    /// at once when none is being written.
+    void finishSaving();
+
     /// Begins a movie with sound in @p path. Leaves no file when the camera, the microphone or an
     /// encoder is missing; ask the queries below. Does nothing while a movie is recorded.
     void Record(const QString &path);
@@ -166,6 +177,10 @@ Q_SIGNALS:
     void devicestop(); ///< the camera was closed, by Release() or by its loss
     void deviceerr(); ///< the camera could not be opened, or was lost
     void disconnectDevice(); ///< the open camera was lost; once per loss
+    /// The file of startSaving() is complete, or cannot be written, or was not at its limit. Once
+    /// for each picture that startSaving() gave, from the event loop, finishSaving() or the
+    /// engine's end.
+    void bitmapSaved(bool isWritten);
     /// The movie that is being recorded cannot go on: the disk is full, or its encoder failed. Once
     /// per movie; RecordStop() completes what there is.
     void recordend();

@@ -12,6 +12,7 @@
 #include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 #include <gst/gst.h>
@@ -41,6 +42,8 @@ private Q_SLOTS:
     void thePictureOnTheScreenIsTheCameras();
     void theStillIsTheCamerasFullPicture_data();
     void theStillIsTheCamerasFullPicture();
+    void theStillIsAtHandBeforeItsFile_data();
+    void theStillIsAtHandBeforeItsFile();
     void thePictureMovesOn();
     void thePictureFollowsItsTarget();
     void stoppingBlackensTheTargetAndStartingShowsTheNewestPicture();
@@ -189,6 +192,33 @@ void TestEnginePicture::theStillIsTheCamerasFullPicture()
     QCOMPARE(m_engine->takeSavedPicture().convertToFormat(still.format()), still);
     QVERIFY(m_engine->takeSavedPicture().isNull());
     QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"photo.png"});
+}
+
+void TestEnginePicture::theStillIsAtHandBeforeItsFile_data()
+{
+    thePictureOnTheScreenIsTheCameras_data();
+}
+
+// The camera is closed in the middle of it, which is no reason to lose a photo.
+void TestEnginePicture::theStillIsAtHandBeforeItsFile()
+{
+    QFETCH(QString, camera);
+    open(camera);
+    const QString path = m_folder.filePath("photo.png");
+    QFile::remove(path);
+    const QSignalSpy told(m_engine.get(), &LiveVideoData::bitmapSaved);
+    const QImage picture = m_engine->startSaving(path);
+    QVERIFY(!picture.isNull());
+    QCOMPARE(told.size(), 0);
+    m_engine->Release();
+    m_engine->finishSaving();
+    QCOMPARE(told, (QList<QVariantList>{{true}}));
+    const QImage still(path);
+    QCOMPARE(picture, still.convertToFormat(picture.format()));
+    QVERIFY(LabPattern::counterOf(still) >= 0);
+    QVERIFY(LabPattern::worstDifference(still, LabPattern::groundOf(camera)) < tolerance);
+    QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{"photo.png"});
+    QVERIFY(m_engine->startSaving(path).isNull()); // there is no camera any more
 }
 
 void TestEnginePicture::thePictureMovesOn()

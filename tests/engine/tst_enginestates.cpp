@@ -147,6 +147,8 @@ void TestEngineStates::anOperationLeadsToItsState_data()
         {"SetVideoDevice", [](LiveVideoData &engine) { engine.SetVideoDevice(5); }},
         {"Reset", [](LiveVideoData &engine) { engine.Reset(); }},
         {"SaveBitmap", [](LiveVideoData &engine) { engine.SaveBitmap("/nowhere/photo.png"); }},
+        {"startSaving", [](LiveVideoData &engine) { engine.startSaving("/nowhere/photo.png"); }},
+        {"finishSaving", [](LiveVideoData &engine) { engine.finishSaving(); }},
         {"Record", [](LiveVideoData &engine) { engine.Record("/nowhere/movie.mov"); }},
         {"RecordStop", [](LiveVideoData &engine) { engine.RecordStop(); }},
         {"IsValidVideoDevice", [](LiveVideoData &engine) { engine.IsValidVideoDevice(); }},
@@ -200,6 +202,10 @@ void TestEngineStates::whatIsAskedIsAnsweredByState()
     const QString still = m_folder.filePath("still.png");
     QFile::remove(still);
     QCOMPARE(m_engine->SaveBitmap(still), hasCamera);
+    QCOMPARE(QFile::exists(still), hasCamera);
+    QFile::remove(still);
+    QCOMPARE(!m_engine->startSaving(still).isNull(), hasCamera);
+    m_engine->finishSaving();
     QCOMPARE(QFile::exists(still), hasCamera);
     QCOMPARE(m_engine->GetResoList(), hasCamera ? QStringList{"640x480"} : QStringList());
     QTRY_COMPARE(m_engine->GetVideoDeviceList(),

@@ -10,6 +10,8 @@
 namespace {
 
 LiveVideoData *livingEngine = nullptr; // the one that lives, null when there is none
+QString unwritten; // path of startSaving() until its end is told, else empty
+QImage unwrittenPicture;
 
 void note(const QString &call)
 {
@@ -26,6 +28,12 @@ QImage pictureToSave()
     return plain;
 }
 
+bool write(const QImage &picture, const QString &path)
+{
+    const FakeEngine &script = FakeEngine::script();
+    return script.saving ? script.saving(path) : picture.save(path);
+}
+
 } // namespace
 
 FakeEngine &FakeEngine::script()
@@ -37,6 +45,7 @@ FakeEngine &FakeEngine::script()
 void FakeEngine::reset()
 {
     script() = FakeEngine();
+    unwritten.clear();
 }
 
 void FakeEngine::loseCamera()
@@ -49,6 +58,19 @@ void FakeEngine::endRecording()
 {
     Q_ASSERT(livingEngine);
     Q_EMIT livingEngine->recordend();
+}
+
+bool FakeEngine::isSaving()
+{
+    return !unwritten.isEmpty();
+}
+
+void FakeEngine::writePhoto()
+{
+    Q_ASSERT(livingEngine && isSaving());
+    const bool isWritten = script().fileSucceeds && write(unwrittenPicture, unwritten);
+    unwritten.clear();
+    Q_EMIT livingEngine->bitmapSaved(isWritten);
 }
 
 int FakeEngine::callCount(const QString &operation)
@@ -69,6 +91,7 @@ LiveVideoData::LiveVideoData()
 LiveVideoData::~LiveVideoData()
 {
     note(QStringLiteral("~LiveVideoData()"));
+    unwritten.clear();
     if (livingEngine == this)
         livingEngine = nullptr;
 }
@@ -140,15 +163,34 @@ void LiveVideoData::Release()
 bool LiveVideoData::SaveBitmap(QString path) // NOLINT(performance-unnecessary-value-param)
 {
     note(QStringLiteral("SaveBitmap(%1)").arg(path));
-    const FakeEngine &script = FakeEngine::script();
-    if (script.saving)
-        return script.saving(path);
-    return script.saveBitmapSucceeds && pictureToSave().save(path);
+    return FakeEngine::script().saveBitmapSucceeds && write(pictureToSave(), path);
 }
 
 QImage LiveVideoData::takeSavedPicture()
 {
     return FakeEngine::script().savedPicture;
+}
+
+// Told from the event loop at the earliest, as the engine does.
+QImage LiveVideoData::startSaving(const QString &path)
+{
+    note(QStringLiteral("startSaving(%1)").arg(path));
+    const FakeEngine &script = FakeEngine::script();
+    if (!script.saveBitmapSucceeds || FakeEngine::isSaving())
+        return {};
+    unwritten = path;
+    unwrittenPicture = pictureToSave();
+    if (!script.writesSlowly)
+        QMetaObject::invokeMethod(
+            this, [this] { finishSaving(); }, Qt::QueuedConnection);
+    const QImage &shown = script.savedPicture.isNull() ? unwrittenPicture : script.savedPicture;
+    return shown.convertToFormat(QImage::Format_RGB32);
+}
+
+void LiveVideoData::finishSaving()
+{
+    if (FakeEngine::isSaving())
+        FakeEngine::writePhoto();
 }
 
 void LiveVideoData::Record(const QString &path)

@@ -27,6 +27,10 @@ struct FakeEngine {
     /// Emits recordend(), as the engine does on the GUI thread when the disk fills during a
     /// recording.
     static void endRecording();
+    /// startSaving()'s file is being written.
+    static bool isSaving();
+    /// What was begun with writesSlowly is done: writes the file and emits bitmapSaved().
+    static void writePhoto();
     /// How often an operation was called, whatever its arguments: callCount("SaveBitmap").
     static int callCount(const QString &operation);
 
@@ -49,7 +53,10 @@ struct FakeEngine {
     QImage picture; ///< what SaveBitmap() writes; null: a plain picture of nativeSize
     /// Does SaveBitmap()'s work in its place; null for writing the picture.
     std::function<bool(const QString &path)> saving;
-    QImage savedPicture; ///< what takeSavedPicture() gives
+    QImage savedPicture; ///< what takeSavedPicture() gives; startSaving() too, if not null
+    bool fileSucceeds = true; ///< when false, what startSaving() has given is not written
+    /// When true, nothing is written before writePhoto() or finishSaving().
+    bool writesSlowly = false;
     QByteArray movie = QByteArrayLiteral("a movie"); ///< what a movie holds after Record()
 
     /// What CompleteMovies() does, while the caller waits; null for nothing.
