@@ -53,6 +53,15 @@ void PictureWidget::loadLater(const QString &name)
     });
 }
 
+void PictureWidget::showPicture(const QString &name, const QImage &picture)
+{
+    PictureLoader::shared().forget(this);
+    m_fileName = name;
+    m_pixmap = QPixmap::fromImage(picture);
+    m_fittedSize = QSize();
+    update();
+}
+
 void PictureWidget::Release()
 {
     PictureLoader::shared().forget(this);

@@ -27,6 +27,8 @@ public:
     /// Like Loadbmp(), but returns at once: the widget stays black until a worker has read the
     /// picture, in the size that the widget has now.
     void loadLater(const QString &name);
+    /// Shows @p picture, which the file of that name holds or will hold; reads nothing.
+    void showPicture(const QString &name, const QImage &picture);
     void Release();
 
     /// Shows "Back" and an empty caption. The button is placed for the widget's present size.

@@ -28,13 +28,18 @@ LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags f)
     connect(m_shotTimer, &QTimer::timeout, this, &LiveVideoWidget::execShot);
     connect(&m_engine, &LiveVideoData::disconnectDevice, this,
             &LiveVideoWidget::slotdisconnectDevice);
+    connect(&m_engine, &LiveVideoData::bitmapSaved, this, &LiveVideoWidget::photoWritten);
     connect(&m_engine, &LiveVideoData::recordend, this, &LiveVideoWidget::recordingEnded);
     createVideoFrame();
     createLiveLabel();
 }
 
 // The engine, a member, closes the camera here, before the frame it draws into goes as a child.
-LiveVideoWidget::~LiveVideoWidget() = default;
+// The engine's end may still tell of a photo, to whom is going as well.
+LiveVideoWidget::~LiveVideoWidget()
+{
+    m_engine.disconnect(this);
+}
 
 void LiveVideoWidget::createVideoFrame()
 {
@@ -162,18 +167,36 @@ void LiveVideoWidget::setResolution(const QString &text)
         m_engine.SetResolution(sides.at(0).toInt(), sides.at(1).toInt());
 }
 
+static QString pathInArea(const QString &name)
+{
+    return WebcamUtil::getTemporaryPath() + QLatin1Char('/') + name;
+}
+
 QString LiveVideoWidget::SaveBmp()
 {
     if (!m_engine.created)
         return QString();
     const QString name = WebcamUtil::CreatePhotofilename();
-    const QString path = WebcamUtil::getTemporaryPath() + QLatin1Char('/') + name;
-    return m_engine.SaveBitmap(path) ? name : QString();
+    return m_engine.SaveBitmap(pathInArea(name)) ? name : QString();
 }
 
 QImage LiveVideoWidget::takeSavedPicture()
 {
     return m_engine.takeSavedPicture();
+}
+
+LiveVideoWidget::Photo LiveVideoWidget::takePhoto()
+{
+    if (!m_engine.created)
+        return {};
+    const QString name = WebcamUtil::CreatePhotofilename();
+    const QImage picture = m_engine.startSaving(pathInArea(name));
+    return picture.isNull() ? Photo() : Photo{name, picture};
+}
+
+void LiveVideoWidget::finishPhoto()
+{
+    m_engine.finishSaving();
 }
 
 bool LiveVideoWidget::Record()

@@ -3,6 +3,7 @@
 
 #include "LiveVideoData.h"
 
+#include <QImage>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -67,6 +68,18 @@ public:
     /// when it was taken already.
     QImage takeSavedPicture();
 
+    /// A photo that has been taken: its bare file name, and what it shows (RGB32).
+    struct Photo {
+        QString name;
+        QImage picture;
+    };
+    /// Takes one photo like SaveBmp(), but returns while its file is still being written;
+    /// photoWritten() tells how that ended. Both null, and nothing is told, on failure, also while
+    /// the last such photo is being written.
+    Photo takePhoto();
+    /// Waits for the file of takePhoto(); photoWritten() is emitted before this returns.
+    void finishPhoto();
+
     /// Starts a movie and saves its first picture beside it. When a device is missing, says so and
     /// returns false; the engine has then been told to record all the same, as it must be before
     /// it can answer for its devices. A movie that does not begin although both devices work is
@@ -90,6 +103,8 @@ public:
 Q_SIGNALS:
     void ShotMax(); ///< a burst has taken its last photo
     void disconnectDevice(); ///< the open camera is gone
+    /// The file of takePhoto() is there, or there is none. Once for each photo that it gave.
+    void photoWritten(bool isWritten);
     /// The movie that is being recorded cannot go on; RecordStop() completes what there is.
     void recordingEnded();
 

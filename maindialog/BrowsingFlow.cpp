@@ -29,6 +29,7 @@ void CVistrelDlg::OnList()
 {
     if (isClosed())
         return;
+    completePhoto();
     stop_window();
     stopPlayback();
     endCountdown();

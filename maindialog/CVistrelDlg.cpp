@@ -188,6 +188,7 @@ void CVistrelDlg::showFirstScreen()
     // Earlier than the other connections: the first screen may wait at a disk warning, and a loss
     // that nobody is told of would leave a dead camera that counts as open.
     connect(m_liveView, &LiveVideoWidget::disconnectDevice, this, &CVistrelDlg::changeNodevicemode);
+    connect(m_liveView, &LiveVideoWidget::photoWritten, this, &CVistrelDlg::photoWritten);
     connect(m_liveView, &LiveVideoWidget::recordingEnded, this, &CVistrelDlg::endBrokenRecording);
     button(MovieStopButton)->installEventFilter(this);
     if (!openCamera())

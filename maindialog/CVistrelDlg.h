@@ -7,6 +7,8 @@
 #include "SpareMemory.h"
 
 #include <QElapsedTimer>
+#include <QImage>
+#include <QPointer>
 #include <QRect>
 #include <QString>
 #include <QStringList>
@@ -227,9 +229,14 @@ private:
     /// Switches to the photo alone, as SetPhotoMode() does when the preview is off.
     void setAcceptedPhotoMode();
     void layOutPhoto();
+    /// Between these two, none of the buttons that could be pressed can be.
+    void holdButtons();
+    void releaseButtons();
 
     DisplayMode m_displayMode = LiveMode;
     bool m_error = false;
+    QVector<CStretchBitmapButton *> m_heldButtons; ///< to be given back
+    QPointer<QWidget> m_heldFocus; ///< where the keyboard was then; null for nowhere
     SpareMemory m_spareMemory;
 
     // --- CaptureConditions.cpp -------------------------------------------------------------
@@ -239,6 +246,7 @@ private:
     /// Notes whether camera and microphone are there, by what the live view has found out.
     void copyDevicePresence();
     /// Called first by every flow that captures: ends the raising and asks for room on the disk.
+    /// The last photo is complete then.
     /// False when there is none, which has been told and leaves only what browses, or when the
     /// window is closed.
     bool hasSpaceToCapture();
@@ -247,10 +255,19 @@ private:
     bool m_audioPresent = false;
 
     // --- PhotoFlow.cpp ---------------------------------------------------------------------
-    /// Bare name of a new photo, whose picture is then at hand; null on failure.
-    QString takePhoto();
+    /// Takes a photo and shows it while it is still being written.
+    void showNewPhoto();
+    /// Waits for the file of the photo shown. Called first by every flow that leaves the photo or
+    /// needs its file. Does nothing when it is there.
+    void completePhoto();
+    void photoWritten(bool isWritten);
+    /// The photo shown could not be written: what was shown before it comes back.
+    void withdrawPhoto();
+    void tellPhotoIsLost();
 
     QString m_currentPhotoName; ///< bare name of the last photo, null when there is none
+    QImage m_unwrittenPhoto; ///< its picture, until its file is there
+    QString m_photoBefore; ///< bare name of what the picture view showed before it
     bool m_photoPreview = true;
 
     // --- ShutterSound.cpp ------------------------------------------------------------------
@@ -261,6 +278,8 @@ private:
     QSound *m_shutterSound = nullptr; ///< null when there is none
 
     // --- SeriesFlow.cpp --------------------------------------------------------------------
+    /// Bare name of a new photo, whose file and picture are there; null on failure.
+    QString takePhotoOfSeries();
     void startSeries();
     void endSeries();
     void endCountdown();

@@ -28,6 +28,7 @@ bool CVistrelDlg::hasSpaceToCapture()
 {
     if (isClosed())
         return false;
+    completePhoto();
     stop_window();
     if (WebcamUtil::chkdiskFreeSpace())
         return true;

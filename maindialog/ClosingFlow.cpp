@@ -15,6 +15,7 @@
 
 void CVistrelDlg::OnClose()
 {
+    completePhoto();
     stop_window();
     if (WebcamUtil::isSaveFile()) {
         SaveConfirmDlg question(this);
@@ -42,6 +43,7 @@ void CVistrelDlg::releaseLiveView()
 {
     if (!m_liveView)
         return;
+    completePhoto();
     if (m_liveView->isCreate())
         m_liveView->Release();
     m_liveView->disconnect(this);

@@ -66,6 +66,7 @@ void CVistrelDlg::changeNodevicemode()
 {
     if (isClosed())
         return;
+    completePhoto();
     m_error = true;
     m_timerWidget->Stop();
     // A player that was never used is left alone: its first use asks the sound server, which may

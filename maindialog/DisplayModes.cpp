@@ -72,6 +72,26 @@ void CVistrelDlg::disableAllButton(bool enabled)
             m_buttons[which]->setEnabled(enabled);
 }
 
+void CVistrelDlg::holdButtons()
+{
+    m_heldFocus = focusWidget();
+    for (CStretchBitmapButton *each : m_buttons)
+        if (each->isEnabled())
+            m_heldButtons.append(each);
+    for (CStretchBitmapButton *each : qAsConst(m_heldButtons))
+        each->setEnabled(false);
+}
+
+void CVistrelDlg::releaseButtons()
+{
+    for (CStretchBitmapButton *each : qAsConst(m_heldButtons))
+        each->setEnabled(true);
+    m_heldButtons.clear();
+    if (m_heldFocus && !focusWidget())
+        m_heldFocus->setFocus();
+    m_heldFocus.clear();
+}
+
 void CVistrelDlg::SignalBlockAll(bool block)
 {
     for (int which = LiveButton; which <= BackButton; ++which)

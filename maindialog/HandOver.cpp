@@ -24,6 +24,7 @@ void CVistrelDlg::OnTVS()
 
 void CVistrelDlg::PutTVSPhoto()
 {
+    completePhoto();
     const QString area = WebcamUtil::getTemporaryPath();
     const QString folder = area + QStringLiteral("/tmp");
     if (area.isEmpty() || !QDir().mkpath(folder))

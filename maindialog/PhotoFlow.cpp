@@ -1,6 +1,8 @@
 // Photos. "Photo" takes one and shows it; with the preview on, the live picture runs on beside it
 // until "Accept" or "Retry"; "Live" goes back. A photo exists only as a file in the temporary area,
-// so accepting writes nothing. A full disk or a lost camera interrupts.
+// so accepting writes nothing. The file is written while the photo is shown already; no button can
+// be pressed until it is there, and what comes without a press (a lost camera, the end of the
+// session) waits for it. A full disk or a lost camera interrupts.
 
 #include "CVistrelDlg.h"
 
@@ -8,16 +10,20 @@
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
 #include "PictureListView.h"
+#include "PictureLoader.h"
 #include "PictureWidget.h"
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
 
 #include <QFile>
 
+#include <utility>
+
 void CVistrelDlg::OnLive()
 {
     if (m_displayMode == LiveMode || isClosed())
         return;
+    completePhoto();
     allWidgethide();
     hiddenPictList();
     stopPlayback();
@@ -45,8 +51,7 @@ void CVistrelDlg::OnPhoto()
     TransitionMode(PhotoMode);
     if (m_photoPreview)
         m_liveView->show();
-    m_currentPhotoName = takePhoto();
-    m_pictureView->Loadbmp(m_currentPhotoName);
+    showNewPhoto();
     m_pictureView->setLabelText(tr("Still"));
     m_pictureView->show();
     m_pictureView->update();
@@ -54,19 +59,68 @@ void CVistrelDlg::OnPhoto()
     update();
 }
 
-// The picture is shown as it was written, and the strip and the tiles will have it at once.
-QString CVistrelDlg::takePhoto()
+void CVistrelDlg::showNewPhoto()
 {
-    QString name = m_liveView->SaveBmp();
-    if (!name.isEmpty())
-        CapturedPicture::remember(name, m_liveView->takeSavedPicture());
-    return name;
+    const LiveVideoWidget::Photo photo = m_liveView->takePhoto();
+    m_currentPhotoName = photo.name;
+    if (photo.picture.isNull()) {
+        m_pictureView->Loadbmp(QString()); // what was shown before
+        return;
+    }
+    m_unwrittenPhoto = photo.picture;
+    m_photoBefore = m_pictureView->fileName();
+    m_pictureView->showPicture(photo.name, photo.picture);
+    holdButtons();
+}
+
+void CVistrelDlg::completePhoto()
+{
+    if (m_liveView)
+        m_liveView->finishPhoto();
+}
+
+// The strip and the tiles will have the photo at once. No box is opened in here: whoever waited for
+// the file goes on first.
+void CVistrelDlg::photoWritten(bool isWritten)
+{
+    releaseButtons();
+    const QImage picture = std::exchange(m_unwrittenPhoto, QImage());
+    if (isWritten) {
+        CapturedPicture::remember(m_currentPhotoName, picture);
+        PictureLoader::shared().prepare(m_currentPhotoName);
+        return;
+    }
+    withdrawPhoto();
+    QMetaObject::invokeMethod(this, &CVistrelDlg::tellPhotoIsLost, Qt::QueuedConnection);
+}
+
+void CVistrelDlg::withdrawPhoto()
+{
+    if (m_pictureView->fileName() == m_currentPhotoName) {
+        const QString label = m_pictureView->labelText();
+        m_pictureView->Release();
+        m_pictureView->setLabelText(label);
+        m_pictureView->Loadbmp(m_photoBefore);
+    }
+    m_currentPhotoName = QString();
+}
+
+void CVistrelDlg::tellPhotoIsLost()
+{
+    if (isClosed())
+        return;
+    stop_window();
+    if (WebcamUtil::chkdiskFreeSpace())
+        WebcamUtil::WarningMessage(tr("Save failed."), this);
+    else
+        WebcamUtil::ShowDiskWorningMessage(this);
 }
 
 void CVistrelDlg::OnAply()
 {
     if (isClosed())
         return;
+    completePhoto();
     if (m_movieView->isCreated())
         m_movieView->Release();
     m_movieView->hide();
@@ -77,6 +131,7 @@ void CVistrelDlg::OnAply()
 
 void CVistrelDlg::OnRetake()
 {
+    completePhoto();
     QFile::remove(WebcamUtil::getTemporaryPath() + QLatin1Char('/') + m_currentPhotoName);
     m_currentPhotoName = QString();
     m_listKind = PhotoList;

@@ -5,6 +5,7 @@
 #include "CVistrelDlg.h"
 
 #include "CStretchBitmapButton.h"
+#include "CapturedPicture.h"
 #include "LiveVideoWidget.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
@@ -56,13 +57,22 @@ void CVistrelDlg::startSeries()
     update();
 }
 
+// The picture is shown as it was written, and the strip and the tiles will have it at once.
+QString CVistrelDlg::takePhotoOfSeries()
+{
+    QString name = m_liveView->SaveBmp();
+    if (!name.isEmpty())
+        CapturedPicture::remember(name, m_liveView->takeSavedPicture());
+    return name;
+}
+
 void CVistrelDlg::OnShot()
 {
     if (isClosed())
         return;
     stop_window();
     playShutterSound();
-    m_currentPhotoName = takePhoto();
+    m_currentPhotoName = takePhotoOfSeries();
     m_pictureView->Loadbmp(m_currentPhotoName);
     m_pictureView->setLabelText(QString::number(m_shotCounter + 1) + tr("/")
                                 + QString::number(m_shotTarget));

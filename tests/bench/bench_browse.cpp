@@ -100,6 +100,7 @@ public:
     void takePhoto()
     {
         press("Photo");
+        workUntil([] { return !FakeEngine::isSaving(); });
         m_dialog.repaint();
         press("Apply");
         m_dialog.repaint();

@@ -1,4 +1,5 @@
 #include "LabCommands.h"
+#include "LabPattern.h"
 #include "Session.h"
 
 #include <QElapsedTimer>
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void cleanup();
     void theEndOfTheSessionEndsTheProgramInEveryState_data();
     void theEndOfTheSessionEndsTheProgramInEveryState();
+    void aPhotoThatIsSeenIsOnTheDiskAfterTheSession();
     void aServerThatDoesNotAnswerKeepsNothingUp_data();
     void aServerThatDoesNotAnswerKeepsNothingUp();
     void exitEndsItThoughTheMediaServerIsStuck();
@@ -121,6 +123,25 @@ void TestEnding::theEndOfTheSessionEndsTheProgramInEveryState()
     QFETCH(Step, reach);
     QVERIFY(reach(*m_user));
     endsInTime();
+}
+
+// Its file is written while it is shown already.
+void TestEnding::aPhotoThatIsSeenIsOnTheDiskAfterTheSession()
+{
+    QVERIFY(m_user->waitForPressable(
+        WindowMap::LiveScreen,
+        {"Live", "Photo", "PhotoMulti", "Movie", "List", "Settings", "Close"}));
+    m_user->press(WindowMap::LiveScreen, "Photo");
+    const QRect place = m_user->map().previewPhotoRect();
+    QTRY_VERIFY(m_user->counterAt(place) >= 0);
+    const int seen = m_user->counterAt(place);
+    endsInTime();
+    const QStringList files = m_user->program().captured();
+    QCOMPARE(files.size(), 1);
+    QVERIFY2(files.first().startsWith("photo"), qPrintable(files.first())); // no hidden one
+    const QImage photo(m_user->program().temporaryArea() + '/' + files.first());
+    QCOMPARE(photo.size(), QSize(640, 480));
+    QCOMPARE(LabPattern::counterOf(photo), seen);
 }
 
 void TestEnding::aServerThatDoesNotAnswerKeepsNothingUp_data()

@@ -4,13 +4,16 @@
 
 #include <QRegularExpression>
 
+#include <csignal>
 #include <memory>
+#include <sys/resource.h>
 
 // Photos from the live picture to the file: what is on the screen and what is on the disk.
 class TestTakingPhotos : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
     void theWindowCoversTheScreenAndShowsTheCamera();
@@ -20,11 +23,18 @@ private Q_SLOTS:
     void aPhotoFileIsTheCamerasPictureAtFullSize();
     void acceptShowsThePhotoInFullAndLiveGoesBack();
     void retryDeletesExactlyTheLastPhoto();
+    void aPhotoThatCannotBeWrittenIsToldAndTheNextOneCan();
     void liveWhileLiveDisturbsNothing();
 
 private:
     std::unique_ptr<Session> m_user;
 };
+
+void TestTakingPhotos::initTestCase()
+{
+    // Inherited by the program: a file that grows too large for it fails, and does not kill it.
+    std::signal(SIGXFSZ, SIG_IGN);
+}
 
 void TestTakingPhotos::init()
 {
@@ -114,6 +124,28 @@ void TestTakingPhotos::retryDeletesExactlyTheLastPhoto()
     QVERIFY(m_user->pressWhenReady(WindowMap::PreviewScreen, "Retry"));
     QTRY_COMPARE(m_user->program().captured(), first);
     QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
+}
+
+// As on a disk that is full.
+void TestTakingPhotos::aPhotoThatCannotBeWrittenIsToldAndTheNextOneCan()
+{
+    QVERIFY(m_user->waitForPressable(
+        WindowMap::LiveScreen,
+        {"Live", "Photo", "PhotoMulti", "Movie", "List", "Settings", "Close"}));
+    const auto pid = pid_t(m_user->program().pid());
+    rlimit usual = {};
+    QCOMPARE(prlimit(pid, RLIMIT_FSIZE, nullptr, &usual), 0);
+    const rlimit small = {1000, usual.rlim_max}; // bytes
+    QCOMPARE(prlimit(pid, RLIMIT_FSIZE, &small, nullptr), 0);
+    m_user->press(WindowMap::LiveScreen, "Photo");
+    QVERIFY2(m_user->waitForDialog("Orvanta"), qPrintable(m_user->program().output()));
+    QTRY_VERIFY(m_user->messageSays("Save failed."));
+    QCOMPARE(prlimit(pid, RLIMIT_FSIZE, &usual, nullptr), 0);
+    QVERIFY(m_user->confirmMessage());
+    QCOMPARE(m_user->program().captured(), QStringList());
+    QTRY_COMPARE(m_user->counterAt(m_user->map().previewPhotoRect()), -1);
+    QVERIFY(m_user->pressWhenReady(WindowMap::PreviewScreen, "Retry"));
+    QVERIFY(m_user->takePhotoForPreview());
 }
 
 void TestTakingPhotos::liveWhileLiveDisturbsNothing()

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void thePictureIsAsLargeAsFitsAndCentred();
     void besideThePictureTheWidgetIsBlackOnAnyParent();
     void aFileThatCannotBeReadIsBlack();
+    void aPictureIsShownBeforeItsFileIsThere();
     void growingAgainShowsACoarsePictureUntilItIsLoadedAgain();
     void aPictureEnlargedWhileItsSmallVersionLoadsStaysSharp();
     void theCaptionIsThinGreenOnBlackInTheCorner();
@@ -174,6 +175,17 @@ void TestPictureWidget::aFileThatCannotBeReadIsBlack()
         QCOMPARE(widget.fileName(), QString(name));
         QCOMPARE(litArea(widget), QRect());
     }
+}
+
+void TestPictureWidget::aPictureIsShownBeforeItsFileIsThere()
+{
+    QImage picture(80, 60, QImage::Format_RGB32);
+    picture.fill(Qt::yellow);
+    PictureWidget widget(nullptr);
+    widget.resize(80, 60);
+    widget.showPicture(QStringLiteral("not-there.png"), picture);
+    QCOMPARE(widget.fileName(), QStringLiteral("not-there.png"));
+    QCOMPARE(widget.grab().toImage().pixelColor(70, 50), QColor(Qt::yellow));
 }
 
 void TestPictureWidget::growingAgainShowsACoarsePictureUntilItIsLoadedAgain()

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QFrame>
 #include <QLabel>
@@ -91,6 +92,8 @@ private Q_SLOTS:
     void aPhotoBeforeCreateDoesNotTouchTheEngine();
     void aPhotoIsWrittenToTheTemporaryAreaUnderTheNameReturned();
     void aPhotoThatCannotBeWrittenIsANullString();
+    void aPhotoIsAtHandWhileItsFileIsWritten();
+    void withoutACameraOrAFrameThereIsNoPhoto();
 
     void aRecordingLeavesAMovieAndItsStillPicture();
     void aRecordingNeedsNoStillPicture();
@@ -396,6 +399,38 @@ void LiveVideoWidgetTest::aPhotoThatCannotBeWrittenIsANullString()
     QVERIFY(widget.SaveBmp().isNull());
     QCOMPARE(FakeEngine::callCount("SaveBitmap"), 1);
     QCOMPARE(reader.texts(), QStringList());
+}
+
+void LiveVideoWidgetTest::aPhotoIsAtHandWhileItsFileIsWritten()
+{
+    FakeEngine::script().writesSlowly = true;
+    LiveVideoWidget widget;
+    widget.Create();
+    const QSignalSpy written(&widget, &LiveVideoWidget::photoWritten);
+    const LiveVideoWidget::Photo photo = widget.takePhoto();
+    QVERIFY2(QRegularExpression("^photo\\d{17}\\.png$").match(photo.name).hasMatch(),
+             qPrintable(photo.name));
+    const QString path = WebcamUtil::getTemporaryPath() + '/' + photo.name;
+    QCOMPARE(photo.picture.size(), FakeEngine::script().nativeSize);
+    QCOMPARE(callsOf("startSaving"), QStringList{"startSaving(" + path + ')'});
+    QVERIFY(!QFile::exists(path));
+    QVERIFY(widget.takePhoto().name.isNull()); // one at a time
+    widget.finishPhoto();
+    QVERIFY(QFile::exists(path));
+    QCOMPARE(written, (QList<QVariantList>{{true}}));
+}
+
+void LiveVideoWidgetTest::withoutACameraOrAFrameThereIsNoPhoto()
+{
+    LiveVideoWidget widget;
+    FakeEngine::script().calls.clear();
+    QVERIFY(widget.takePhoto().name.isNull());
+    QCOMPARE(FakeEngine::script().calls, QStringList());
+    widget.Create();
+    FakeEngine::script().saveBitmapSucceeds = false;
+    const LiveVideoWidget::Photo photo = widget.takePhoto();
+    QVERIFY(photo.name.isNull());
+    QVERIFY(photo.picture.isNull());
 }
 
 void LiveVideoWidgetTest::aRecordingLeavesAMovieAndItsStillPicture()

@@ -81,6 +81,9 @@ QWidget &DialogFixture::button(const char *baseName) const
 void DialogFixture::click(const char *baseName) const
 {
     QTest::mouseClick(&button(baseName), Qt::LeftButton);
+    const auto isDone = [] { return !FakeEngine::isSaving() || FakeEngine::script().writesSlowly; };
+    if (!QTest::qWaitFor(isDone))
+        qFatal("A photo is not written.");
 }
 
 QStringList DialogFixture::shownButtons() const

@@ -35,6 +35,7 @@ public:
         return *found;
     }
     QWidget &button(const char *baseName) const;
+    /// Clicks the button, and waits for a photo that it takes unless the script writes slowly.
     void click(const char *baseName) const;
 
     /// "Live 1,541 133x59" for each button shown, sorted as the buttons were made.

@@ -157,7 +157,7 @@ void ConstructionTest::everyButtonRunsItsFlow_data()
 {
     QTest::addColumn<QString>("engineCall"); // what the flow asks of the engine; empty: nothing
     QTest::addColumn<int>("screen"); // where it ends
-    QTest::newRow("Photo") << "SaveBitmap" << int(PhotoMode);
+    QTest::newRow("Photo") << "startSaving" << int(PhotoMode);
     QTest::newRow("Movie") << "Record" << int(LiveMode);
     QTest::newRow("PhotoMulti") << "Reset" << int(PhotSeqMode);
     QTest::newRow("List") << "" << int(ListMode);

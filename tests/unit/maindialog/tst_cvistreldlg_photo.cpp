@@ -1,6 +1,7 @@
 #include "DialogFixture.h"
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
+#include "MessageReader.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
 
@@ -21,6 +22,18 @@ private Q_SLOTS:
     void liveWhileLiveDoesNothing();
     void liveFromAPhotoKeepsThePhoto();
     void aPhotoThatFailsLeavesThePictureShownBefore();
+    void aPhotoIsShownBeforeItsFileIsThere_data();
+    void aPhotoIsShownBeforeItsFileIsThere();
+    void theKeyboardStaysWhereItIsWhileAPhotoIsWritten();
+    void aPhotoThatCannotBeWrittenIsToldAndGoesAway_data();
+    void aPhotoThatCannotBeWrittenIsToldAndGoesAway();
+    void withNothingShownBeforeALostPhotoLeavesBlack();
+    void whatNeedsThePhotosFileWaitsForIt_data();
+    void whatNeedsThePhotosFileWaitsForIt();
+    void throwingAPhotoAwayLeavesNothingToBeWritten();
+    void closingTheWindowWaitsForThePhoto();
+    void aPhotoLostWhileTheWindowClosesOpensNoBox();
+    void aCameraThatGoesWaitsForThePhoto();
     void aFullDiskTakesNoPhoto();
     void liveOpensACameraThatWasClosed();
     void withoutAShutterSoundEverythingRunsSilently();
@@ -157,6 +170,176 @@ void PhotoFlowTest::aPhotoThatFailsLeavesThePictureShownBefore()
     QCOMPARE(fixture.captures().size(), 1);
 }
 
+void PhotoFlowTest::aPhotoIsShownBeforeItsFileIsThere_data()
+{
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QStringList>("usable");
+    QTest::newRow("with the preview")
+        << QByteArray("PhotoPreview=1\n") << QStringList{"Apply", "Retry"};
+    QTest::newRow("without it") << QByteArray("PhotoPreview=0\n")
+                                << QStringList{"Live", "List", "Close", "PutPhoto"};
+}
+
+void PhotoFlowTest::aPhotoIsShownBeforeItsFileIsThere()
+{
+    QFETCH(QByteArray, settings);
+    QFETCH(QStringList, usable);
+    DialogFixture fixture;
+    fixture.setSettings(settings);
+    fixture.build();
+    FakeEngine::script().writesSlowly = true;
+    fixture.click("Photo");
+    auto &picture = fixture.child<PictureWidget>();
+    QVERIFY(picture.isVisible());
+    QCOMPARE(picture.grab().toImage().pixelColor(picture.rect().center()), QColor(Qt::darkCyan));
+    QCOMPARE(fixture.captures(), QStringList());
+    QCOMPARE(fixture.usableButtons(), QStringList());
+    FakeEngine::writePhoto();
+    QCOMPARE(fixture.captures(), QStringList{picture.fileName()});
+    QCOMPARE(fixture.usableButtons(), usable);
+}
+
+void PhotoFlowTest::theKeyboardStaysWhereItIsWhileAPhotoIsWritten()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    FakeEngine::script().writesSlowly = true;
+    fixture.click("Photo");
+    FakeEngine::writePhoto();
+    QCOMPARE(dialog.focusWidget(), &fixture.button("Apply"));
+}
+
+void PhotoFlowTest::aPhotoThatCannotBeWrittenIsToldAndGoesAway_data()
+{
+    QTest::addColumn<bool>("isFull");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("although there is room") << false << "Save failed.";
+    QTest::newRow("on a full disk")
+        << true
+        << "The disk free space is insufficient.\n"
+           "Taking a picture is discontinued. Please secure the free space. ";
+}
+
+void PhotoFlowTest::aPhotoThatCannotBeWrittenIsToldAndGoesAway()
+{
+    QFETCH(bool, isFull);
+    QFETCH(QString, message);
+    DialogFixture fixture;
+    fixture.build();
+    fixture.click("Photo");
+    fixture.click("Apply");
+    const QString before = fixture.child<PictureWidget>().fileName();
+    fixture.click("Live");
+    QTest::qWait(2); // nothing to wait for: names are stamped to the millisecond
+    FakeEngine::script().writesSlowly = true;
+    FakeEngine::script().fileSucceeds = false;
+    fixture.click("Photo");
+    QVERIFY(fixture.child<PictureWidget>().fileName() != before);
+    if (isFull)
+        DialogFixture::fillTheDisk();
+    const MessageReader reader;
+    FakeEngine::writePhoto();
+    QCOMPARE(fixture.child<PictureWidget>().fileName(), before);
+    QVERIFY(!fixture.child<PictureWidget>().labelText().isEmpty());
+    QCOMPARE(fixture.usableButtons(), (QStringList{"Apply", "Retry"}));
+    QTRY_COMPARE(reader.texts(), QStringList{message});
+}
+
+void PhotoFlowTest::withNothingShownBeforeALostPhotoLeavesBlack()
+{
+    DialogFixture fixture;
+    fixture.build();
+    FakeEngine::script().writesSlowly = true;
+    FakeEngine::script().fileSucceeds = false;
+    fixture.click("Photo");
+    const MessageReader reader;
+    FakeEngine::writePhoto();
+    auto &picture = fixture.child<PictureWidget>();
+    QVERIFY(!picture.hasPicture());
+    QCOMPARE(picture.fileName(), QString());
+    QTRY_COMPARE(reader.texts(), QStringList{"Save failed."});
+    fixture.click("Retry"); // there is no photo: nothing may be deleted
+    QCOMPARE(fixture.captures(), QStringList());
+}
+
+using Flow = void (CVistrelDlg::*)();
+Q_DECLARE_METATYPE(Flow)
+
+void PhotoFlowTest::whatNeedsThePhotosFileWaitsForIt_data()
+{
+    QTest::addColumn<Flow>("flow");
+    QTest::newRow("Live") << Flow(&CVistrelDlg::OnLive);
+    QTest::newRow("Accept") << Flow(&CVistrelDlg::OnAply);
+    QTest::newRow("List") << Flow(&CVistrelDlg::OnList);
+    QTest::newRow("Paste") << Flow(&CVistrelDlg::PutTVSPhoto);
+    QTest::newRow("Continuous Capture") << Flow(&CVistrelDlg::OnPhotSeq);
+    QTest::newRow("Movie") << Flow(&CVistrelDlg::OnRecord);
+}
+
+void PhotoFlowTest::whatNeedsThePhotosFileWaitsForIt()
+{
+    QFETCH(Flow, flow);
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    FakeEngine::script().writesSlowly = true;
+    dialog.OnPhoto();
+    const QString photo = fixture.child<PictureWidget>().fileName();
+    QVERIFY(!photo.isEmpty());
+    QVERIFY(!fixture.captures().contains(photo));
+    (dialog.*flow)();
+    QVERIFY(fixture.captures().contains(photo));
+}
+
+void PhotoFlowTest::throwingAPhotoAwayLeavesNothingToBeWritten()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    FakeEngine::script().writesSlowly = true;
+    dialog.OnPhoto();
+    dialog.OnRetake();
+    QVERIFY(!FakeEngine::isSaving());
+    QCOMPARE(fixture.captures(), QStringList());
+    QCOMPARE(dialog.displayMode(), LiveMode);
+}
+
+void PhotoFlowTest::closingTheWindowWaitsForThePhoto()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    FakeEngine::script().writesSlowly = true;
+    fixture.click("Photo");
+    dialog.close();
+    QCOMPARE(fixture.captures(), QStringList{fixture.child<PictureWidget>().fileName()});
+}
+
+// Nobody would be there to answer it at the end of a session.
+void PhotoFlowTest::aPhotoLostWhileTheWindowClosesOpensNoBox()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    FakeEngine::script().writesSlowly = true;
+    FakeEngine::script().fileSucceeds = false;
+    fixture.click("Photo");
+    const MessageReader reader;
+    dialog.close();
+    QTest::qWait(50); // nothing to wait for: a box that does not come
+    QCOMPARE(reader.texts(), QStringList());
+}
+
+void PhotoFlowTest::aCameraThatGoesWaitsForThePhoto()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    FakeEngine::script().writesSlowly = true;
+    fixture.click("Photo");
+    const MessageReader reader;
+    FakeEngine::loseCamera();
+    QCOMPARE(reader.texts().size(), 1);
+    QCOMPARE(fixture.captures().size(), 1);
+    QCOMPARE(dialog.displayMode(), LiveMode);
+    QCOMPARE(fixture.usableButtons(), (QStringList{"List", "Close"}));
+}
+
 void PhotoFlowTest::aFullDiskTakesNoPhoto()
 {
     DialogFixture fixture;
@@ -164,7 +347,7 @@ void PhotoFlowTest::aFullDiskTakesNoPhoto()
     DialogFixture::fillTheDisk();
     const QString text = DialogFixture::boxDuring([&] { dialog.OnPhoto(); });
     QVERIFY(text.startsWith(QStringLiteral("The disk free space is insufficient.\n")));
-    QCOMPARE(FakeEngine::callCount(QStringLiteral("SaveBitmap")), 0);
+    QCOMPARE(FakeEngine::callCount(QStringLiteral("startSaving")), 0);
     QVERIFY(dialog.hasError());
     QCOMPARE(fixture.usableButtons(), (QStringList{"List", "Close"}));
 }
