@@ -1,13 +1,13 @@
 #include "LabCommands.h"
 #include "LabPattern.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFrame>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 // A camera sends nothing while nobody sees its picture, and is back at once when somebody does.
 class TestRestingCamera : public QObject {

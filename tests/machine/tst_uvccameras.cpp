@@ -1,5 +1,6 @@
 #include "LabPattern.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 #include "UvcPlug.h"
 
 #include <QDir>
@@ -9,11 +10,9 @@
 #include <QImage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <memory>
 
-static const int patience = 60000; // ms, of an emulated machine
 // What is added there to the limit that an operation keeps.
 static const int slack = 1500; // ms
 static const QStringList smallPicture{"MJPG:320x240:15"};

@@ -1,9 +1,9 @@
+#include "Patience.h"
 #include "Session.h"
 
 #include "LabCommands.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 #include <QWidget>
 
 #include <memory>

@@ -1,9 +1,9 @@
 #include "LabCommands.h"
 #include "LabPattern.h"
+#include "Patience.h"
 #include "Session.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 #include <functional>
 #include <memory>

@@ -1,5 +1,6 @@
 #include "JpegPainter.h"
 #include "LabPattern.h"
+#include "Patience.h"
 #include "UsbIp.h"
 #include "UvcCamera.h"
 #include "UvcControls.h"
@@ -8,7 +9,6 @@
 #include <QDataStream>
 #include <QImage>
 #include <QTcpSocket>
-#include <QTest>
 #include <QtEndian>
 
 using UsbIp::Reading;

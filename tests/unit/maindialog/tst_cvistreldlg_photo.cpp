@@ -2,11 +2,11 @@
 #include "FakeEngine.h"
 #include "LiveVideoWidget.h"
 #include "MessageReader.h"
+#include "Patience.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
 
 #include <QFile>
-#include <QTest>
 
 /** Taking a photo, keeping it, throwing it away, and coming back to the live picture. */
 class PhotoFlowTest : public QObject {
