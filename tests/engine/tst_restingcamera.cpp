@@ -85,7 +85,7 @@ bool TestRestingCamera::isAtRest() const
 void TestRestingCamera::rest()
 {
     m_target.hide();
-    QTRY_VERIFY_WITH_TIMEOUT(isAtRest(), 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(isAtRest(), 30000);
 }
 
 /// The number of the frame that the target shows; -1 for none.
@@ -137,7 +137,7 @@ void TestRestingCamera::aPhotoWakesItAndIsANewOne()
     int first = photographed();
     QVERIFY2(first > last, qPrintable(QString("%1 after %2").arg(first).arg(last)));
     QVERIFY(photographed() >= first);
-    QTRY_VERIFY_WITH_TIMEOUT(isAtRest(), 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(isAtRest(), 30000);
     last = sent();
     m_target.show();
     first = photographed(); // before a new picture can have been seen
@@ -155,7 +155,7 @@ void TestRestingCamera::aMovieWakesItAndKeepsItAwake()
     QVERIFY(sent() > last + 20);
     m_engine->RecordStop();
     QVERIFY(QFile::exists(movie));
-    QTRY_VERIFY_WITH_TIMEOUT(isAtRest(), 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(isAtRest(), 30000);
     m_engine->Release(); // closed while it rests, it can be opened all the same
     m_engine->Create();
     QVERIFY(m_engine->created);
