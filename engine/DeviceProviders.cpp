@@ -5,6 +5,7 @@
 #include "ChangeListeners.h"
 #include "DemoCamera.h"
 #include "EngineLog.h"
+#include "GstStart.h"
 #include "MediaConnection.h"
 
 #include <QSet>
@@ -113,7 +114,7 @@ static GstObjectHandle<GstDeviceProvider> makeProvider(const char *name)
 static ProviderHandle startProvider(const char *name, const MediaConnection *connection,
                                     const DepartedHandle &departed)
 {
-    GstObjectHandle<GstDeviceProvider> provider = makeProvider(name);
+    GstObjectHandle<GstDeviceProvider> provider = startGstreamer() ? makeProvider(name) : nullptr;
     if (!provider)
         return nullptr;
     if (connection)
@@ -226,12 +227,18 @@ DeviceProviders::~DeviceProviders()
     listeners().remove(&m_changed);
 }
 
-void DeviceProviders::start(steady_clock::time_point deadline)
+void DeviceProviders::begin()
 {
     Sources &all = sources();
     beginToStart(all.videoNodes);
     if (connectMediaServer(all.mediaServer))
         beginToStart(all.mediaServer);
+}
+
+void DeviceProviders::start(steady_clock::time_point deadline)
+{
+    begin();
+    Sources &all = sources();
     awaitStart(all.videoNodes, deadline);
     awaitStart(all.mediaServer, deadline);
 }
