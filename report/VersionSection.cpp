@@ -7,7 +7,7 @@
 
 #include <sys/sysinfo.h>
 
-static constexpr quint64 megabyte = 1024 * 1024; // bytes
+static constexpr quint64 megabyte = 1048576; // bytes
 
 static int memory() // MB
 {
