@@ -77,13 +77,16 @@ void PictureLoader::later(const QString &name, QSize fit, QObject *receiver, Del
 
 void PictureLoader::prepare(const QString &name)
 {
+    for (const QSize fit : qAsConst(m_usualSizes))
+        prepare(name, fit);
+}
+
+void PictureLoader::prepare(const QString &name, QSize fit)
+{
     const PictureVersion version = PictureVersion::of(CapturedPicture::path(name));
     const QImage whole = CapturedPicture::remembered(version);
-    if (whole.isNull())
-        return;
-    for (const QSize fit : qAsConst(m_usualSizes))
-        if (!m_known.contains({version, fit}))
-            keep({version, fit}, scaled(whole, fit));
+    if (!whole.isNull() && !m_known.contains({version, fit}))
+        keep({version, fit}, scaled(whole, fit));
 }
 
 void PictureLoader::forget(const QObject *receiver)

@@ -49,6 +49,8 @@ public:
     /// Makes the picture known in the usual sizes if it is the one that is remembered whole: a
     /// photo just taken then stands in the strip at once. Reads nothing.
     void prepare(const QString &name);
+    /// The same in the size @p fit alone, which may be a large one.
+    void prepare(const QString &name, QSize fit);
     /// Drops all that @p receiver still waits for.
     void forget(const QObject *receiver);
 

@@ -62,6 +62,14 @@ void PictureWidget::showPicture(const QString &name, const QImage &picture)
     update();
 }
 
+void PictureWidget::reload()
+{
+    PictureLoader::shared().forget(this);
+    m_fittedSize = sizeOnScreen();
+    m_pixmap = QPixmap::fromImage(PictureLoader::shared().now(m_fileName, m_fittedSize));
+    update();
+}
+
 void PictureWidget::Release()
 {
     PictureLoader::shared().forget(this);

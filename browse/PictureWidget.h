@@ -12,7 +12,8 @@ class QLabel;
  * or "Back" in its bottom right one.
  *
  * A widget is filled by Loadbmp() or loadLater() and emptied by Release(), any number of times. The
- * picture is kept in the size it was last painted in; only Loadbmp() brings the full quality back.
+ * picture is kept in the size it was last painted in; Loadbmp() and reload() bring the full quality
+ * back.
  * A file that cannot be read shows as bare black.
  */
 class PictureWidget : public QWidget {
@@ -29,6 +30,9 @@ public:
     void loadLater(const QString &name);
     /// Shows @p picture, which the file of that name holds or will hold; reads nothing.
     void showPicture(const QString &name, const QImage &picture);
+    /// Loads its own file again in the size that the widget has now, and reads it only if the
+    /// loader does not know it in that size.
+    void reload();
     void Release();
 
     /// Shows "Back" and an empty caption. The button is placed for the widget's present size.

@@ -8,6 +8,7 @@
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
 #include "PictureListView.h"
+#include "PictureLoader.h"
 #include "PictureWidget.h"
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
@@ -78,6 +79,11 @@ void CVistrelDlg::PictureSelected()
     m_pictureView->Loadbmp(m_pictureList->lastSelected());
     m_pictureView->update();
     m_pictureView->show();
+    // While the picture is at hand: a tile of it will be enlarged at once.
+    if (!m_pictureList->movieMode())
+        PictureLoader::shared().prepare(
+            m_pictureList->lastSelected(),
+            (QSizeF(m_videoRect.size()) * devicePixelRatioF()).toSize());
 }
 
 void CVistrelDlg::OnShow()
@@ -135,8 +141,8 @@ void CVistrelDlg::OnZoom(PictureWidget *pict)
 {
     for (PictureWidget *tile : qAsConst(m_tiles))
         tile->hide();
-    pict->Loadbmp(QString()); // its own file again, at full quality
     pict->setGeometry(m_videoRect);
+    pict->reload(); // its own file again, at full quality
     pict->ZoomMode();
     pict->show();
 }

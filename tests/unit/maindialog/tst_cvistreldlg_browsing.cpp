@@ -11,6 +11,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 #include <QSignalSpy>
 #include <phonon/mediaobject.h>
@@ -156,6 +157,7 @@ private Q_SLOTS:
 
     void zoomFillsThePictureAreaAndBackRebuildsTheTiles();
     void aZoomedPhotoHasItsFullQuality();
+    void aChosenPhotoIsEnlargedWithoutBeingReadAgain();
     void repeatedZoomAndBackAreHarmless();
 
     void viewOnAMovieLeadsToItsPlayback();
@@ -477,6 +479,23 @@ void BrowsingFlowTest::aZoomedPhotoHasItsFullQuality()
     tile->OnZoom();
     const QImage shown = tile->grab().toImage().convertToFormat(QImage::Format_RGB32);
     QCOMPARE(shown.copy(200, 100, 300, 200), stripes.copy(200, 100, 300, 200));
+}
+
+void BrowsingFlowTest::aChosenPhotoIsEnlargedWithoutBeingReadAgain()
+{
+    Browser browser(2);
+    browser.openAndSelect({0, 1});
+    browser.click("Show");
+    PictureWidget *tile = browser.tiles().value(0);
+    QTRY_COMPARE(middleOf(tile), Browser::colorOf(1));
+    // As large and as old as the photo, and no picture any more.
+    const QString path = browser.temporaryArea() + QLatin1Char('/') + photoName(1);
+    const QFileInfo photo(path);
+    browser.addFile(photoName(1), QByteArray(int(photo.size()), 'x'), photo.lastModified());
+    QVERIFY(QPixmap(path).isNull());
+    tile->OnZoom();
+    QVERIFY(tile->hasPicture());
+    QCOMPARE(middleOf(tile), Browser::colorOf(1));
 }
 
 void BrowsingFlowTest::repeatedZoomAndBackAreHarmless()
