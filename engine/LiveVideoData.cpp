@@ -221,7 +221,10 @@ LiveVideoData::LiveVideoData()
     source.picture = [this](const QSize &size) { return d->thread->takePicture(size); };
     d->painter.setSource(source);
     connect(&d->painter, &TargetPainter::roomChanged, this, [this] { d->followTarget(); });
-    connect(&d->saving, &StillSaving::ended, this, &LiveVideoData::bitmapSaved);
+    connect(&d->saving, &StillSaving::ended, this, [this](const QImage &written) {
+        d->savedPicture = written;
+        Q_EMIT bitmapSaved(!written.isNull());
+    });
 }
 
 LiveVideoData::~LiveVideoData()

@@ -18,18 +18,16 @@ struct StillSaving::Desk {
     StillSaving *owner; ///< null once nobody waits there
 };
 
-namespace {
-struct Picture {
-    QImage ofFile; ///< RGB888, as it is written
-    QImage ofScreen; ///< the same pixels
-};
-} // namespace
-
-static Picture pictureOf(const CameraFrame &frame)
+static QImage pictureOf(const CameraFrame &frame, QImage::Format format)
 {
-    PictureConverter converter(QImage::Format_RGB888);
-    const QImage picture = converter.convert(frame, frame.size());
-    return {picture, picture.convertToFormat(QImage::Format_RGB32)};
+    return PictureConverter(format).convert(frame, frame.size());
+}
+
+// What was written, as it can be shown; null when that failed.
+static QImage written(const CameraFrame &frame, const QString &path)
+{
+    const QImage still = pictureOf(frame, QImage::Format_RGB888);
+    return writeStill(still, path) ? still.convertToFormat(QImage::Format_RGB32) : QImage();
 }
 
 StillSaving::StillSaving()
@@ -50,22 +48,22 @@ QImage StillSaving::begin(const std::shared_ptr<const CameraFrame> &frame, const
 {
     if (isRunning())
         return {};
-    const BoundedTask converting([frame] { return pictureOf(*frame); });
-    const Picture picture =
-        converting.waitUntil(steady_clock::now() + conversionLimit).value_or(Picture());
-    if (picture.ofFile.isNull() || picture.ofScreen.isNull())
+    const BoundedTask converting([frame] { return pictureOf(*frame, QImage::Format_RGB32); });
+    const QImage picture =
+        converting.waitUntil(steady_clock::now() + conversionLimit).value_or(QImage());
+    if (picture.isNull())
         return {};
     m_deadline = steady_clock::now() + limit;
     m_giveUp.start(limit);
-    m_writing.emplace([desk = m_desk, number = ++m_number, still = picture.ofFile, path] {
-        const bool isWritten = writeStill(still, path);
+    m_writing.emplace([desk = m_desk, number = ++m_number, frame, path] {
+        QImage still = written(*frame, path);
         const std::lock_guard<std::mutex> lock(desk->mutex);
         if (StillSaving *owner = desk->owner)
             QMetaObject::invokeMethod(
                 owner, [owner, number] { owner->arrived(number); }, Qt::QueuedConnection);
-        return isWritten;
+        return still;
     });
-    return picture.ofScreen;
+    return picture;
 }
 
 void StillSaving::arrived(int number)
@@ -78,10 +76,10 @@ void StillSaving::finish()
 {
     if (!m_writing)
         return;
-    const std::optional<bool> isWritten = m_writing->waitUntil(m_deadline);
-    if (!isWritten)
+    const std::optional<QImage> still = m_writing->waitUntil(m_deadline);
+    if (!still)
         qCInfo(engineLog) << "a photo is not on the disk in time";
     m_giveUp.stop();
     m_writing.reset();
-    Q_EMIT ended(isWritten.value_or(false));
+    Q_EMIT ended(still.value_or(QImage()));
 }

@@ -121,13 +121,14 @@ public:
     /// format is unknown or the file cannot be written, also when a slow disk reaches the limit.
     bool SaveBitmap(QString path);
 
-    /// What SaveBitmap() wrote last, as it was before it was encoded, so that it can be shown
-    /// without being read again. Null when that failed, or when it was taken already.
+    /// What SaveBitmap() or startSaving() wrote last, as it was before it was encoded, so that it
+    /// can be shown without being read again. Null when that failed, or when it was taken already.
     QImage takeSavedPicture();
 
     /// Takes the newest frame at the camera's full size like SaveBitmap(), but returns its picture
-    /// (RGB32) as soon as it can be shown: @p path is written meanwhile, whatever becomes of the
-    /// camera, and bitmapSaved() tells how that ended. Null, and nothing is written or told, when
+    /// (RGB32) as soon as it can be shown, in colours that may be a few levels off: @p path is
+    /// written meanwhile, whatever becomes of the camera, and bitmapSaved() tells how that ended;
+    /// then takeSavedPicture() has what was written. Null, and nothing is written or told, when
     /// there is no frame or when the last such file is still being written.
     QImage startSaving(const QString &path);
     /// Waits for the file of startSaving(); bitmapSaved() is emitted before this returns. Returns

@@ -7,7 +7,6 @@
 #include "SpareMemory.h"
 
 #include <QElapsedTimer>
-#include <QImage>
 #include <QPointer>
 #include <QRect>
 #include <QString>
@@ -266,7 +265,6 @@ private:
     void tellPhotoIsLost();
 
     QString m_currentPhotoName; ///< bare name of the last photo, null when there is none
-    QImage m_unwrittenPhoto; ///< its picture, until its file is there
     QString m_photoBefore; ///< bare name of what the picture view showed before it
     bool m_photoPreview = true;
 

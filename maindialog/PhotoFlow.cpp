@@ -17,8 +17,6 @@
 
 #include <QFile>
 
-#include <utility>
-
 void CVistrelDlg::OnLive()
 {
     if (m_displayMode == LiveMode || isClosed())
@@ -67,7 +65,6 @@ void CVistrelDlg::showNewPhoto()
         m_pictureView->Loadbmp(QString()); // what was shown before
         return;
     }
-    m_unwrittenPhoto = photo.picture;
     m_photoBefore = m_pictureView->fileName();
     m_pictureView->showPicture(photo.name, photo.picture);
     holdButtons();
@@ -84,9 +81,8 @@ void CVistrelDlg::completePhoto()
 void CVistrelDlg::photoWritten(bool isWritten)
 {
     releaseButtons();
-    const QImage picture = std::exchange(m_unwrittenPhoto, QImage());
     if (isWritten) {
-        CapturedPicture::remember(m_currentPhotoName, picture);
+        CapturedPicture::remember(m_currentPhotoName, m_liveView->takeSavedPicture());
         PictureLoader::shared().prepare(m_currentPhotoName);
         return;
     }
