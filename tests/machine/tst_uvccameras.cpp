@@ -1,6 +1,6 @@
 #include "LabPattern.h"
 #include "LiveVideoData.h"
-#include "Patience.h"
+#include "MovieFile.h"
 #include "UvcPlug.h"
 
 #include <QDir>
@@ -8,11 +8,14 @@
 #include <QFile>
 #include <QFrame>
 #include <QImage>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <memory>
 
+static const int patience = 60000; // ms, of an emulated machine
 // What is added there to the limit that an operation keeps.
 static const int slack = 1500; // ms
 static const QStringList smallPicture{"MJPG:320x240:15"};
@@ -50,7 +53,9 @@ private Q_SLOTS:
     void aCameraThatStandsStillIsLostOnce();
     void aLooseContactIsToldAsALoss();
     void aPulledCameraIsLostOnceAndFoundInAnotherPort();
+    void ofAReleasedCameraNothingIsHeldOpen();
     void ofAPulledCameraNothingIsHeldOpen();
+    void aMovieOfAPulledCameraIsComplete();
     void aCameraThatAnswersNothingHoldsNobodyUp();
     void aCameraThatIsMuteWhenItIsOpenedHoldsNobodyUp();
     void twoOfOneModelAreKeptApart();
@@ -72,6 +77,7 @@ private:
 // The cameras are told apart by the colour of their pictures.
 void TestUvcCameras::initTestCase()
 {
+    QCOMPARE(QProcess::execute("modprobe", {"-a", "vhci-hcd", "uvcvideo", "snd-aloop"}), 0);
     const QImage picture = LabPattern::frame(64, 48, 1, LabPattern::groundOf("A1"));
     QVERIFY(LabPattern::worstDifference(picture, LabPattern::groundOf("C7")) > 48);
 }
@@ -224,6 +230,19 @@ void TestUvcCameras::aPulledCameraIsLostOnceAndFoundInAnotherPort()
 }
 
 // What is held open keeps its memory in the kernel, and the number of its node.
+void TestUvcCameras::ofAReleasedCameraNothingIsHeldOpen()
+{
+    UvcPlug camera("A1", {"YUYV:320x240:15"}); // its frames lie in the driver's memory
+    QVERIFY(camera.plugIn(0));
+    for (int round = 0; round < 2; ++round) {
+        open({"Desk Camera"});
+        QVERIFY(showsCameraOf("A1"));
+        QVERIFY(!heldNodes().isEmpty());
+        m_engine->Release();
+        QTRY_COMPARE_WITH_TIMEOUT(heldNodes(), QStringList(), patience / 10);
+    }
+}
+
 void TestUvcCameras::ofAPulledCameraNothingIsHeldOpen()
 {
     UvcPlug camera("A1", smallPicture);
@@ -240,6 +259,30 @@ void TestUvcCameras::ofAPulledCameraNothingIsHeldOpen()
         m_engine->Release();
         QTRY_COMPARE_WITH_TIMEOUT(heldNodes(), QStringList(), patience / 10);
     }
+}
+
+// The microphone is the other end of a sound card that is a loop.
+void TestUvcCameras::aMovieOfAPulledCameraIsComplete()
+{
+    UvcPlug camera("A1", smallPicture);
+    QVERIFY(camera.plugIn(0));
+    open({"Desk Camera"});
+    QTRY_VERIFY_WITH_TIMEOUT(m_engine->IsValidAudioDevice(), patience);
+    const QString path = m_folder.filePath("movie.mov");
+    m_engine->Record(path);
+    QVERIFY(m_engine->IsRecording());
+    const int begin = LabPattern::counterOf(photo());
+    QTRY_VERIFY_WITH_TIMEOUT(LabPattern::counterOf(photo()) > begin + 45, patience);
+    QVERIFY(camera.pullOut());
+    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, patience);
+    QVERIFY(!m_engine->IsRecording());
+    QTRY_VERIFY_WITH_TIMEOUT(m_engine->CompleteMovies(), patience);
+    const MovieFile movie(path);
+    QVERIFY2(movie.complaints().isEmpty(), qPrintable(movie.complaints().join('\n')));
+    QVERIFY2(movie.duration() > 2, qPrintable(QString::number(movie.duration())));
+    const QVector<int> counters = movie.counters();
+    QVERIFY(!counters.isEmpty());
+    QVERIFY2(counters.last() > begin + 30, qPrintable(QString::number(counters.last() - begin)));
 }
 
 void TestUvcCameras::aCameraThatAnswersNothingHoldsNobodyUp()

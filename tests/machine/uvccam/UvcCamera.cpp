@@ -118,7 +118,7 @@ void UvcCamera::submit(const Request &request)
         m_unheard.append(request);
     else if (request.endpoint == 0)
         control(request);
-    else if (request.endpoint == UvcDescriptors::streamEndpoint && request.isIn)
+    else if (request.endpoint == UvcDescriptors::streamEndpoint && request.isIn && !m_isHalted)
         m_video.append(request);
     else
         m_kernel->write(UsbIp::submitReply(request, UsbIp::stalled));
@@ -147,6 +147,8 @@ void UvcCamera::control(const Request &request)
     const UvcControls::Answer answer = m_controls.answer(request.setup, request.data);
     const int state = answer.isStalled ? UsbIp::stalled : UsbIp::fine;
     m_kernel->write(UsbIp::submitReply(request, state, answer.data));
+    if (answer.commits || answer.halts)
+        m_isHalted = false;
     if (answer.commits)
         beginStream();
     if (answer.halts)
@@ -242,6 +244,7 @@ bool UvcCamera::command(const QString &line)
     } else if (what == "mute") {
         m_isMute = true;
     } else if (what == "halt") {
+        m_isHalted = true;
         for (const Request &request : std::exchange(m_video, {}))
             m_kernel->write(UsbIp::submitReply(request, UsbIp::stalled));
     } else if (what == "go") {
@@ -260,6 +263,7 @@ bool UvcCamera::command(const QString &line)
 void UvcCamera::goOn()
 {
     m_isMute = false;
+    m_isHalted = false;
     m_torn = 0;
     m_empty = 0;
     m_stalls = false;

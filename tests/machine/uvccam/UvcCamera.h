@@ -40,7 +40,7 @@ public:
     ///   empty N    the next N frames are a JPEG without a picture
     ///   stall MS   no frame for so long; without a time, until "go"
     ///   mute       no answer to control requests, until "go"
-    ///   halt       the transfers under way fail, as those of a loose contact
+    ///   halt       the stream's endpoint fails, as by a loose contact, until it is set up anew
     ///   go         all is well again
     ///   attach N   plugged into port N of this machine's kernel, from 0 to 7
     ///   detach     as if the cable was pulled; it can be taken again
@@ -85,6 +85,7 @@ private:
     bool m_streams = false;
     bool m_stalls = false;
     bool m_isMute = false;
+    bool m_isHalted = false;
     int m_torn = 0;
     int m_empty = 0;
 };

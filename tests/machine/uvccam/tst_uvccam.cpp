@@ -197,6 +197,7 @@ private Q_SLOTS:
     void anEmptyFrameIsAJpegWithoutAPicture();
     void aStalledCameraGoesOnByItself();
     void aMuteCameraAnswersOnceItIsWellAgain();
+    void aLooseContactFailsUntilTheStreamIsSetUpAnew();
     void ofWhatWasCalledBackNothingMoreIsHeard();
     void aPulledCableEndsTheConnectionAndCanBePluggedInAgain();
 
@@ -516,6 +517,23 @@ void TestUvcCam::aMuteCameraAnswersOnceItIsWellAgain()
     QVERIFY(m_camera->command("go"));
     QCOMPARE(kernel.reply().data, UvcDescriptors::device(documentCamera()));
     QVERIFY(!m_camera->command("sing"));
+}
+
+void TestUvcCam::aLooseContactFailsUntilTheStreamIsSetUpAnew()
+{
+    Kernel kernel(m_port);
+    QVERIFY(kernel.take());
+    QVERIFY(kernel.beginStream(1, 2));
+    QVERIFY(m_camera->command("halt"));
+    for (const quint32 number : {7U, 8U}) {
+        kernel.send(submit(number, true, 1, 16384));
+        const Kernel::Reply reply = kernel.reply();
+        QCOMPARE(reply.number, number);
+        QCOMPARE(int(reply.state), UsbIp::stalled);
+        QVERIFY(reply.data.isEmpty());
+    }
+    QVERIFY(kernel.beginStream(1, 2));
+    QVERIFY(kernel.frame().endsWith("\xff\xd9"));
 }
 
 void TestUvcCam::ofWhatWasCalledBackNothingMoreIsHeard()
