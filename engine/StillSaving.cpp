@@ -49,8 +49,7 @@ QImage StillSaving::begin(const std::shared_ptr<const CameraFrame> &frame, const
     if (isRunning())
         return {};
     const BoundedTask converting([frame] { return pictureOf(*frame, QImage::Format_RGB32); });
-    const QImage picture =
-        converting.waitUntil(steady_clock::now() + conversionLimit).value_or(QImage());
+    QImage picture = converting.waitUntil(steady_clock::now() + conversionLimit).value_or(QImage());
     if (picture.isNull())
         return {};
     m_deadline = steady_clock::now() + limit;

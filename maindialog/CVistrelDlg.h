@@ -262,7 +262,7 @@ private:
     void photoWritten(bool isWritten);
     /// The photo shown could not be written: what was shown before it comes back.
     void withdrawPhoto();
-    void tellPhotoIsLost();
+    Q_INVOKABLE void tellPhotoIsLost();
 
     QString m_currentPhotoName; ///< bare name of the last photo, null when there is none
     QString m_photoBefore; ///< bare name of what the picture view showed before it

@@ -87,7 +87,7 @@ void CVistrelDlg::photoWritten(bool isWritten)
         return;
     }
     withdrawPhoto();
-    QMetaObject::invokeMethod(this, &CVistrelDlg::tellPhotoIsLost, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, "tellPhotoIsLost", Qt::QueuedConnection);
 }
 
 void CVistrelDlg::withdrawPhoto()
