@@ -41,6 +41,22 @@ function(orvanta_room name)
     endif()
 endfunction()
 
+# orvanta_test_program(NAME SOURCES file... [USES target...])
+# One test program that nobody runs by itself. NAME.cpp is the source with its test object.
+function(orvanta_test_program name)
+    cmake_parse_arguments(TEST "" "" "SOURCES;USES" ${ARGN})
+    add_executable(${name} ${TEST_SOURCES})
+    target_link_libraries(${name} PRIVATE ${TEST_USES} orvanta_test_options)
+    orvanta_use_precompiled(${name} test)
+    # One file to be looked through by moc, the one that includes the outcome: quicker than to look
+    # for such files, and to build what was found, in each of so many programs.
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
+    set(moc ${CMAKE_CURRENT_BINARY_DIR}/${name}_moc)
+    qt5_generate_moc(${name}.cpp ${moc}/${name}.moc TARGET ${name})
+    target_sources(${name} PRIVATE ${moc}/${name}.moc)
+    target_include_directories(${name} PRIVATE ${moc})
+endfunction()
+
 # orvanta_test(NAME LABEL unit|engine|system SOURCES file... [USES target...] [COST seconds]
 #              [COMMAND prefix...] [LAB option...] [ALONE] [BUSY] [THREADS])
 # One test program. Unit tests draw on the offscreen platform. COMMAND is put before the program.
@@ -56,16 +72,7 @@ function(orvanta_test name)
     if(NOT TEST_COST)
         set(TEST_COST 5)
     endif()
-    add_executable(${name} ${TEST_SOURCES})
-    target_link_libraries(${name} PRIVATE ${TEST_USES} orvanta_test_options)
-    orvanta_use_precompiled(${name} test)
-    # One file to be looked through by moc, the one that includes the outcome: quicker than to look
-    # for such files, and to build what was found, in each of so many programs.
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
-    set(moc ${CMAKE_CURRENT_BINARY_DIR}/${name}_moc)
-    qt5_generate_moc(${name}.cpp ${moc}/${name}.moc TARGET ${name})
-    target_sources(${name} PRIVATE ${moc}/${name}.moc)
-    target_include_directories(${name} PRIVATE ${moc})
+    orvanta_test_program(${name} SOURCES ${TEST_SOURCES} USES ${TEST_USES})
     if(TEST_THREADS)
         list(APPEND TEST_LABEL threads)
         add_dependencies(orvanta_threads_tests ${name})

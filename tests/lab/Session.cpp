@@ -13,8 +13,10 @@
 
 namespace {
 
-constexpr int startLimit = 60000; // also of a busy machine
-constexpr int reactionLimit = 30000;
+// An emulated machine needs many times as long as the one that it runs on.
+const int patience = qMax(1, qEnvironmentVariableIntValue("ORVANTA_LAB_PATIENCE"));
+const int startLimit = 60000 * patience; // ms, also of a busy machine
+const int reactionLimit = 30000 * patience; // ms
 // Colours that went through the camera's luma and chroma, and through scaling.
 constexpr int colourTolerance = 16;
 
