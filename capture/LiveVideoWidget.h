@@ -67,8 +67,8 @@ public:
 
     /// Writes one photo into the temporary area. Its bare file name, or a null string on failure.
     QString SaveBmp();
-    /// The picture of that photo, or of one that was just written, to be shown without being read again; null when there is none, or
-    /// when it was taken already.
+    /// The picture of that photo, or of one that was just written, to be shown without being read
+    /// again; null when there is none, or when it was taken already.
     QImage takeSavedPicture();
 
     /// A photo that has been taken: its bare file name, and what it shows (RGB32).

@@ -124,8 +124,8 @@ void CWindowManagement::askForTop(unsigned long windowId)
         return;
     static const xcb_atom_t restack = [connection] {
         const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&free)> reply(
-            xcb_intern_atom_reply(
-                connection, xcb_intern_atom(connection, 0, sizeof name - 1, name), nullptr),
+            xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, sizeof name - 1, name),
+                                  nullptr),
             free);
         return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
     }();

@@ -114,9 +114,8 @@ void TestRestingCamera::itRestsOutOfSightAndIsBackWithANewPicture()
 {
     const QSignalSpy losses(m_engine.get(), &LiveVideoData::disconnectDevice);
     rest();
-    // Nothing to wait for: longer than a silence may be, and after 5 s the session manager closes
-    // what nobody looks at.
-    QTest::qWait(5500);
+    // Longer than a silence may be, and after 5 s the session manager closes what nobody looks at.
+    QTest::qWait(5500); // nothing to wait for: it tells nobody
     QCOMPARE(losses.count(), 0);
     const int last = sent();
     QElapsedTimer timer;
