@@ -1,9 +1,9 @@
 #include "MovieSession.h"
 
 #include "LabCommands.h"
+#include "MovieProbe.h"
 #include "Opening.h"
 #include "Patience.h"
-#include "MovieProbe.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -113,7 +113,8 @@ void TestModeChooser::theFirstDifferenceThatCountsIsNamed_data()
                                << QByteArray("more frames a second");
     QTest::newRow("not too large")
         << raw(640, 480, 30) << jpeg(3840, 2160, 30) << QByteArray("a size of at most 1920x1080");
-    QTest::newRow("larger") << jpeg(1280, 720, 60) << raw(640, 480, 30) << QByteArray("the better size");
+    QTest::newRow("larger") << jpeg(1280, 720, 60) << raw(640, 480, 30)
+                            << QByteArray("the better size");
     QTest::newRow("not faster than needed") << jpeg(640, 480, 30) << raw(640, 480, 60)
                                             << QByteArray("a rate nearer to 30 frames a second");
     QTest::newRow("raw") << raw(640, 480, 30, "BGR") << jpeg(640, 480, 30)
