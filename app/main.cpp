@@ -83,7 +83,6 @@ int main(int argc, char **argv)
     QtSingleApplication application("Orvanta", argc, argv);
     if (application.sendMessage("Wake up!", 5000))
         return 0;
-    LiveVideoWidget::prepare(); // the servers answer while the window is built
     // The answer is not needed: a copy that is there but did not respond in time must not keep the
     // camera from being used.
     application.isRunning();

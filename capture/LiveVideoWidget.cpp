@@ -79,11 +79,6 @@ void LiveVideoWidget::setInterruption(const std::function<bool()> &wanted)
     LiveVideoData::SetInterruption(wanted);
 }
 
-void LiveVideoWidget::prepare()
-{
-    LiveVideoData::Prepare();
-}
-
 QStringList LiveVideoWidget::getVideoDeviceList()
 {
     return m_engine.GetVideoDeviceList();

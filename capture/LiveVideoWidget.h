@@ -38,9 +38,6 @@ public:
     /// Opening a camera is given up as soon as @p wanted says that the program is to end.
     static void setInterruption(const std::function<bool()> &wanted);
 
-    /// Begins to look for cameras, while the program still builds its window.
-    static void prepare();
-
     /// Names in device order; a position in the list is what setVideoDevice() takes.
     QStringList getVideoDeviceList();
     /// Whether that list is all there is; false while a server or a driver is still thinking.

@@ -5,7 +5,6 @@
 #include "ChangeListeners.h"
 #include "DemoCamera.h"
 #include "EngineLog.h"
-#include "GstStart.h"
 #include "MediaConnection.h"
 
 #include <QSet>
@@ -114,7 +113,7 @@ static GstObjectHandle<GstDeviceProvider> makeProvider(const char *name)
 static ProviderHandle startProvider(const char *name, const MediaConnection *connection,
                                     const DepartedHandle &departed)
 {
-    GstObjectHandle<GstDeviceProvider> provider = startGstreamer() ? makeProvider(name) : nullptr;
+    GstObjectHandle<GstDeviceProvider> provider = makeProvider(name);
     if (!provider)
         return nullptr;
     if (connection)
@@ -227,18 +226,12 @@ DeviceProviders::~DeviceProviders()
     listeners().remove(&m_changed);
 }
 
-void DeviceProviders::begin()
+void DeviceProviders::start(steady_clock::time_point deadline)
 {
     Sources &all = sources();
     beginToStart(all.videoNodes);
     if (connectMediaServer(all.mediaServer))
         beginToStart(all.mediaServer);
-}
-
-void DeviceProviders::start(steady_clock::time_point deadline)
-{
-    begin();
-    Sources &all = sources();
     awaitStart(all.videoNodes, deadline);
     awaitStart(all.mediaServer, deadline);
 }

@@ -33,10 +33,7 @@ public:
     ~DeviceProviders();
     Q_DISABLE_COPY(DeviceProviders)
 
-    /// Begins to start every provider that does not run yet, without waiting for any.
-    static void begin();
-
-    /// The same, and waits for those that are being started, until @p deadline at most.
+    /// Starts every provider that does not run yet; waits for them until @p deadline at most.
     static void start(std::chrono::steady_clock::time_point deadline);
 
     enum class Answer {

@@ -14,15 +14,12 @@ static bool elementExists(const char *name)
 // A video node that is closed leaves its buffers to whoever still has one. On that way
 // GStreamer 1.22 forgets a reference: each camera that was ever opened stays open, with its memory
 // in the kernel and its node's number, until the program ends. So buffers are waited for, as other
-// drivers want it.
-static void letVideoNodesGo()
-{
-    qputenv("GST_V4L2_FORCE_DRAIN", "1");
-}
+// drivers want it. Said as the program is loaded: one thread must not change the environment while
+// another reads it.
+static const bool letsVideoNodesGo = qputenv("GST_V4L2_FORCE_DRAIN", "1");
 
 static bool startOnce()
 {
-    letVideoNodesGo();
     GError *reason = nullptr;
     const bool started = gst_init_check(nullptr, nullptr, &reason);
     const GlibErrorHandle error(reason);

@@ -242,12 +242,6 @@ void LiveVideoData::SetInterruption(const std::function<bool()> &wanted)
     PatientCall::setInterruption(wanted);
 }
 
-void LiveVideoData::Prepare()
-{
-    MicrophoneFinder::begin();
-    DeviceProviders::begin();
-}
-
 void LiveVideoData::SetTarget(QWidget *target)
 {
     d->painter.setTarget(target);

@@ -86,10 +86,6 @@ public:
     /// that the program is to end. For all engines of the process; null for never, as at first.
     static void SetInterruption(const std::function<bool()> &wanted);
 
-    /// Begins to look for cameras and microphones, on the side: the first list, or Create(), then
-    /// has less to wait for. For all engines of the process; may be left out.
-    static void Prepare();
-
     /// The widget the picture is painted into; null for none.
     void SetTarget(QWidget *target);
 

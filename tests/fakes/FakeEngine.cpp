@@ -98,8 +98,6 @@ LiveVideoData::~LiveVideoData()
 
 void LiveVideoData::SetInterruption(const std::function<bool()> &) { }
 
-void LiveVideoData::Prepare() { }
-
 void LiveVideoData::SetTarget(QWidget *target)
 {
     note(QStringLiteral("SetTarget()"));
