@@ -312,10 +312,12 @@ void TestEnginePicture::nothingIsPaintedForAHiddenTarget()
     const EngineLogReader reader;
     m_target->hide();
     open("small");
+    const SpareTime spare;
     QTest::qWait(500); // nothing to wait for: the frames are counted at the end only
     m_engine->Release();
     const QPair<int, int> counts = framesTakenAndPainted();
-    QVERIFY2(counts.first >= 10, qPrintable(QString::number(counts.first)));
+    QVERIFY2(counts.first >= (spare.isPlenty() ? 10 : 1),
+             qPrintable(QString::number(counts.first)));
     QCOMPARE(counts.second, 0);
 }
 
