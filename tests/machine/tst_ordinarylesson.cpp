@@ -67,7 +67,9 @@ void TestOrdinaryLesson::aMovieHasPictureAndSound()
     QCOMPARE(movie.pixelFormat(), QStringLiteral("yuv420p"));
     QVERIFY2(movie.videoDuration() > 4, qPrintable(QString::number(movie.videoDuration())));
     QVERIFY2(qAbs(movie.soundDuration() - movie.videoDuration()) < 0.5,
-             qPrintable(QString::number(movie.soundDuration())));
+             qPrintable(QStringLiteral("a picture of %1 s, sound of %2 s")
+                            .arg(movie.videoDuration())
+                            .arg(movie.soundDuration())));
     QVERIFY(m_user->pressWhenReady(WindowMap::MovieScreen, "Live"));
     QVERIFY(m_user->movesAt(m_user->map().videoRect()));
 }
