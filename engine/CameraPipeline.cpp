@@ -4,14 +4,8 @@
 #include "FrameTap.h"
 #include "PipelineStart.h"
 #include "PipelineTools.h"
-#include "WakeGate.h"
 
-#include <QDeadlineTimer>
 #include <QVector>
-
-#include <algorithm>
-
-static constexpr qint64 wakingLook = 5; // ms between two looks at a camera that wakes
 
 std::unique_ptr<CameraPipeline> CameraPipeline::build(GstObjectHandle<GstElement> source,
                                                       GstMiniHandle<GstCaps> format,
@@ -97,9 +91,6 @@ bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<
         qCWarning(engineLog, "the pipeline of the camera cannot be built");
         return false;
     }
-    const GstObjectHandle<GstPad> first(gst_element_get_static_pad(elements.at(1), "sink"));
-    m_gate = std::make_shared<WakeGate>();
-    WakeGate::attach(m_gate, first.get());
     m_source = std::move(source);
     m_sink.reset(static_cast<GstElement *>(gst_object_ref(sink)));
     return true;
@@ -117,45 +108,15 @@ bool CameraPipeline::play()
     return startPipeline(m_pipeline.get(), m_source.get());
 }
 
-GstMiniHandle<GstSample> CameraPipeline::pull(qint64 milliseconds)
-{
-    return GstMiniHandle<GstSample>(gst_app_sink_try_pull_sample(
-        GST_APP_SINK(m_sink.get()), GstClockTime(milliseconds) * GST_MSECOND));
-}
-
-GstMiniHandle<GstSample> CameraPipeline::firstAfterRest(int milliseconds)
-{
-    const QDeadlineTimer deadline(milliseconds);
-    GstMiniHandle<GstSample> sample;
-    while (!sample && !deadline.hasExpired()) {
-        keepResuming(m_source.get());
-        sample = pull(std::min(wakingLook, deadline.remainingTime()));
-    }
-    m_wakes = !sample;
-    return sample;
-}
-
 GstMiniHandle<GstSample> CameraPipeline::nextSample(int milliseconds)
 {
-    GstMiniHandle<GstSample> sample = m_wakes ? firstAfterRest(milliseconds) : pull(milliseconds);
+    GstMiniHandle<GstSample> sample(gst_app_sink_try_pull_sample(
+        GST_APP_SINK(m_sink.get()), GstClockTime(milliseconds) * GST_MSECOND));
     if (sample && !m_delivers) {
         m_delivers = true;
         dumpPipeline(m_pipeline.get(), "playing");
     }
     return sample;
-}
-
-bool CameraPipeline::rest()
-{
-    return pausePipeline(m_pipeline.get());
-}
-
-bool CameraPipeline::wake()
-{
-    pull(0); // of before the rest
-    m_gate->close();
-    m_wakes = true;
-    return resumePipeline(m_pipeline.get());
 }
 
 QString CameraPipeline::failure()

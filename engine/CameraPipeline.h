@@ -11,7 +11,6 @@
 #include <memory>
 
 class FrameTap;
-class WakeGate;
 
 /**
  * The pipeline from one camera to its newest frame:
@@ -45,13 +44,6 @@ public:
     /// The next frame, or the newest when several have come; null after @p milliseconds.
     GstMiniHandle<GstSample> nextSample(int milliseconds);
 
-    /// Has the camera send nothing until wake(); false when it refuses. It stays ours.
-    bool rest();
-
-    /// Goes on after rest(); false when the camera refuses at once. The next frame is one that was
-    /// taken after this.
-    bool wake();
-
     /// What ended the camera, empty while it is well.
     QString failure();
 
@@ -59,8 +51,6 @@ public:
 
 private:
     CameraPipeline() = default;
-    GstMiniHandle<GstSample> pull(qint64 milliseconds);
-    GstMiniHandle<GstSample> firstAfterRest(int milliseconds);
     bool assemble(GstObjectHandle<GstElement> source, GstMiniHandle<GstCaps> format);
 
     CameraMode m_mode;
@@ -68,9 +58,7 @@ private:
     GstObjectHandle<GstBus> m_bus;
     GstObjectHandle<GstElement> m_source;
     GstObjectHandle<GstElement> m_sink;
-    std::shared_ptr<WakeGate> m_gate;
     bool m_delivers = false; ///< the first frame has come
-    bool m_wakes = false; ///< the first frame after a rest has not come yet
 };
 
 #endif

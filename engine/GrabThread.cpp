@@ -19,12 +19,10 @@ using std::chrono::steady_clock;
 
 static const milliseconds closeLimit(2000);
 static const int pullLimit = 50; // ms; how long a stop may go unnoticed
-// How long a failure may go unnoticed that a camera which rests tells of itself: nobody is looking.
-static const milliseconds restingLook(1000);
 
 class GrabThread::Private {
 public:
-    enum class State { Opening, Running, Resting, Failed };
+    enum class State { Opening, Running, Failed };
 
     // Worker only.
     std::unique_ptr<CameraPipeline> camera; ///< handed over before the worker starts
@@ -37,11 +35,10 @@ public:
 
     /// Guards everything below, and the thread's m_lastFrame.
     mutable std::mutex mutex;
-    std::condition_variable changed; ///< of state, mayRest or stop
+    std::condition_variable changed; ///< the first frame came, or the camera failed
     State state = State::Opening;
     std::shared_ptr<const CameraFrame> frame;
     bool seen = false;
-    bool mayRest = false;
     bool announced = false; ///< grabtrue() is under way and its frame was not painted yet
 };
 
@@ -65,7 +62,7 @@ bool GrabThread::waitForFrame(int limit)
     waitPatiently(steady_clock::now() + milliseconds(limit), [this](auto until) {
         std::unique_lock<std::mutex> lock(d->mutex);
         return d->changed.wait_until(lock, until, [this] {
-            return d->state == Private::State::Running || d->state == Private::State::Failed;
+            return d->state != Private::State::Opening;
         }) || PatientCall::isInterrupted();
     });
     const std::lock_guard<std::mutex> lock(d->mutex);
@@ -82,13 +79,6 @@ void GrabThread::setSeen(bool seen)
 {
     const std::lock_guard<std::mutex> lock(d->mutex);
     d->seen = seen;
-}
-
-void GrabThread::setResting(bool resting)
-{
-    const std::lock_guard<std::mutex> lock(d->mutex);
-    d->mayRest = resting;
-    d->changed.notify_all();
 }
 
 std::shared_ptr<const CameraFrame> GrabThread::takeFrame()
@@ -125,11 +115,7 @@ void GrabThread::retire(GrabThread *thread)
     if (!thread)
         return;
     thread->disconnect();
-    {
-        const std::lock_guard<std::mutex> lock(thread->d->mutex);
-        thread->d->stop = true;
-        thread->d->changed.notify_all();
-    }
+    thread->d->stop = true;
     // Deletes itself when it ends late; until then nothing refers to it any more.
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     const bool ended =
@@ -168,12 +154,6 @@ void GrabThread::grabUntilEnd()
 {
     SilenceWatch watch(d->camera->mode().rate());
     while (!d->stop) {
-        if (beginRest()) {
-            if (!restUntilWanted())
-                return;
-            watch.frameCame();
-            continue;
-        }
         QElapsedTimer look;
         look.start();
         const std::shared_ptr<CameraFrame> frame =
@@ -198,39 +178,6 @@ void GrabThread::grabUntilEnd()
     }
 }
 
-// The newest frame goes first: whoever wants one from now on is given one that is taken later.
-bool GrabThread::beginRest()
-{
-    std::shared_ptr<const CameraFrame> last;
-    const std::lock_guard<std::mutex> lock(d->mutex);
-    if (!d->mayRest || d->state != Private::State::Running)
-        return false;
-    d->state = Private::State::Resting;
-    m_lastFrame = cv::Mat();
-    d->frame.swap(last);
-    return true;
-}
-
-// False when the camera failed meanwhile, or will not go on.
-bool GrabThread::restUntilWanted()
-{
-    if (!d->camera->rest())
-        qCInfo(engineLog, "the camera refuses to rest");
-    const auto isWanted = [this] { return !d->mayRest || d->stop; };
-    QString failure;
-    std::unique_lock<std::mutex> lock(d->mutex);
-    while (failure.isEmpty() && !d->changed.wait_for(lock, restingLook, isWanted)) {
-        lock.unlock();
-        failure = d->camera->failure();
-        lock.lock();
-    }
-    lock.unlock();
-    if (failure.isEmpty() && (d->stop || d->camera->wake()))
-        return true;
-    qCInfo(engineLog) << "the camera failed while it rested:" << failure;
-    return false;
-}
-
 void GrabThread::keepFrame(const std::shared_ptr<CameraFrame> &frame)
 {
     ++d->frames;
@@ -238,7 +185,7 @@ void GrabThread::keepFrame(const std::shared_ptr<CameraFrame> &frame)
     const std::lock_guard<std::mutex> lock(d->mutex);
     m_lastFrame = frame->view();
     d->frame.swap(previous);
-    if (d->state != Private::State::Running) {
+    if (d->state == Private::State::Opening) {
         d->state = Private::State::Running;
         d->changed.notify_all();
     }

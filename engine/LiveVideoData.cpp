@@ -19,8 +19,6 @@
 #include "StillWriter.h"
 #include "TargetPainter.h"
 
-#include <QTimer>
-
 #include <utility>
 
 using std::chrono::steady_clock;
@@ -29,14 +27,10 @@ using std::chrono::steady_clock;
 // one that was not there.
 static const std::chrono::milliseconds listLimit = PatientCall::usualLimit;
 static const int openLimit = 4400; // ms of longLimit, which leaves a moment for closing again
-static const int wakeLimit = 2800; // ms; one that stays silent for little longer is lost
 static const std::chrono::milliseconds stillLimit = StillSaving::limit;
 static const std::chrono::seconds completionLimit(10);
 // The sound server was connected to with the camera: a movie waits only for one started anew.
 static const std::chrono::milliseconds microphoneLimit(200);
-// How long a camera runs on unseen: between two screens nobody waits for it, and whoever looks at a
-// photo for a moment only has the live picture back at once.
-static const std::chrono::milliseconds restDelay(1000);
 
 class LiveVideoData::Private {
 public:
@@ -45,8 +39,6 @@ public:
         , providers(lookAgain(engine))
         , microphones(lookAgain(engine))
     {
-        restTimer.setSingleShot(true);
-        connect(&restTimer, &QTimer::timeout, engine, [this] { letRest(); });
     }
 
     static std::function<void()> lookAgain(LiveVideoData *engine);
@@ -56,10 +48,7 @@ public:
     void loseCamera();
     std::chrono::milliseconds closingLimit() const;
     void setShowing(bool on);
-    bool isSeen() const { return showing && painter.hasRoom(); }
     void followTarget();
-    void letRest();
-    std::shared_ptr<const CameraFrame> newestFrame();
     QVector<CameraMode> modes() const;
 
     LiveVideoData *q;
@@ -73,7 +62,6 @@ public:
     GrabThread *thread = nullptr; ///< null while there is none, or it is lost
     CameraHandle camera; ///< null while there is none, or it is lost
     bool showing = false;
-    QTimer restTimer; ///< runs while a picture that is shown is out of sight
     QImage savedPicture; ///< of the last photo, until it is taken
     StillSaving saving;
     MovieMaker movie{microphones, [this] { Q_EMIT q->recordend(); }};
@@ -144,7 +132,6 @@ bool LiveVideoData::Private::open(const CameraHandle &chosen, const QSize &size)
 
 void LiveVideoData::Private::close()
 {
-    restTimer.stop();
     movie.stop();
     GrabThread::retire(thread);
     thread = nullptr;
@@ -177,32 +164,8 @@ void LiveVideoData::Private::setShowing(bool on)
 // Tells the worker what is wanted on the screen now: nothing while the target cannot be seen.
 void LiveVideoData::Private::followTarget()
 {
-    if (!thread)
-        return;
-    thread->setSeen(isSeen());
-    if (showing && !isSeen()) {
-        restTimer.start(restDelay);
-    } else {
-        restTimer.stop();
-        thread->setResting(false);
-    }
-}
-
-void LiveVideoData::Private::letRest()
-{
-    if (thread && !movie.isRecording())
-        thread->setResting(true);
-}
-
-// A camera that rests is woken for it, and rests again a while later.
-std::shared_ptr<const CameraFrame> LiveVideoData::Private::newestFrame()
-{
-    if (!thread)
-        return nullptr;
-    thread->setResting(false);
-    followTarget();
-    thread->waitForFrame(wakeLimit);
-    return thread->newestFrame();
+    if (thread)
+        thread->setSeen(showing && painter.hasRoom());
 }
 
 QVector<CameraMode> LiveVideoData::Private::modes() const
@@ -335,7 +298,7 @@ bool LiveVideoData::SaveBitmap(QString path)
 {
     const PatientCall call(stillLimit);
     d->savedPicture = QImage();
-    const std::shared_ptr<const CameraFrame> frame = d->newestFrame();
+    const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
     if (!frame)
         return false;
     const BoundedTask writing([frame, path] {
@@ -355,7 +318,7 @@ QImage LiveVideoData::takeSavedPicture()
 QImage LiveVideoData::startSaving(const QString &path)
 {
     const PatientCall call;
-    const std::shared_ptr<const CameraFrame> frame = d->newestFrame();
+    const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
     return frame ? d->saving.begin(frame, path) : QImage();
 }
 
@@ -368,7 +331,7 @@ void LiveVideoData::finishSaving()
 void LiveVideoData::Record(const QString &path)
 {
     const PatientCall call;
-    const std::shared_ptr<const CameraFrame> frame = d->newestFrame();
+    const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
     if (!frame) {
         d->movie.refuse(MovieOutcome::NoCamera);
         return;
@@ -445,7 +408,6 @@ void LiveVideoData::RecordMovie()
 {
     const PatientCall call(PatientCall::longLimit);
     d->movie.stop();
-    d->followTarget();
 }
 
 void LiveVideoData::device()

@@ -101,31 +101,9 @@ bool startPipeline(GstElement *pipeline, GstElement *source)
 
 void stopPipeline(GstElement *pipeline, GstElement *source)
 {
-    if (isOfMediaServer(source) && GST_STATE(source) >= GST_STATE_PAUSED) {
+    if (isOfMediaServer(source) && GST_STATE(source) == GST_STATE_PLAYING) {
         gst_element_set_state(pipeline, GST_STATE_PAUSED);
         std::this_thread::sleep_for(grace);
     }
     gst_element_set_state(pipeline, GST_STATE_NULL);
-}
-
-bool pausePipeline(GstElement *pipeline)
-{
-    return gst_element_set_state(pipeline, GST_STATE_PAUSED) != GST_STATE_CHANGE_FAILURE;
-}
-
-bool resumePipeline(GstElement *pipeline)
-{
-    return play(pipeline);
-}
-
-// What ends a source's task is only begun anew behind a flush.
-void keepResuming(GstElement *source)
-{
-    if (!isOfMediaServer(source))
-        return;
-    const GstObjectHandle<GstPad> pad(gst_element_get_static_pad(source, "src"));
-    if (gst_pad_get_task_state(pad.get()) == GST_TASK_STARTED)
-        return;
-    gst_element_send_event(source, gst_event_new_flush_start());
-    gst_element_send_event(source, gst_event_new_flush_stop(FALSE));
 }

@@ -21,18 +21,4 @@ bool startPipeline(GstElement *pipeline, GstElement *source);
  */
 void stopPipeline(GstElement *pipeline, GstElement *source);
 
-/**
- * Has a camera's pipeline pause, and go on; false when it refuses. The camera stays ours and keeps
- * its format, but sends nothing while it pauses. May hang in a driver.
- */
-bool pausePipeline(GstElement *pipeline);
-bool resumePipeline(GstElement *pipeline);
-
-/**
- * To be called every few milliseconds from resumePipeline() until a frame has come. A @p source of
- * the media server takes the moment until its server lets the camera stream for the end of all
- * frames, and gives up; this has it try once more.
- */
-void keepResuming(GstElement *source);
-
 #endif

@@ -35,8 +35,8 @@ public:
     /// Takes the camera over and starts to open it.
     void capture(std::unique_ptr<CameraPipeline> camera);
 
-    /// True as soon as the first frame is there, or the first after a rest; false when the camera
-    /// failed, or @p limit ms passed without one.
+    /// True as soon as the first frame is there; false when the camera failed, or @p limit ms
+    /// passed without one.
     bool waitForFrame(int limit);
 
     /// True once the camera failed by itself: an error, the end of its stream, or silence.
@@ -44,10 +44,6 @@ public:
 
     /// Whether somebody sees the picture: grabtrue() comes only then.
     void setSeen(bool seen);
-
-    /// Whether the camera may rest, which it does soon after its first frame: it stays open, sends
-    /// nothing, and there is no newest frame until it was woken. A camera that does not wake fails.
-    void setResting(bool resting);
 
     /// Fills @p picture, of RGB32 or ARGB32_Premultiplied, with the newest frame, opaque and scaled
     /// without regard to its aspect, and lets the next grabtrue() come. False, with the picture as
@@ -57,8 +53,7 @@ public:
     /// The same in a picture of @p size; a null image without a frame.
     QImage takePicture(const QSize &size);
 
-    /// The newest full-size frame, null before the first, while the camera rests and after it is
-    /// gone. The frame
+    /// The newest full-size frame, null before the first and after the camera is gone. The frame
     /// stays readable for as long as the caller holds it, also when the camera vanishes.
     std::shared_ptr<const CameraFrame> newestFrame() const;
 
@@ -77,8 +72,6 @@ protected:
 
 private:
     void grabUntilEnd();
-    bool beginRest();
-    bool restUntilWanted();
     void keepFrame(const std::shared_ptr<CameraFrame> &frame);
     void announceFrame();
     std::shared_ptr<const CameraFrame> takeFrame();

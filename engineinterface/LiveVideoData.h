@@ -66,10 +66,7 @@ class QWidget;
  *
  * The target is painted from its own paint event, by an event filter, and is never owned: it may be
  * resized, hidden, given another parent or destroyed at any time. No picture is converted while it
- * is hidden. When a picture that is shown has been out of sight for a second and no movie is
- * recorded, the camera rests: it stays open, its loss is told, but it sends nothing. It is woken
- * when the target is seen again, which is black until a new picture has come, and by SaveBitmap(),
- * startSaving() and Record(), which wait for one; a camera that does not wake is lost.
+ * is hidden.
  *
  * Threads: frames are taken and converted on a GrabThread. All signals leave on the GUI thread:
  * what happens by itself is told from the event loop, what an operation brings about from within
