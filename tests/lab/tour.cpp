@@ -7,6 +7,7 @@
 // another version of the program, is run after the first photo. Status 0 when every step worked.
 
 #include "LabPattern.h"
+#include "LayoutScale.h"
 #include "Session.h"
 
 #include <QApplication>
@@ -173,7 +174,9 @@ void leave(Tour *tour, Session *user)
 
 int main(int argc, char *argv[])
 {
+    LayoutScale::apply(); // as the program does it, for the twins of its buttons and boxes
     const QApplication application(argc, argv);
+    qunsetenv("QT_SCALE_FACTOR"); // the program finds it out by itself
     const QStringList arguments = QApplication::arguments();
     const QStringList size = arguments.value(4).split('x');
     if (size.size() != 2) {
