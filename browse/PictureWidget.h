@@ -13,8 +13,7 @@ class QLabel;
  *
  * A widget is filled by Loadbmp() or loadLater() and emptied by Release(), any number of times. The
  * picture is kept in the size it was last painted in; Loadbmp() and reload() bring the full quality
- * back.
- * A file that cannot be read shows as bare black.
+ * back. A file that cannot be read shows as bare black.
  */
 class PictureWidget : public QWidget {
     Q_OBJECT
