@@ -1,6 +1,7 @@
 #include "CameraPipeline.h"
 
 #include "EngineLog.h"
+#include "FrameGate.h"
 #include "FrameTap.h"
 #include "PipelineStart.h"
 #include "PipelineTools.h"
@@ -53,17 +54,26 @@ static GstElement *makeSink()
     return sink;
 }
 
+static bool isOfMediaServer(GstElement *source)
+{
+    return g_object_class_find_property(G_OBJECT_GET_CLASS(source), "always-copy") != nullptr;
+}
+
+static void setCopies(GstElement *source, bool on)
+{
+    g_object_set(source, "always-copy", on ? TRUE : FALSE, nullptr);
+}
+
 // For a camera of the media server. Its frames are copied: it takes their memory away, mapped or
 // not, the moment its node vanishes. Nor may another camera take the place of one that went.
 static void tuneSource(GstElement *source)
 {
-    GObjectClass *type = G_OBJECT_GET_CLASS(source);
-    if (!g_object_class_find_property(type, "stream-properties"))
+    if (!isOfMediaServer(source))
         return;
+    setCopies(source, true);
     const GstStructureHandle stream(
         gst_structure_new("props", "node.dont-reconnect", G_TYPE_BOOLEAN, TRUE, nullptr));
-    g_object_set(source, "do-timestamp", TRUE, "always-copy", TRUE, "stream-properties",
-                 stream.get(), nullptr);
+    g_object_set(source, "do-timestamp", TRUE, "stream-properties", stream.get(), nullptr);
 }
 
 bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<GstCaps> format)
@@ -91,6 +101,9 @@ bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<
         qCWarning(engineLog, "the pipeline of the camera cannot be built");
         return false;
     }
+    const GstObjectHandle<GstPad> first(gst_element_get_static_pad(elements.at(1), "sink"));
+    m_gate = std::make_shared<FrameGate>();
+    FrameGate::attach(m_gate, first.get());
     m_source = std::move(source);
     m_sink.reset(static_cast<GstElement *>(gst_object_ref(sink)));
     return true;
@@ -117,6 +130,30 @@ GstMiniHandle<GstSample> CameraPipeline::nextSample(int milliseconds)
         dumpPipeline(m_pipeline.get(), "playing");
     }
     return sample;
+}
+
+// Frames that are dropped unread need not be copied either, which takes most of what is left.
+void CameraPipeline::rest()
+{
+    m_gate->close();
+    if (isOfMediaServer(m_source.get()))
+        setCopies(m_source.get(), false);
+}
+
+bool CameraPipeline::sendsStill()
+{
+    return m_gate->takeDropped();
+}
+
+void CameraPipeline::wake()
+{
+    nextSample(0); // of before the rest
+    if (!isOfMediaServer(m_source.get())) {
+        m_gate->open(0);
+        return;
+    }
+    setCopies(m_source.get(), true);
+    m_gate->open(1); // that one may have left the source before
 }
 
 QString CameraPipeline::failure()

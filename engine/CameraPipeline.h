@@ -10,6 +10,7 @@
 
 #include <memory>
 
+class FrameGate;
 class FrameTap;
 
 /**
@@ -18,7 +19,8 @@ class FrameTap;
  *   source ! one fixed format ! (JPEG decoder) ! deinterlacer ! tee ! appsink that keeps one frame
  *
  * The format is fixed right behind the source, because a source that is left to choose takes a poor
- * mode or, on the media server, none at all. A movie takes its frames where they enter the tee.
+ * mode or, on the media server, none at all. There a FrameGate drops what nobody needs. A movie
+ * takes its frames where they enter the tee.
  *
  * Made on the GUI thread, then used by one worker only; play(), close() and destruction may hang
  * in a driver.
@@ -44,6 +46,15 @@ public:
     /// The next frame, or the newest when several have come; null after @p milliseconds.
     GstMiniHandle<GstSample> nextSample(int milliseconds);
 
+    /// Has the camera's frames dropped, as they come, until wake().
+    void rest();
+
+    /// Whether frames came during the rest since the last call.
+    bool sendsStill();
+
+    /// Ends the rest: the next frame is one that comes after this.
+    void wake();
+
     /// What ended the camera, empty while it is well.
     QString failure();
 
@@ -58,6 +69,7 @@ private:
     GstObjectHandle<GstBus> m_bus;
     GstObjectHandle<GstElement> m_source;
     GstObjectHandle<GstElement> m_sink;
+    std::shared_ptr<FrameGate> m_gate;
     bool m_delivers = false; ///< the first frame has come
 };
 

@@ -18,11 +18,13 @@ using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 static const milliseconds closeLimit(2000);
-static const int pullLimit = 50; // ms; how long a stop may go unnoticed
+static const milliseconds pullLimit(50); // how long a stop may go unnoticed
+// How long a failure or a silence may go unnoticed while nobody needs a frame.
+static const milliseconds restingLook(500);
 
 class GrabThread::Private {
 public:
-    enum class State { Opening, Running, Failed };
+    enum class State { Opening, Running, Resting, Failed };
 
     // Worker only.
     std::unique_ptr<CameraPipeline> camera; ///< handed over before the worker starts
@@ -35,10 +37,11 @@ public:
 
     /// Guards everything below, and the thread's m_lastFrame.
     mutable std::mutex mutex;
-    std::condition_variable changed; ///< the first frame came, or the camera failed
+    std::condition_variable changed; ///< of state, mayRest or stop
     State state = State::Opening;
     std::shared_ptr<const CameraFrame> frame;
     bool seen = false;
+    bool mayRest = false;
     bool announced = false; ///< grabtrue() is under way and its frame was not painted yet
 };
 
@@ -62,7 +65,7 @@ bool GrabThread::waitForFrame(int limit)
     waitPatiently(steady_clock::now() + milliseconds(limit), [this](auto until) {
         std::unique_lock<std::mutex> lock(d->mutex);
         return d->changed.wait_until(lock, until, [this] {
-            return d->state != Private::State::Opening;
+            return d->state == Private::State::Running || d->state == Private::State::Failed;
         }) || PatientCall::isInterrupted();
     });
     const std::lock_guard<std::mutex> lock(d->mutex);
@@ -79,6 +82,13 @@ void GrabThread::setSeen(bool seen)
 {
     const std::lock_guard<std::mutex> lock(d->mutex);
     d->seen = seen;
+}
+
+void GrabThread::setResting(bool resting)
+{
+    const std::lock_guard<std::mutex> lock(d->mutex);
+    d->mayRest = resting;
+    d->changed.notify_all();
 }
 
 std::shared_ptr<const CameraFrame> GrabThread::takeFrame()
@@ -115,7 +125,11 @@ void GrabThread::retire(GrabThread *thread)
     if (!thread)
         return;
     thread->disconnect();
-    thread->d->stop = true;
+    {
+        const std::lock_guard<std::mutex> lock(thread->d->mutex);
+        thread->d->stop = true;
+        thread->d->changed.notify_all();
+    }
     // Deletes itself when it ends late; until then nothing refers to it any more.
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     const bool ended =
@@ -156,17 +170,22 @@ void GrabThread::grabUntilEnd()
     while (!d->stop) {
         QElapsedTimer look;
         look.start();
-        const std::shared_ptr<CameraFrame> frame =
-            CameraFrame::fromSample(d->camera->nextSample(pullLimit));
+        const bool rests = beginRest();
+        const std::shared_ptr<CameraFrame> frame = rests
+            ? nullptr
+            : CameraFrame::fromSample(d->camera->nextSample(int(pullLimit.count())));
+        const bool sends = frame || (rests && rest());
         const QString failure = d->camera->failure();
         if (!failure.isEmpty()) {
             qCInfo(engineLog) << "the camera failed:" << failure;
             return;
         }
         if (frame) {
-            watch.frameCame();
             keepFrame(frame);
             announceFrame();
+        }
+        if (sends) {
+            watch.frameCame();
             continue;
         }
         // One look more than the limit asks for, in case the frame comes just now.
@@ -174,8 +193,31 @@ void GrabThread::grabUntilEnd()
             qCInfo(engineLog) << "no frame for" << watch.silence().count() << "ms";
             return;
         }
-        watch.lookedInVain(milliseconds(look.elapsed()), milliseconds(pullLimit));
+        watch.lookedInVain(milliseconds(look.elapsed()), rests ? restingLook : pullLimit);
     }
+}
+
+bool GrabThread::beginRest()
+{
+    const std::lock_guard<std::mutex> lock(d->mutex);
+    if (!d->mayRest || d->state == Private::State::Opening)
+        return false;
+    d->state = Private::State::Resting;
+    return true;
+}
+
+// One look at a camera of which nobody needs a frame; whether it sends. Ends early when one is
+// needed.
+bool GrabThread::rest()
+{
+    d->camera->rest();
+    std::unique_lock<std::mutex> lock(d->mutex);
+    const bool ends =
+        d->changed.wait_for(lock, restingLook, [this] { return !d->mayRest || d->stop; });
+    lock.unlock();
+    if (ends)
+        d->camera->wake();
+    return d->camera->sendsStill();
 }
 
 void GrabThread::keepFrame(const std::shared_ptr<CameraFrame> &frame)
@@ -185,7 +227,7 @@ void GrabThread::keepFrame(const std::shared_ptr<CameraFrame> &frame)
     const std::lock_guard<std::mutex> lock(d->mutex);
     m_lastFrame = frame->view();
     d->frame.swap(previous);
-    if (d->state == Private::State::Opening) {
+    if (d->state != Private::State::Running) {
         d->state = Private::State::Running;
         d->changed.notify_all();
     }

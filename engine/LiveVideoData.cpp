@@ -19,6 +19,8 @@
 #include "StillWriter.h"
 #include "TargetPainter.h"
 
+#include <QTimer>
+
 #include <utility>
 
 using std::chrono::steady_clock;
@@ -27,10 +29,14 @@ using std::chrono::steady_clock;
 // one that was not there.
 static const std::chrono::milliseconds listLimit = PatientCall::usualLimit;
 static const int openLimit = 4400; // ms of longLimit, which leaves a moment for closing again
+static const int wakeLimit = 2000; // ms; a camera that is well sends within a tenth of that
 static const std::chrono::milliseconds stillLimit = StillSaving::limit;
 static const std::chrono::seconds completionLimit(10);
 // The sound server was connected to with the camera: a movie waits only for one started anew.
 static const std::chrono::milliseconds microphoneLimit(200);
+// How long a camera's frames are taken unseen: a photo is taken when its screen is there already,
+// and whoever looks at one for a moment only has the live picture back as it is.
+static const std::chrono::milliseconds restDelay(1000);
 
 class LiveVideoData::Private {
 public:
@@ -39,6 +45,8 @@ public:
         , providers(lookAgain(engine))
         , microphones(lookAgain(engine))
     {
+        restTimer.setSingleShot(true);
+        connect(&restTimer, &QTimer::timeout, engine, [this] { letRest(); });
     }
 
     static std::function<void()> lookAgain(LiveVideoData *engine);
@@ -49,6 +57,8 @@ public:
     std::chrono::milliseconds closingLimit() const;
     void setShowing(bool on);
     void followTarget();
+    void letRest();
+    std::shared_ptr<const CameraFrame> newestFrame();
     QVector<CameraMode> modes() const;
 
     LiveVideoData *q;
@@ -62,6 +72,7 @@ public:
     GrabThread *thread = nullptr; ///< null while there is none, or it is lost
     CameraHandle camera; ///< null while there is none, or it is lost
     bool showing = false;
+    QTimer restTimer; ///< runs while a picture that is to be shown is out of sight
     QImage savedPicture; ///< of the last photo, until it is taken
     StillSaving saving;
     MovieMaker movie{microphones, [this] { Q_EMIT q->recordend(); }};
@@ -132,6 +143,7 @@ bool LiveVideoData::Private::open(const CameraHandle &chosen, const QSize &size)
 
 void LiveVideoData::Private::close()
 {
+    restTimer.stop();
     movie.stop();
     GrabThread::retire(thread);
     thread = nullptr;
@@ -164,8 +176,29 @@ void LiveVideoData::Private::setShowing(bool on)
 // Tells the worker what is wanted on the screen now: nothing while the target cannot be seen.
 void LiveVideoData::Private::followTarget()
 {
-    if (thread)
-        thread->setSeen(showing && painter.hasRoom());
+    if (!thread)
+        return;
+    const bool seen = showing && painter.hasRoom();
+    thread->setSeen(seen);
+    thread->setResting(false);
+    if (showing && !seen)
+        restTimer.start(restDelay);
+    else
+        restTimer.stop();
+}
+
+void LiveVideoData::Private::letRest()
+{
+    if (thread && !movie.isRecording())
+        thread->setResting(true);
+}
+
+// For a photo or a movie: of a camera that rested, the first of after its rest.
+std::shared_ptr<const CameraFrame> LiveVideoData::Private::newestFrame()
+{
+    followTarget();
+    const bool there = thread && thread->waitForFrame(wakeLimit);
+    return there ? thread->newestFrame() : nullptr;
 }
 
 QVector<CameraMode> LiveVideoData::Private::modes() const
@@ -298,7 +331,7 @@ bool LiveVideoData::SaveBitmap(QString path)
 {
     const PatientCall call(stillLimit);
     d->savedPicture = QImage();
-    const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
+    const std::shared_ptr<const CameraFrame> frame = d->newestFrame();
     if (!frame)
         return false;
     const BoundedTask writing([frame, path] {
@@ -318,7 +351,7 @@ QImage LiveVideoData::takeSavedPicture()
 QImage LiveVideoData::startSaving(const QString &path)
 {
     const PatientCall call;
-    const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
+    const std::shared_ptr<const CameraFrame> frame = d->newestFrame();
     return frame ? d->saving.begin(frame, path) : QImage();
 }
 
@@ -331,7 +364,7 @@ void LiveVideoData::finishSaving()
 void LiveVideoData::Record(const QString &path)
 {
     const PatientCall call;
-    const std::shared_ptr<const CameraFrame> frame = d->thread ? d->thread->newestFrame() : nullptr;
+    const std::shared_ptr<const CameraFrame> frame = d->newestFrame();
     if (!frame) {
         d->movie.refuse(MovieOutcome::NoCamera);
         return;
@@ -408,6 +441,7 @@ void LiveVideoData::RecordMovie()
 {
     const PatientCall call(PatientCall::longLimit);
     d->movie.stop();
+    d->followTarget();
 }
 
 void LiveVideoData::device()

@@ -35,8 +35,8 @@ public:
     /// Takes the camera over and starts to open it.
     void capture(std::unique_ptr<CameraPipeline> camera);
 
-    /// True as soon as the first frame is there; false when the camera failed, or @p limit ms
-    /// passed without one.
+    /// True as soon as the first frame is there, or the first after a rest; false when the camera
+    /// failed, or @p limit ms passed without one.
     bool waitForFrame(int limit);
 
     /// True once the camera failed by itself: an error, the end of its stream, or silence.
@@ -44,6 +44,10 @@ public:
 
     /// Whether somebody sees the picture: grabtrue() comes only then.
     void setSeen(bool seen);
+
+    /// Whether nobody needs a frame for now: those that come are dropped before they cost anything.
+    /// The newest frame stays what it was until the first after the rest.
+    void setResting(bool resting);
 
     /// Fills @p picture, of RGB32 or ARGB32_Premultiplied, with the newest frame, opaque and scaled
     /// without regard to its aspect, and lets the next grabtrue() come. False, with the picture as
@@ -72,6 +76,8 @@ protected:
 
 private:
     void grabUntilEnd();
+    bool beginRest();
+    bool rest();
     void keepFrame(const std::shared_ptr<CameraFrame> &frame);
     void announceFrame();
     std::shared_ptr<const CameraFrame> takeFrame();
