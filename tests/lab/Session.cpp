@@ -40,7 +40,12 @@ bool Session::startLive()
 
 bool Session::waitForMainWindow()
 {
-    return QTest::qWaitFor([this] { return mainWindow().id != 0; }, startLimit);
+    const bool isUp = QTest::qWaitFor([this] { return mainWindow().id != 0; }, startLimit);
+    if (!isUp)
+        qWarning("the window did not come up; \"%s\" is in front; the program said: %s",
+                 qPrintable(m_desktop.topWindowOf(m_program.pid()).title),
+                 qPrintable(m_program.output()));
+    return isUp;
 }
 
 bool Session::waitForChooser()
