@@ -1,6 +1,7 @@
 #include "LabPattern.h"
 #include "MovieProbe.h"
 #include "MovieSession.h"
+#include "Opening.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -90,7 +91,7 @@ void TestEngineMovie::aMovieStoppedAtOnceIsAMovie()
 
 void TestEngineMovie::aSecondStartChangesNothing()
 {
-    m_engine->Record(newPath());
+    QVERIFY(records(*m_engine, newPath()));
     const QString other = m_folder.filePath("other.mov");
     m_engine->Record(other);
     QVERIFY(m_engine->IsValidVideoDevice());
@@ -125,7 +126,7 @@ void TestEngineMovie::twentyMoviesInARowAreAllComplete()
 
 void TestEngineMovie::aPhotoDuringAMovieIsTakenAndTheMovieGoesOn()
 {
-    m_engine->Record(newPath());
+    QVERIFY(records(*m_engine, newPath()));
     const QString still = m_folder.filePath("still.png");
     QVERIFY(m_engine->SaveBitmap(still));
     QTest::qWait(1500); // nothing to wait for: the movie's length

@@ -120,7 +120,10 @@ void TestEngineStates::anOperationLeadsToItsState_data()
     QTest::addColumn<Operation>("operation");
     QTest::addColumn<State>("after");
 
-    const Operation create = [](LiveVideoData &engine) { engine.Create(); };
+    const Operation create = [](LiveVideoData &engine) {
+        engine.Create();
+        opens(engine);
+    };
     const Operation start = [](LiveVideoData &engine) { engine.Start(); };
     const Operation stop = [](LiveVideoData &engine) { engine.Stop(); };
     const Operation release = [](LiveVideoData &engine) { engine.Release(); };
@@ -213,7 +216,7 @@ void TestEngineStates::whatIsAskedIsAnsweredByState()
     QVERIFY(m_engine->IsValidAudioDevice());
     const QString movie = m_folder.filePath("movie.mov");
     QFile::remove(movie);
-    m_engine->Record(movie);
+    QCOMPARE(records(*m_engine, movie), hasCamera);
     QCOMPARE(m_engine->IsValidVideoDevice(), hasCamera);
     m_engine->RecordStop();
     QCOMPARE(QFile::exists(movie), hasCamera);

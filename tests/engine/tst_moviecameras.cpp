@@ -63,11 +63,10 @@ void TestMovieCameras::plug(const QStringList &options)
 double TestMovieCameras::record(int milliseconds)
 {
     const SpareTime time;
-    m_engine->Record(m_path);
+    if (!records(*m_engine, m_path))
+        return -1;
     QElapsedTimer timer;
     timer.start();
-    if (!m_engine->IsRecording())
-        return -1;
     QTest::qWait(milliseconds); // nothing to wait for: the movie's length
     const double length = double(timer.elapsed()) / 1000;
     m_engine->RecordStop();
@@ -110,10 +109,11 @@ void TestMovieCameras::everyCameraMakesAMovie()
     verifySpan(movie, length, rate);
     const int frames = movie.frames().size();
     qInfo("%d frames, %d missing", frames, movie.missingFrames());
-    // All of them, unless the machine has too much to do.
-    QVERIFY2(frames > length * rate * 0.4, qPrintable(QString::number(frames)));
+    // All of them, unless the machine has too much to do; then the servers lose sound, too.
+    const bool hadTime = m_lateness == 0;
+    QVERIFY2(frames > length * rate * (hadTime ? 0.4 : 0.1), qPrintable(QString::number(frames)));
     QVector<double> delays = movie.soundDelays();
-    QVERIFY(!movie.tones().isEmpty());
+    QVERIFY(!hadTime || !movie.tones().isEmpty());
     if (!delays.isEmpty()) { // the marked frame may have been left out
         std::sort(delays.begin(), delays.end());
         const double usual = delays[delays.size() / 2];
@@ -143,8 +143,7 @@ void TestMovieCameras::aMovieWithoutAPictureLeavesNoFile()
 {
     plug({"640x480"});
     QVERIFY(labctl({"freeze", "camera"}));
-    m_engine->Record(m_path);
-    QVERIFY(m_engine->IsRecording());
+    QVERIFY(records(*m_engine, m_path));
     const SpareTime spare;
     QElapsedTimer timer;
     timer.start();

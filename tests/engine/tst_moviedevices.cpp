@@ -1,5 +1,6 @@
 #include "LabCommands.h"
 #include "MovieSession.h"
+#include "Opening.h"
 #include "Patience.h"
 
 #include <QElapsedTimer>
@@ -102,8 +103,11 @@ void TestMovieDevices::theMicrophoneIsHeardAlsoWhenALoudspeakerIsTheDefault()
 void TestMovieDevices::aMicrophonePulledOutLeavesSilence()
 {
     QElapsedTimer timer;
-    timer.start();
-    m_engine->Record(newPath());
+    QVERIFY(doesPatiently([&] {
+        timer.start();
+        m_engine->Record(newPath());
+        return m_engine->IsRecording();
+    }));
     const double begun = double(timer.elapsed()) / 1000;
     QTest::qWait(3000); // nothing to wait for: the movie's length so far
     QVERIFY(labctl({"microphone", "off"}));
@@ -127,8 +131,11 @@ void TestMovieDevices::aCameraPulledOutLeavesTheMovieUntilThen()
 {
     const QSignalSpy lost(m_engine.get(), &LiveVideoData::disconnectDevice);
     QElapsedTimer timer;
-    timer.start();
-    m_engine->Record(newPath());
+    QVERIFY(doesPatiently([&] {
+        timer.start();
+        m_engine->Record(newPath());
+        return m_engine->IsRecording();
+    }));
     const double begun = double(timer.elapsed()) / 1000;
     QTest::qWait(2000); // nothing to wait for: the movie's length
     const double pulled = double(timer.elapsed()) / 1000;
@@ -143,7 +150,7 @@ void TestMovieDevices::aCameraPulledOutLeavesTheMovieUntilThen()
 
 void TestMovieDevices::closingTheCameraCompletesTheMovie()
 {
-    m_engine->Record(newPath());
+    QVERIFY(records(*m_engine, newPath()));
     QTest::qWait(1000); // nothing to wait for: the movie's length
     m_engine->Release();
     verifyPlayable(MovieFile(m_path), 0.7, 1.6);
@@ -151,7 +158,7 @@ void TestMovieDevices::closingTheCameraCompletesTheMovie()
 
 void TestMovieDevices::theEngineCompletesTheMovieWhenItIsDestroyed()
 {
-    m_engine->Record(newPath());
+    QVERIFY(records(*m_engine, newPath()));
     QTest::qWait(1000); // nothing to wait for: the movie's length
     m_engine.reset();
     verifyPlayable(MovieFile(m_path), 0.7, 1.6);

@@ -154,7 +154,7 @@ void TestNoSoundServer::aSoundCardPluggedInLaterIsNoticedAndHeard()
     QTRY_VERIFY(m_engine->IsValidAudioDevice());
     const SpareTime spare;
     const QString path = m_folder.filePath("heard.mov");
-    m_engine->Record(path);
+    QVERIFY(records(*m_engine, path));
     QVERIFY(m_engine->IsValidVideoDevice());
     QVERIFY(m_engine->IsValidAudioDevice());
     QTest::qWait(3000); // nothing to wait for: the movie's length

@@ -101,8 +101,7 @@ void TestRestartingServers::recordAndJudge()
     QTRY_VERIFY_WITH_TIMEOUT(m_engine->IsValidAudioDevice(), foundLimit);
     const QString path = m_folder.filePath("movie.mov");
     QFile::remove(path);
-    m_engine->Record(path);
-    QVERIFY(m_engine->IsRecording());
+    QVERIFY(records(*m_engine, path));
     QTest::qWait(1000); // nothing to wait for: the movie's length
     m_engine->RecordStop();
     const MovieFile movie(path);

@@ -150,8 +150,7 @@ void TestRestingCamera::aMovieOutOfSightHasItsFrames()
 {
     rest();
     const QString path = m_folder.filePath("movie.mov");
-    m_engine->Record(path);
-    QVERIFY(m_engine->IsRecording());
+    QVERIFY(records(*m_engine, path));
     rest();
     m_engine->RecordStop();
     QVERIFY(m_engine->CompleteMovies());

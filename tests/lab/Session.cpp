@@ -4,6 +4,7 @@
 #include "PlainButtons.h"
 #include "SaveConfirmDlg.h"
 #include "Setting.h"
+#include "SpareTime.h"
 #include "WebcamUtil.h"
 
 #include <QApplication>
@@ -122,6 +123,30 @@ bool Session::pressWhenReady(WindowMap::Screen screen, const QString &button)
         return false;
     press(screen, button);
     return true;
+}
+
+bool Session::isRecording()
+{
+    return m_map.look(m_desktop.screenshot(), WindowMap::RecordingScreen,
+                      QStringLiteral("MovieStop"))
+        == WindowMap::Up;
+}
+
+bool Session::beginMovie()
+{
+    static constexpr int mostTries = 4;
+    for (int i = 0; i < mostTries; ++i) {
+        const SpareTime spare;
+        if (!pressWhenReady(WindowMap::LiveScreen, QStringLiteral("Movie")))
+            return false;
+        const bool answers =
+            QTest::qWaitFor([this] { return isRecording() || dialog().isActive; }, startLimit);
+        if (isRecording())
+            return true;
+        if (!answers || spare.isPlenty() || !confirmMessage())
+            return false;
+    }
+    return false;
 }
 
 bool Session::takePhotoForPreview()

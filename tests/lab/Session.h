@@ -46,6 +46,10 @@ public:
     void press(WindowMap::Screen screen, const QString &button);
     // Waits until the button is there and can be pressed, then presses it.
     bool pressWhenReady(WindowMap::Screen screen, const QString &button);
+    // From the live picture to a movie that is being recorded. On a busy machine the microphone may
+    // take too long, which is told in a box: there, and only there, it is tried again.
+    bool beginMovie();
+    bool isRecording();
     // From the live picture to the preview of a photo that is on the disk.
     bool takePhotoForPreview();
     bool waitForPressable(WindowMap::Screen screen, const QStringList &buttons);

@@ -61,13 +61,6 @@ bool DeviceSession::beginMovie()
         startLimit);
 }
 
-bool DeviceSession::isRecording()
-{
-    return map().look(desktop().screenshot(), WindowMap::RecordingScreen,
-                      QStringLiteral("MovieStop"))
-        == WindowMap::Up;
-}
-
 bool DeviceSession::endMovie()
 {
     return pressWhenReady(WindowMap::RecordingScreen, QStringLiteral("MovieStop"))

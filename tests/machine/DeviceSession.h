@@ -23,7 +23,6 @@ public:
     bool beginMovie();
     /// From there to the movie that can be played.
     bool endMovie();
-    bool isRecording();
     QStringList movies(); ///< with their paths
 
     /// "List" and "Live" again, until the picture moves, as somebody does who plugged in a camera.

@@ -80,8 +80,7 @@ bool TestEnding::startSeries(Session &user)
 
 bool TestEnding::startMovie(Session &user)
 {
-    return user.pressWhenReady(WindowMap::LiveScreen, "Movie")
-        && user.waitForPressable(WindowMap::RecordingScreen, {"MovieStop"});
+    return user.beginMovie();
 }
 
 bool TestEnding::askAtExit(Session &user)

@@ -162,8 +162,7 @@ void TestLosingMidway::inTheMiddleOfASeries()
 void TestLosingMidway::whileRecording()
 {
     QVERIFY(m_user->startLive());
-    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Movie"));
-    QVERIFY(m_user->waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
+    QVERIFY(m_user->beginMovie());
     QTest::qWait(2000); // nothing to wait for: the movie's length
     const WindowMap &map = m_user->map();
     const int filmed = m_user->counterAt(map.videoRect());

@@ -82,8 +82,7 @@ int MoviesTest::secondShown(Session &user, int length)
 
 bool MoviesTest::beginRecording(Session &user)
 {
-    return user.startLive() && user.pressWhenReady(WindowMap::LiveScreen, "Movie")
-        && user.waitForPressable(WindowMap::RecordingScreen, {"MovieStop"});
+    return user.startLive() && user.beginMovie();
 }
 
 void MoviesTest::aMovieIsRecordedAndPlayedTwice()
@@ -94,7 +93,8 @@ void MoviesTest::aMovieIsRecordedAndPlayedTwice()
     const QImage begin = timeLine(user);
     QVERIFY(user.isLiveAt(picture));
     QTRY_VERIFY_WITH_TIMEOUT(timeLine(user) != begin, 3000);
-    QTest::qWait(2000); // nothing to wait for: the movie's length
+    // Nothing to wait for: the movie's length, so that all is seen before its end.
+    QTest::qWait(4000);
     QVERIFY(user.isLiveAt(picture));
     user.press(WindowMap::RecordingScreen, "MovieStop");
     QVERIFY(user.waitForPressable(WindowMap::MovieScreen, {"Live", "MoviePlay", "List", "Close"}));
@@ -111,7 +111,8 @@ void MoviesTest::aMovieIsRecordedAndPlayedTwice()
         user.press(WindowMap::MovieScreen, "MoviePlay");
         // The length is there before the first second has passed.
         int second = -1;
-        QTRY_VERIFY((second = secondShown(user, length)) >= 0);
+        QVERIFY(
+            QTest::qWaitFor([&] { return (second = secondShown(user, length)) >= 0; }, patience));
         QVERIFY2(second <= spare.lateness(), qPrintable(QString::number(second)));
         QVERIFY(user.waitForPressable(WindowMap::PlayingScreen,
                                       {"Live", "MoviePause", "List", "Close"}));
@@ -185,8 +186,7 @@ void MoviesTest::rubbishInPlaceOfAMovieHangsNothing()
     QVERIFY(user.pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
     QVERIFY(user.pressWhenReady(WindowMap::PlayingScreen, "Live"));
     QTRY_VERIFY(user.isLiveAt(map.videoRect()));
-    QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "Movie")); // and a real one can be made
-    QVERIFY(user.waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
+    QVERIFY(user.beginMovie()); // and a real one can be made
 }
 
 void MoviesTest::aMovieSurvivesTheEndOfTheProgram_data()

@@ -33,8 +33,7 @@ void TestRestartedServers::theProgramGoesOnAsIfTheCameraHadBeenUnplugged()
     QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "List"));
     QVERIFY(user.pressWhenReady(WindowMap::ListScreen, "Live"));
     QTRY_VERIFY(user.isLiveAt(user.map().videoRect()));
-    QVERIFY(user.pressWhenReady(WindowMap::LiveScreen, "Movie"));
-    QVERIFY(user.waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
+    QVERIFY(user.beginMovie());
     const QDir area(user.program().temporaryArea());
     QTRY_COMPARE(area.entryList({"movie*.mov"}, QDir::Files).size(), 1);
 
