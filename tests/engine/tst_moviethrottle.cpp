@@ -60,7 +60,8 @@ void TestMovieThrottle::theMovieSpansTheWholeTime_data()
 }
 
 // Every tone is there and none is elsewhere; the last may be cut. A microphone that the sound
-// server could not serve in time may crackle, which makes two tones of one, or lose tones whole.
+// server could not serve in time may crackle, which makes several tones of one, or lose tones
+// whole.
 void TestMovieThrottle::verifySound(const MovieFile &movie, int rate, bool hadTime) const
 {
     QVERIFY2(qAbs(movie.soundDuration() - movie.duration()) < 0.1,
@@ -71,13 +72,13 @@ void TestMovieThrottle::verifySound(const MovieFile &movie, int rate, bool hadTi
         if (tones.isEmpty() || tone - tones.last() > 0.3)
             tones.append(tone);
     const int whole = int(movie.duration() / beat);
-    QVERIFY2(tones.size() <= whole + 1, qPrintable(QString::number(tones.size())));
     for (int i = 1; i < tones.size(); ++i) {
         const double gap = tones[i] - tones[i - 1];
         QVERIFY2(qAbs(gap - qRound(gap / beat) * beat) < 0.4, qPrintable(QString::number(gap)));
     }
     if (!hadTime)
         return;
+    QVERIFY2(tones.size() <= whole + 1, qPrintable(QString::number(tones.size())));
     QVERIFY2(tones.size() >= whole - 1, qPrintable(QString::number(tones.size())));
     QVERIFY2(movie.loudness() > 0.5 * 0.1 / beat, qPrintable(QString::number(movie.loudness())));
 }
