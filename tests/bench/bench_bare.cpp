@@ -27,6 +27,15 @@ bool waitForEnd(GstElement *pipeline)
     return ended;
 }
 
+// The clock that the media server's source offers jumps when the server gives its graph another
+// driver, and the muxer would wait for hours.
+void useSystemClock(GstElement *pipeline)
+{
+    GstClock *clock = gst_system_clock_obtain();
+    gst_pipeline_use_clock(GST_PIPELINE(pipeline), clock);
+    gst_object_unref(clock);
+}
+
 bool play(const char *description, bool untilInputEnds)
 {
     GError *error = nullptr;
@@ -35,6 +44,7 @@ bool play(const char *description, bool untilInputEnds)
         std::fprintf(stderr, "bench_bare: %s\n", error ? error->message : description);
         return false;
     }
+    useSystemClock(pipeline);
     gst_element_set_state(pipeline, GST_STATE_PLAYING);
     char end = 0;
     if (untilInputEnds) {

@@ -25,11 +25,13 @@ def conversions(form, shown):
 
 
 def recording_pipeline(form, shown, path):
-    """The same encoders with the same settings, and the same live picture beside it."""
+    """The same encoders with the same settings, and the same live picture beside it. Its frames are
+    copied: else they are the camera's own, of which all may wait in its queues for the sound, and
+    then camera and pipeline wait for each other."""
     width, height = shown.split("x")
     decoder = "jpegdec ! " if form == "MJPG" else ""
-    return (f"pipewiresrc target-object=bench do-timestamp=true ! {caps_of(size, form, 30)} ! "
-            f"{decoder}tee name=frames "
+    return ("pipewiresrc target-object=bench do-timestamp=true always-copy=true ! "
+            f"{caps_of(size, form, 30)} ! {decoder}tee name=frames "
             "frames. ! queue max-size-buffers=1 leaky=downstream ! videoconvertscale ! "
             f"video/x-raw,format=BGRx,width={width},height={height} ! ximagesink sync=false "
             "frames. ! queue ! videoconvert ! video/x-raw,format=I420 ! "
@@ -99,9 +101,7 @@ def record_from(report, plan, form):
     cost = report.figure(f"recording {size} at 30, {form}: processor", "ms per frame", bare, 1.0)
     dropped = report.figure(f"recording {size}, {form}: frames missing in {plan.pairs} x {seconds:.0f} s",
                             "frames each", bare, 0, "value")
-    # The lab's microphone, once it is at rest, does not always wake up for the bare pipeline.
-    with Classroom(cameras=[("bench", size, form, 30)]) as room, \
-            room.pipeline("pulsesrc ! fakesink"):
+    with Classroom(cameras=[("bench", size, form, 30)]) as room:
         shown = shown_size(room, size)
 
         def pair():
