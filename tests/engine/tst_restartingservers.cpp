@@ -87,10 +87,12 @@ void TestRestartingServers::cleanup()
 
 void TestRestartingServers::open()
 {
+    const SpareTime spare;
     QElapsedTimer timer;
     timer.start();
     QVERIFY(opens(*m_engine));
-    QVERIFY2(timer.elapsed() < 4000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 4000 || !spare.isPlenty(),
+             qPrintable(QString::number(timer.elapsed())));
     m_engine->Start();
     m_losses->clear();
 }

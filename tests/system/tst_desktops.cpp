@@ -92,7 +92,8 @@ void TestDesktops::theWindowComesBackInFront()
     timer.start();
     qint64 looked = 0; // ms; to look takes a while by itself
     QTRY_VERIFY_WITH_TIMEOUT((looked = timer.elapsed(), !isCovered()), 60000);
-    QVERIFY2(double(looked) < 1000 + 1000 * time.lateness(), qPrintable(QString::number(looked)));
+    // Window managers that wait for a processor are several programs in a row.
+    QVERIFY2(looked < (time.isPlenty() ? 1000 : 10000), qPrintable(QString::number(looked)));
 }
 
 void TestDesktops::aPhotoIsTakenAndAccepted()
