@@ -11,6 +11,7 @@
 #include "PictureListView.h"
 #include "PictureLoader.h"
 #include "PictureWidget.h"
+#include "ScreenWake.h"
 #include "Setting.h"
 #include "TimerWidget.h"
 
@@ -157,6 +158,8 @@ void CVistrelDlg::SetChildInstance()
     m_pictureList = new PictureListView(this);
     m_pictureList->hide();
     m_settings = new Setting(this);
+    m_screenWake = new ScreenWake(
+        tr("Orvanta"), [this] { return whatMoves(); }, this);
 }
 
 void CVistrelDlg::setWindowLook()

@@ -24,6 +24,7 @@ class MovieWidget;
 class PictureListView;
 class PictureWidget;
 class QSound;
+class ScreenWake;
 class Setting;
 class TimerWidget;
 
@@ -232,11 +233,15 @@ private:
     void holdButtons();
     void releaseButtons();
 
+    /// What the user sees move, by its name for him; empty for nothing.
+    QString whatMoves() const;
+
     DisplayMode m_displayMode = LiveMode;
     bool m_error = false;
     QVector<CStretchBitmapButton *> m_heldButtons; ///< to be given back
     QPointer<QWidget> m_heldFocus; ///< where the keyboard was then; null for nowhere
     SpareMemory m_spareMemory;
+    ScreenWake *m_screenWake = nullptr;
 
     // --- CaptureConditions.cpp -------------------------------------------------------------
     /// Opens the camera unless it is open, and notes what is missing. False: the window was closed

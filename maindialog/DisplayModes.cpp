@@ -8,6 +8,7 @@
 #include "MovieWidget.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
+#include "ScreenWake.h"
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
 
@@ -36,6 +37,18 @@ void CVistrelDlg::TransitionMode(DisplayMode mode)
     // Stored last: setListButton() looks at the screen that is being left.
     m_displayMode = mode;
     m_spareMemory.giveBackSoon();
+    m_screenWake->lookSoon();
+}
+
+// The screen may blank over a photo, and over a movie that waits. The player itself says late that
+// it plays: what counts is what was pressed.
+QString CVistrelDlg::whatMoves() const
+{
+    if (m_liveView && m_liveView->isVisible())
+        return m_liveView->accessibleName();
+    if (button(MoviePauseButton)->isVisible())
+        return m_movieView->accessibleName();
+    return {};
 }
 
 double CVistrelDlg::setButtonX(CStretchBitmapButton *button, double x)
@@ -184,6 +197,7 @@ void CVistrelDlg::setAcceptedPhotoMode()
 {
     layOutPhoto();
     m_displayMode = PhotoMode;
+    m_screenWake->lookSoon();
 }
 
 void CVistrelDlg::layOutPhoto()

@@ -8,6 +8,7 @@
 #include "CStretchBitmapButton.h"
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
+#include "ScreenWake.h"
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
 
@@ -124,6 +125,7 @@ void CVistrelDlg::showPlayButton()
 {
     button(MoviePauseButton)->hide();
     button(MoviePlayButton)->show();
+    m_screenWake->lookSoon();
 }
 
 void CVistrelDlg::OnMoviePlay()
@@ -138,6 +140,7 @@ void CVistrelDlg::OnMoviePlay()
     m_timerWidget->run();
     button(MoviePlayButton)->hide();
     button(MoviePauseButton)->show();
+    m_screenWake->lookSoon();
 }
 
 void CVistrelDlg::OnMoviePause()

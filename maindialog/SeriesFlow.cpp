@@ -9,6 +9,7 @@
 #include "LiveVideoWidget.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
+#include "ScreenWake.h"
 #include "TimerWidget.h"
 
 void CVistrelDlg::OnPhotSeq()
@@ -99,6 +100,7 @@ void CVistrelDlg::endSeries()
     m_pictureView->hide();
     const QStringList series = m_seriesList;
     SetPictureListMode(series);
+    m_screenWake->lookSoon();
     m_shotCounter = 0;
     endCountdown();
     update();
