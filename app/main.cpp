@@ -10,6 +10,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QSessionManager>
 
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -33,6 +34,16 @@ int runWindow()
         return -1;
     const SignalWatcher watcher(&dialog);
     LiveVideoWidget::setInterruption(SignalWatcher::hasCome);
+    // Asked and answered before the session goes on to end.
+    QObject::connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, &dialog,
+        [&dialog](QSessionManager &session) {
+            if (dialog.leaveWithSession([&session] { return session.allowsInteraction(); }))
+                session.release();
+            else
+                session.cancel();
+        },
+        Qt::DirectConnection);
 
     dialog.SetPluginPath(QCoreApplication::applicationDirPath());
     dialog.setVisible(true);
@@ -81,6 +92,8 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName("orvanta");
     QGuiApplication::setDesktopFileName("orvanta");
     QtSingleApplication application("Orvanta", argc, argv);
+    // Left alone, the toolkit closes the window when the user logs out, without asking anything.
+    QGuiApplication::setFallbackSessionManagementEnabled(false);
     if (application.sendMessage("Wake up!", 5000))
         return 0;
     // The answer is not needed: a copy that is there but did not respond in time must not keep the

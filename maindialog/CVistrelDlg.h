@@ -6,6 +6,7 @@
 #include "DisplayMode.h"
 #include "SpareMemory.h"
 
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QRect>
@@ -15,6 +16,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 #include <initializer_list>
 
 class CStretchBitmapButton;
@@ -116,6 +118,12 @@ public:
     /// the shutter sound. It is read a moment later, or by the first photo.
     void SetPluginPath(const QString &path);
 
+    // --- ClosingFlow.cpp -------------------------------------------------------------------
+    /// The user logs out: asks what "Exit" asks, and closes the window unless he wants to stay,
+    /// which is false. Without captures nothing is asked. @p mayAsk tells whether the session lets
+    /// anybody be asked; where it does not, what was captured is kept for the next start.
+    bool leaveWithSession(const std::function<bool()> &mayAsk);
+
 Q_SIGNALS:
     void comp(bool ret); ///< declared for the window's users; nothing emits it
 
@@ -162,7 +170,12 @@ private:
     /// a box, and every slot that needs the camera, asks first.
     bool isClosed() const { return m_liveView == nullptr; }
     void releaseLiveView();
+    /// Asks what to do with what was captured, and does it. False: the user stays.
+    bool settleCaptures();
+    void endRecording();
     void save();
+
+    QPointer<QDialog> m_exitQuestion; ///< while it stands
 
     // --- CVistrelDlg.cpp: construction -----------------------------------------------------
     enum Button {

@@ -1,6 +1,7 @@
-// Leaving. "Exit" asks what to do with what was captured, saves or discards it and closes; closing
-// by the window system asks nothing and leaves the captures where they are, for the next start. A
-// closed window has no live view; what was under way (a countdown, a box) ends without it.
+// Leaving. "Exit" asks what to do with what was captured, saves or discards it and closes, and so
+// does logging out; closing by the window system asks nothing and leaves the captures where they
+// are, for the next start. A closed window has no live view; what was under way (a countdown, a
+// box) ends without it.
 
 #include "CVistrelDlg.h"
 
@@ -17,17 +18,54 @@ void CVistrelDlg::OnClose()
 {
     completePhoto();
     stop_window();
-    if (WebcamUtil::isSaveFile()) {
-        SaveConfirmDlg question(this);
-        const int answer = question.exec();
-        if (answer == QDialog::Rejected)
-            return;
-        if (answer == QDialog::Accepted)
-            save();
-        else
-            WebcamUtil::deleteData();
-    }
+    if (settleCaptures())
+        close();
+}
+
+// A recording runs on while the question stands: who stays has lost nothing of it.
+bool CVistrelDlg::settleCaptures()
+{
+    if (!WebcamUtil::isSaveFile())
+        return true;
+    SaveConfirmDlg question(this);
+    m_exitQuestion = &question;
+    const int answer = question.exec();
+    if (answer == QDialog::Rejected)
+        return false;
+    endRecording();
+    if (answer == QDialog::Accepted)
+        save();
+    else
+        WebcamUtil::deleteData();
+    return true;
+}
+
+bool CVistrelDlg::leaveWithSession(const std::function<bool()> &mayAsk)
+{
+    if (isClosed())
+        return true;
+    completePhoto();
+    if (!WebcamUtil::isSaveFile() || !mayAsk() || isClosed())
+        return true;
+    completePhoto(); // the user went on while the session thought about it
+    stop_window();
+    if (m_exitQuestion)
+        m_exitQuestion->reject(); // the same one is asked again, and its answer is the session's
+    if (!settleCaptures())
+        return false;
     close();
+    return true;
+}
+
+void CVistrelDlg::endRecording()
+{
+    if (!m_recording || isClosed())
+        return;
+    m_recording = false;
+    m_timerWidget->Stop();
+    if (m_liveView->isCreate())
+        m_liveView->RecordStop();
+    m_liveView->completeMovies();
 }
 
 // What could not be moved stays in the temporary area; the program closes all the same.

@@ -62,6 +62,12 @@ private Q_SLOTS:
     void aStrayFileIsAskedAboutAndYesReportsAFailure();
     void aStrayFileStaysWhenNothingIsSaved();
     void aFailedSaveIsReportedAndTheProgramCloses();
+    void loggingOutAsksAndSaves();
+    void whoCancelsTheLoggingOutStays();
+    void whereNobodyMayBeAskedCapturesAreKept();
+    void withoutCapturesLoggingOutAsksNobody();
+    void loggingOutAtTheQuestionAsksItAnew();
+    void aRecordingRunsOnUntilTheLoggingOutIsAnswered();
     void closingByTheWindowSystemAsksNothingAndKeepsEverything();
     void closingReleasesTheCameraAndTheLiveView();
     void aShotThatFallsDueAfterClosingIsNotTaken();
@@ -175,6 +181,107 @@ void ClosingFlowTest::aFailedSaveIsReportedAndTheProgramCloses()
              QStringLiteral("Save failed."));
     QVERIFY(!dialog.isVisible());
     QCOMPARE(fixture.captures(), photos);
+}
+
+void ClosingFlowTest::loggingOutAsksAndSaves()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Photo");
+    const QStringList photos = fixture.captures();
+    bool leaves = false;
+    const QString text = DialogFixture::boxDuring(
+        [&] { leaves = dialog.leaveWithSession([] { return true; }); }, QStringLiteral("Yes"));
+    QCOMPARE(text, question);
+    QVERIFY(leaves);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(QDir(datedFolder(fixture.home())).entryList(QDir::Files), photos);
+}
+
+void ClosingFlowTest::whoCancelsTheLoggingOutStays()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Photo");
+    const QStringList photos = fixture.captures();
+    bool leaves = true;
+    DialogFixture::boxDuring([&] { leaves = dialog.leaveWithSession([] { return true; }); },
+                             QStringLiteral("Cancel"));
+    QVERIFY(!leaves);
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(fixture.captures(), photos);
+}
+
+void ClosingFlowTest::whereNobodyMayBeAskedCapturesAreKept()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Photo");
+    const QStringList photos = fixture.captures();
+    bool leaves = false;
+    const QString text = DialogFixture::boxDuring(
+        [&] { leaves = dialog.leaveWithSession([] { return false; }); }, QStringLiteral("Yes"));
+    QCOMPARE(text, QString());
+    QVERIFY(leaves);
+    QCOMPARE(fixture.captures(), photos);
+}
+
+void ClosingFlowTest::withoutCapturesLoggingOutAsksNobody()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    bool hasAsked = false;
+    QVERIFY(dialog.leaveWithSession([&] {
+        hasAsked = true;
+        return true;
+    }));
+    QVERIFY(!hasAsked);
+    QVERIFY(dialog.isVisible());
+}
+
+void ClosingFlowTest::loggingOutAtTheQuestionAsksItAnew()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Photo");
+    fixture.click("Apply");
+    const QStringList photos = fixture.captures();
+    QStringList texts;
+    bool leaves = false;
+    {
+        bool isFirst = true;
+        const BoxGlance user([&](QWidget &box) {
+            if (!isFirst)
+                return;
+            isFirst = false;
+            texts << DialogFixture::boxDuring(
+                [&] { leaves = dialog.leaveWithSession([] { return true; }); },
+                QStringLiteral("Yes"));
+            texts << (box.isVisible() ? "still there" : "gone");
+        });
+        fixture.click("Close");
+    }
+    QCOMPARE(texts, (QStringList{question, "gone"}));
+    QVERIFY(leaves);
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(QDir(datedFolder(fixture.home())).entryList(QDir::Files), photos);
+}
+
+void ClosingFlowTest::aRecordingRunsOnUntilTheLoggingOutIsAnswered()
+{
+    DialogFixture fixture;
+    FakeEngine::script().movie = "a movie";
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Movie");
+    const auto leave = [&] { dialog.leaveWithSession([] { return true; }); };
+    FakeEngine::script().calls.clear();
+    QCOMPARE(DialogFixture::boxDuring(leave, QStringLiteral("Cancel")), question);
+    QCOMPARE(FakeEngine::script().calls.filter("RecordStop"), QStringList());
+    QVERIFY(fixture.button("MovieStop").isVisible());
+    DialogFixture::boxDuring(leave, QStringLiteral("Yes"));
+    QCOMPARE(FakeEngine::script().calls.filter("RecordStop").size(), 1);
+    QVERIFY(QDir(datedFolder(fixture.home())).entryList(QDir::Files).filter("movie").size() > 0);
+    QVERIFY(!dialog.isVisible());
 }
 
 void ClosingFlowTest::closingByTheWindowSystemAsksNothingAndKeepsEverything()
