@@ -13,6 +13,7 @@
 #include "PictureWidget.h"
 #include "ScreenWake.h"
 #include "Setting.h"
+#include "SleepWatch.h"
 #include "TimerWidget.h"
 
 #include <QGuiApplication>
@@ -158,6 +159,8 @@ void CVistrelDlg::SetChildInstance()
     m_pictureList = new PictureListView(this);
     m_pictureList->hide();
     m_settings = new Setting(this);
+    m_sleepWatch = new SleepWatch(this);
+    m_returnLooks.callOnTimeout(this, &CVistrelDlg::lookForReturn);
     m_screenWake = new ScreenWake(
         tr("Orvanta"), [this] { return whatMoves(); }, this);
 }

@@ -12,6 +12,7 @@
 #include <QRect>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 #include <QVector>
 #include <QWidget>
 
@@ -28,6 +29,7 @@ class PictureWidget;
 class QSound;
 class ScreenWake;
 class Setting;
+class SleepWatch;
 class TimerWidget;
 
 /**
@@ -319,6 +321,15 @@ private:
 
     // --- DeviceFlow.cpp --------------------------------------------------------------------
     void warnOfInvalidVideo();
+    /// Tells that the camera is lost, and leaves what can be done without one.
+    void goOnWithoutCamera();
+    /// The camera is expected to be back in a moment: looks for it until then.
+    void awaitReturn();
+    void lookForReturn();
+
+    SleepWatch *m_sleepWatch = nullptr;
+    QTimer m_returnLooks; ///< runs while the camera is awaited
+    QElapsedTimer m_sinceLoss;
 
     bool m_deviceSelected = false;
 

@@ -1,16 +1,20 @@
 // Cameras that are many, missing or lost. At start the user chooses among several, and is told of
 // what is missing; a camera that vanishes while the program runs leaves the live screen with only
-// "List" and "Exit", and going to the list and back to "Live" finds it again.
+// "List" and "Exit", and going to the list and back to "Live" finds it again. One that vanishes
+// when the computer wakes up comes back by itself, and so does its picture.
 
 #include "CVistrelDlg.h"
 
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
 #include "SelectDeviceDlg.h"
+#include "SleepWatch.h"
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
 
 static constexpr int looksAtStart = 4; // of three seconds at most each
+static constexpr int returnPeriod = 500; // ms between two looks for a camera that is to come back
+static constexpr int returnLimit = 10000; // ms, as long as a slow camera takes to start
 static constexpr int raisePeriodAfterChoice = 500; // ms, as before the chooser stopped the raising
 
 // A computer that is still busy with its own start answers late, and must not be said to have no
@@ -78,11 +82,50 @@ void CVistrelDlg::changeNodevicemode()
     }
     if (m_liveView->isCreate())
         m_liveView->Release();
-    m_recording = false; // with its camera; no second message for the same cable
+    // Whose recording has ended with the camera is told so.
+    const bool returns = !m_recording && m_sleepWatch->isJustAwake();
+    m_recording = false; // no second message for the same cable
+    if (returns)
+        awaitReturn();
+    else
+        goOnWithoutCamera();
+}
+
+void CVistrelDlg::goOnWithoutCamera()
+{
     stop_window();
     warnOfInvalidVideo();
     if (isClosed())
         return;
     m_videoPresent = false;
     TransitionMode(LiveMode);
+}
+
+void CVistrelDlg::awaitReturn()
+{
+    m_videoPresent = false;
+    TransitionMode(LiveMode);
+    m_sinceLoss.start();
+    m_returnLooks.start(returnPeriod);
+}
+
+void CVistrelDlg::lookForReturn()
+{
+    // "List" and "Live" look for it as well.
+    if (isClosed() || m_displayMode != LiveMode || m_videoPresent) {
+        m_returnLooks.stop();
+        return;
+    }
+    if (!openCamera())
+        return;
+    if (m_liveView->isCreate()) {
+        m_returnLooks.stop();
+        m_error = false;
+        m_liveView->setGeometry(m_videoRect);
+        m_liveView->Start();
+        TransitionMode(LiveMode);
+    } else if (m_sinceLoss.hasExpired(returnLimit)) {
+        m_returnLooks.stop();
+        goOnWithoutCamera();
+    }
 }

@@ -9,6 +9,7 @@
 #include "SaveConfirmDlg.h"
 #include "SelectDeviceDlg.h"
 #include "Setting.h"
+#include "SleepWatch.h"
 #include "TimerWidget.h"
 
 #include <QAbstractButton>
@@ -135,6 +136,10 @@ private Q_SLOTS:
     void aMissingMicrophoneLeavesEveryButtonUsable();
     void aMicrophoneIsLookedForAgainWhenTheCameraIs();
 
+    void aCameraThatIsLostInTheComputersSleepComesBack();
+    void aCameraThatDoesNotComeBackAfterTheSleepIsReported();
+    void whoLooksAtTheListMeanwhileIsNotDisturbed();
+    void aRecordingThatEndedInTheSleepIsReported();
     void aLossLeavesTheLiveScreenWithListAndExit_data();
     void aLossLeavesTheLiveScreenWithListAndExit();
     void aCountdownStandsStillWhileTheMessageStands();
@@ -404,6 +409,65 @@ void DevicesTest::addScreens()
          {"live", "preview", "accepted photo", "series with the countdown running",
           "series just taken", "recording", "movie just recorded", "list", "tiles", "zoom"})
         QTest::newRow(screen) << QString(screen);
+}
+
+// The computer was asleep when the camera went.
+static void loseCameraInSleep(DialogFixture &fixture)
+{
+    fixture.child<SleepWatch>().setClock([asleep = 0]() mutable { return asleep += 60000; });
+    FakeEngine::script().videoPresent = false;
+    FakeEngine::loseCamera();
+}
+
+void DevicesTest::aCameraThatIsLostInTheComputersSleepComesBack()
+{
+    DialogFixture fixture;
+    fixture.build();
+    const QStringList usable = fixture.usableButtons();
+    const MessageReader reader;
+    loseCameraInSleep(fixture);
+    QCOMPARE(fixture.usableButtons(), lostButtons);
+    FakeEngine::script().videoPresent = true;
+    QTRY_VERIFY(fixture.child<LiveVideoWidget>().isVisible());
+    QVERIFY(FakeEngine::script().started);
+    QCOMPARE(fixture.usableButtons(), usable);
+    QCOMPARE(reader.texts(), QStringList());
+}
+
+void DevicesTest::aCameraThatDoesNotComeBackAfterTheSleepIsReported()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    const MessageReader reader;
+    loseCameraInSleep(fixture);
+    QTRY_COMPARE(reader.texts(), QStringList{lossText});
+    QCOMPARE(dialog.displayMode(), LiveMode);
+    QCOMPARE(fixture.usableButtons(), lostButtons);
+}
+
+void DevicesTest::whoLooksAtTheListMeanwhileIsNotDisturbed()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    const MessageReader reader;
+    loseCameraInSleep(fixture);
+    fixture.click("List");
+    FakeEngine::script().videoPresent = true;
+    QVERIFY(!QTest::qWaitFor([&] { return dialog.displayMode() != ListMode; }, 1500));
+    QVERIFY(!fixture.child<LiveVideoWidget>().isVisible());
+    fixture.click("Live");
+    QVERIFY(fixture.child<LiveVideoWidget>().isVisible());
+    QCOMPARE(reader.texts(), QStringList());
+}
+
+void DevicesTest::aRecordingThatEndedInTheSleepIsReported()
+{
+    DialogFixture fixture;
+    fixture.build();
+    fixture.click("Movie");
+    const MessageReader reader;
+    loseCameraInSleep(fixture);
+    QCOMPARE(reader.texts(), QStringList{lossText});
 }
 
 void DevicesTest::aLossLeavesTheLiveScreenWithListAndExit_data()
