@@ -4,6 +4,7 @@
 #include "CWindowManagement.h"
 #include "DialogGeometry.h"
 #include "DisplayMode.h"
+#include "PastedPhotos.h"
 #include "SpareMemory.h"
 
 #include <QDialog>
@@ -338,6 +339,13 @@ private:
 
     ListKind m_listKind = PhotoList; ///< what "List" opens
     QVector<PictureWidget *> m_tiles;
+
+    // --- HandOver.cpp ----------------------------------------------------------------------
+    /// Bare names of the photos that are on the screen, in the order of the whiteboard's file.
+    QStringList namesToPaste() const;
+    void pasteToClipboard();
+
+    PastedPhotos m_pastedPhotos;
 
     // --- SettingsFlow.cpp ------------------------------------------------------------------
     QString m_saveDirectory;

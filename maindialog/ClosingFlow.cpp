@@ -12,6 +12,7 @@
 #include "WebcamUtil.h"
 
 #include <QCloseEvent>
+#include <QDateTime>
 #include <QDialog>
 
 void CVistrelDlg::OnClose()
@@ -73,7 +74,10 @@ void CVistrelDlg::save()
 {
     if (m_liveView)
         m_liveView->completeMovies(); // or half of one would be copied
-    if (!WebcamUtil::saveData(m_saveDirectory))
+    const QDateTime moment = QDateTime::currentDateTime();
+    const bool isSaved = WebcamUtil::saveData(m_saveDirectory, moment);
+    m_pastedPhotos.settle(WebcamUtil::CreateSavePath(m_saveDirectory, moment));
+    if (!isSaved)
         WebcamUtil::WarningMessage(tr("Save failed."), this);
 }
 
@@ -98,5 +102,6 @@ void CVistrelDlg::closeEvent(QCloseEvent *event)
     m_timerWidget->Stop();
     releaseLiveView();
     stopPlayback();
+    m_pastedPhotos.settle({}); // what was not saved goes with the next start's answer
     event->accept();
 }

@@ -1,5 +1,6 @@
 // "Paste": a small text file dropped into a folder that the whiteboard software watches names the
-// pictures to fetch. There is no answer and no other channel.
+// pictures to fetch. There is no answer, and no other channel to that software; for all other
+// programs the pictures are put on the clipboard.
 
 #include "CVistrelDlg.h"
 
@@ -25,6 +26,7 @@ void CVistrelDlg::OnTVS()
 void CVistrelDlg::PutTVSPhoto()
 {
     completePhoto();
+    pasteToClipboard();
     const QString area = WebcamUtil::getTemporaryPath();
     const QString folder = area + QStringLiteral("/tmp");
     if (area.isEmpty() || !QDir().mkpath(folder))
@@ -38,13 +40,31 @@ void CVistrelDlg::PutTVSPhoto()
     // What the picture measures on the screen, in the screen's own pixels.
     const QSize shown = (QSizeF(m_videoRect.size()) * devicePixelRatioF()).toSize();
     out << "0\n" << shown.width() << 'x' << shown.height() << '\n';
-    if (m_displayMode == PhotoMode) {
-        out << m_currentPhotoName << '\n';
-    } else if (m_displayMode == ListMode || m_displayMode == PhotSeqMode) {
-        for (const PictureWidget *tile : qAsConst(m_tiles))
+    for (const QString &name : namesToPaste())
+        out << name << '\n';
+}
+
+// After a failed photo its empty name.
+QStringList CVistrelDlg::namesToPaste() const
+{
+    QStringList names;
+    if (m_displayMode == PhotoMode)
+        names.append(m_currentPhotoName);
+    if (m_displayMode == ListMode || m_displayMode == PhotSeqMode)
+        for (const PictureWidget *tile : m_tiles)
             if (tile->isVisible())
-                out << tile->fileName() << '\n';
-    }
+                names.append(tile->fileName());
+    return names;
+}
+
+void CVistrelDlg::pasteToClipboard()
+{
+    const QString area = WebcamUtil::getTemporaryPath();
+    QStringList paths;
+    for (const QString &name : namesToPaste())
+        if (!name.isEmpty() && !area.isEmpty())
+            paths.append(area + QLatin1Char('/') + name);
+    m_pastedPhotos.offer(paths);
 }
 
 void CVistrelDlg::PutTVSMovie()

@@ -5,12 +5,15 @@
 #include "PictureWidget.h"
 #include "WebcamUtil.h"
 
+#include <QClipboard>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QMimeData>
 #include <QRegularExpression>
 #include <QSound>
 #include <QTime>
+#include <QUrl>
 
 namespace {
 
@@ -34,6 +37,22 @@ public:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
     }
 
+    // Full paths of all captures.
+    QStringList captured() const
+    {
+        QStringList paths;
+        for (const QString &name : captures())
+            paths.append(temporaryArea() + QLatin1Char('/') + name);
+        return paths;
+    }
+
+    void pastePhoto()
+    {
+        click("Photo");
+        click("Apply");
+        click("PutPhoto");
+    }
+
     void takeSeries()
     {
         click("PhotoMulti");
@@ -41,6 +60,27 @@ public:
         click("PhotoMulti");
     }
 };
+
+const QMimeData &clipboard()
+{
+    static const QMimeData nothing;
+    const QMimeData *data = QGuiApplication::clipboard()->mimeData();
+    return data ? *data : nothing;
+}
+
+QStringList clipboardFiles()
+{
+    QStringList paths;
+    for (const QUrl &url : clipboard().urls())
+        paths.append(url.toLocalFile());
+    return paths;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
 
 QByteArray lines(const QStringList &lines)
 {
@@ -75,6 +115,13 @@ private Q_SLOTS:
     void aFileThatCannotBeOpenedIsNotReported();
     void withoutATemporaryAreaNothingIsWrittenElsewhere();
     void theFolderSurvivesDiscarding();
+    void theClipboardHasThePhotoAsPictureAndAsFile();
+    void theClipboardHasTheTilesAsFiles();
+    void whatHasNoPhotoLeavesTheClipboardAsItIs();
+    void theClipboardNamesTheFilesThatWereSaved();
+    void theClipboardNamesNoFileThatWasDeleted();
+    void theClipboardNamesNoFileThatIsLeftBehind();
+    void whatOthersCopiedMeanwhileStays();
     void theUnusedHandOversDoNothing();
     void aSoundBesideTheProgramIsTheShutters();
     void aPhotoTakenAtOnceHasItsSound();
@@ -243,6 +290,81 @@ void HandOverTest::theFolderSurvivesDiscarding()
     DialogFixture::boxDuring([&] { paste.click("Close"); }, QStringLiteral("No"));
     QVERIFY(paste.captures().isEmpty());
     QCOMPARE(paste.files().size(), 1);
+}
+
+void HandOverTest::theClipboardHasThePhotoAsPictureAndAsFile()
+{
+    Paste paste;
+    paste.pastePhoto();
+    QCOMPARE(clipboardFiles(), paste.captured());
+    QCOMPARE(clipboard().data("image/png"), contentOf(paste.captured().value(0)));
+    QCOMPARE(clipboard().data("x-special/gnome-copied-files"),
+             "copy\n" + QUrl::fromLocalFile(paste.captured().value(0)).toEncoded());
+}
+
+void HandOverTest::theClipboardHasTheTilesAsFiles()
+{
+    Paste paste;
+    paste.takeSeries();
+    paste.click("PutPhoto");
+    QCOMPARE(paste.captured().size(), 2);
+    QCOMPARE(clipboardFiles(), paste.captured());
+    QVERIFY(!clipboard().hasFormat("image/png"));
+}
+
+void HandOverTest::whatHasNoPhotoLeavesTheClipboardAsItIs()
+{
+    Paste paste;
+    QGuiApplication::clipboard()->setText("a word");
+    paste.dialog().PutTVSPhoto(); // at the live picture
+    QCOMPARE(clipboard().text(), QString("a word"));
+    FakeEngine::script().saveBitmapSucceeds = false;
+    paste.pastePhoto();
+    QCOMPARE(clipboard().text(), QString("a word"));
+}
+
+void HandOverTest::theClipboardNamesTheFilesThatWereSaved()
+{
+    Paste paste;
+    paste.pastePhoto();
+    const QString photo = paste.captured().value(0);
+    const QByteArray picture = contentOf(photo);
+    DialogFixture::boxDuring([&] { paste.click("Close"); }, QStringLiteral("Yes"));
+    const QStringList files = clipboardFiles();
+    QCOMPARE(files.size(), 1);
+    QVERIFY(files.first().startsWith(paste.home() + "/TavelinCamera/"));
+    QCOMPARE(contentOf(files.first()), picture);
+    QCOMPARE(clipboard().data("x-special/gnome-copied-files"),
+             "copy\n" + QUrl::fromLocalFile(files.first()).toEncoded());
+    QCOMPARE(clipboard().data("image/png"), picture);
+}
+
+void HandOverTest::theClipboardNamesNoFileThatWasDeleted()
+{
+    Paste paste;
+    paste.pastePhoto();
+    DialogFixture::boxDuring([&] { paste.click("Close"); }, QStringLiteral("No"));
+    QCOMPARE(clipboard().formats(), QStringList("image/png"));
+    QVERIFY(!QImage::fromData(clipboard().data("image/png")).isNull());
+}
+
+void HandOverTest::theClipboardNamesNoFileThatIsLeftBehind()
+{
+    Paste paste;
+    paste.takeSeries();
+    paste.click("PutPhoto");
+    paste.dialog().close();
+    QCOMPARE(clipboard().formats(), QStringList());
+}
+
+void HandOverTest::whatOthersCopiedMeanwhileStays()
+{
+    Paste paste;
+    paste.pastePhoto();
+    QGuiApplication::clipboard()->setText("a word");
+    DialogFixture::boxDuring([&] { paste.click("Close"); }, QStringLiteral("Yes"));
+    QCOMPARE(clipboard().text(), QString("a word"));
+    QCOMPARE(clipboardFiles(), QStringList());
 }
 
 void HandOverTest::theUnusedHandOversDoNothing()
