@@ -2,6 +2,7 @@
 
 #include <QSocketNotifier>
 
+#include <csignal>
 #include <cstdlib>
 #include <vector>
 
@@ -138,7 +139,9 @@ LoginSession::LoginSession()
     : d(std::make_unique<Private>())
 {
     char error[256] = "";
-    IceSetIOErrorHandler([](IceConn) {}); // left alone, it ends the process
+    // Left alone, either ends the process: a program may be gone before it is told to go.
+    IceSetIOErrorHandler([](IceConn) {});
+    std::signal(SIGPIPE, SIG_IGN);
     if (!SmsInitialize("Lab", "1", meet, d.get(), letIn, sizeof error, error)
         || !IceListenForConnections(&d->socketCount, &d->sockets, sizeof error, error))
         return;

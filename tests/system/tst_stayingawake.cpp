@@ -11,7 +11,7 @@
 #undef Status
 
 static constexpr int blankAfter = 2; // s without a key or the mouse
-static constexpr int longEnough = 6000; // ms, in which the screen would have been blanked
+static constexpr int longEnough = 4000; // ms, in which the screen would have been blanked
 
 // The screen of a desktop that leaves its blanking to the X server.
 class TestStayingAwake : public QObject {

@@ -20,7 +20,7 @@ private:
     std::unique_ptr<Session> m_user;
 };
 
-static constexpr int nap = 4000; // ms; a camera that is silent for two seconds counts as lost
+static constexpr int nap = 3000; // ms; a camera that is silent for two seconds counts as lost
 
 void TestWakingUp::init()
 {
