@@ -40,7 +40,7 @@ struct ScreenInhibition::Service {
 // The library's own search would start a bus where there is none.
 static QString busAddress()
 {
-    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     if (!address.isEmpty())
         return address;
     const QString usual = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
@@ -50,7 +50,7 @@ static QString busAddress()
 static QDBusConnection connectedBus()
 {
     const QString address = busAddress();
-    const QDBusConnection kept(connectionName());
+    QDBusConnection kept(connectionName());
     if (kept.isConnected() || address.isEmpty())
         return kept;
     QDBusConnection::disconnectFromBus(connectionName()); // of a bus that has ended

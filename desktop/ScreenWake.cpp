@@ -27,7 +27,8 @@ static void suspendServersSaver(bool isSuspended)
     XFlush(display);
 }
 
-/// The answer may come when nobody waits for it any more.
+/// Between the thread that asks and the GUI thread. The answer may come when nobody waits for it
+/// any more.
 class ScreenWake::Mailbox {
 public:
     explicit Mailbox(ScreenWake *owner)
@@ -39,22 +40,29 @@ public:
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_owner = nullptr;
+        m_answer.giveBack();
     }
 
-    void post(ScreenInhibition inhibition)
+    void post(const ScreenInhibition &answer)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
+        m_answer = answer;
         if (m_owner)
-            QMetaObject::invokeMethod(
-                m_owner, [owner = m_owner, inhibition] { owner->answered(inhibition); },
-                Qt::QueuedConnection);
+            QMetaObject::invokeMethod(m_owner, "answered", Qt::QueuedConnection);
         else
-            inhibition.giveBack();
+            m_answer.giveBack();
+    }
+
+    ScreenInhibition take()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return std::exchange(m_answer, {});
     }
 
 private:
-    std::mutex m_mutex; ///< guards m_owner
+    std::mutex m_mutex; ///< guards the rest
     ScreenWake *m_owner; ///< null when it is gone
+    ScreenInhibition m_answer; ///< until it is taken
 };
 
 ScreenWake::ScreenWake(QString program, std::function<QString()> whatMoves, QObject *parent)
@@ -98,15 +106,15 @@ void ScreenWake::ask(const QString &reason)
             mailbox->post(ScreenInhibition::ask(program, reason));
         }).detach();
     } catch (const std::system_error &) { // no thread to be had: as if nobody answered
-        answered({});
+        m_mailbox->post({});
     }
 }
 
-void ScreenWake::answered(const ScreenInhibition &inhibition)
+void ScreenWake::answered()
 {
     m_isAsking = false;
     m_isKept = true;
-    m_inhibition = inhibition;
+    m_inhibition = m_mailbox->take();
     if (!m_inhibition.isValid()) {
         qCInfo(desktopLog, "no desktop keeps the screen awake: the X server is asked");
         suspendServersSaver(true);

@@ -44,7 +44,7 @@ private:
 
     void look();
     void ask(const QString &reason);
-    void answered(const ScreenInhibition &inhibition);
+    Q_INVOKABLE void answered();
     void release();
 
     QString m_program;

@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QTest>
 
+#include <csignal>
+
 static constexpr uint cookie = 7;
 
 PrivateBus::PrivateBus()
@@ -33,6 +35,16 @@ void PrivateBus::end()
 {
     m_daemon.kill();
     m_daemon.waitForFinished();
+}
+
+void PrivateBus::hang() const
+{
+    ::kill(pid_t(m_daemon.processId()), SIGSTOP);
+}
+
+void PrivateBus::goOn() const
+{
+    ::kill(pid_t(m_daemon.processId()), SIGCONT);
 }
 
 FakeDesktop::FakeDesktop(const PrivateBus &bus, const QString &name)

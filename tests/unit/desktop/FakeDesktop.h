@@ -17,6 +17,8 @@ public:
     QString address() const;
     bool start(); ///< also again, at the same address
     void end();
+    void hang() const; ///< answers nobody any more, until goOn()
+    void goOn() const;
 
 private:
     QTemporaryDir m_folder{"/tmp/bus-XXXXXX"}; ///< sockets have room for a short path only
