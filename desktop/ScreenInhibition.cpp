@@ -38,7 +38,7 @@ struct ScreenInhibition::Service {
 };
 
 // The library's own search would start a bus where there is none.
-static QString busAddress()
+QString ScreenInhibition::busAddress()
 {
     QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     if (!address.isEmpty())
@@ -47,9 +47,8 @@ static QString busAddress()
     return QFile::exists(usual) ? QStringLiteral("unix:path=") + usual : QString();
 }
 
-static QDBusConnection connectedBus()
+static QDBusConnection connected(const QString &address)
 {
-    const QString address = busAddress();
     QDBusConnection kept(connectionName());
     if (kept.isConnected() || address.isEmpty())
         return kept;
@@ -57,7 +56,8 @@ static QDBusConnection connectedBus()
     return QDBusConnection::connectToBus(address, connectionName());
 }
 
-ScreenInhibition ScreenInhibition::ask(const QString &program, const QString &reason)
+ScreenInhibition ScreenInhibition::ask(const QString &bus, const QString &program,
+                                       const QString &reason)
 {
     static constexpr std::array<Service, 2> services{{
         {"org.freedesktop.ScreenSaver", "/org/freedesktop/ScreenSaver",
@@ -66,8 +66,8 @@ ScreenInhibition ScreenInhibition::ask(const QString &program, const QString &re
          "Inhibit", "Uninhibit", true},
     }};
     ScreenInhibition result;
-    const QDBusConnection bus = connectedBus();
-    if (!bus.isConnected())
+    const QDBusConnection connection = connected(bus);
+    if (!connection.isConnected())
         return result;
     for (const Service &service : services) {
         QDBusMessage question = service.call(service.asking);
@@ -75,7 +75,7 @@ ScreenInhibition ScreenInhibition::ask(const QString &program, const QString &re
             question << program << uint(0) /* no window in particular */ << reason << idleness;
         else
             question << program << reason;
-        const QDBusMessage answer = bus.call(question, QDBus::Block, answerLimit);
+        const QDBusMessage answer = connection.call(question, QDBus::Block, answerLimit);
         const QVariant cookie = answer.arguments().value(0);
         if (answer.type() == QDBusMessage::ReplyMessage && cookie.userType() == QMetaType::UInt) {
             result.m_service = &service;

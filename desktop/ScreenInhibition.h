@@ -13,9 +13,14 @@ public:
     /// No promise.
     ScreenInhibition() = default;
 
-    /// Asks for one, in the name of @p program and telling the user @p reason. Waits for a bus or a
-    /// service that hangs, half a minute at most: not for the GUI thread. One thread at a time.
-    static ScreenInhibition ask(const QString &program, const QString &reason);
+    /// Where the session's bus is; empty where there is none. For the GUI thread, which is the one
+    /// that may change the environment.
+    static QString busAddress();
+
+    /// Asks for one at @p bus, in the name of @p program and telling the user @p reason. Waits for
+    /// a bus or a service that hangs, half a minute at most: not for the GUI thread. One thread at
+    /// a time.
+    static ScreenInhibition ask(const QString &bus, const QString &program, const QString &reason);
 
     /// False when there is no bus, or nobody on it makes promises of that kind.
     bool isValid() const { return m_service != nullptr; }

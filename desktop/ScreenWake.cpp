@@ -102,8 +102,9 @@ void ScreenWake::ask(const QString &reason)
 {
     m_isAsking = true;
     try {
-        std::thread([mailbox = m_mailbox, program = m_program, reason] {
-            mailbox->post(ScreenInhibition::ask(program, reason));
+        std::thread([mailbox = m_mailbox, bus = ScreenInhibition::busAddress(), program = m_program,
+                     reason] {
+            mailbox->post(ScreenInhibition::ask(bus, program, reason));
         }).detach();
     } catch (const std::system_error &) { // no thread to be had: as if nobody answered
         m_mailbox->post({});
