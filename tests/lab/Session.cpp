@@ -8,6 +8,7 @@
 #include "WebcamUtil.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -20,6 +21,8 @@ const int startLimit = 60000 * patience; // ms, also of a busy machine
 const int reactionLimit = 30000 * patience; // ms
 // Colours that went through the camera's luma and chroma, and through scaling.
 constexpr int colourTolerance = 16;
+// To look at the screen all the time would leave an emulated machine nothing for the program.
+const int betweenLooks = patience > 1 ? 200 : 10; // ms
 
 } // namespace
 
@@ -32,16 +35,27 @@ Session::Session(const QString &executable, const QString &cameraName, QSize cam
     QApplication::setStyle(new PlainButtons); // of the program, for the twins of its boxes
 }
 
+bool Session::waitFor(const std::function<bool()> &isThere, int limit)
+{
+    const QDeadlineTimer deadline(limit);
+    while (!isThere()) {
+        if (deadline.hasExpired())
+            return isThere();
+        QTest::qWait(betweenLooks); // nothing to wait for: looked at again, up to a limit
+    }
+    return true;
+}
+
 bool Session::startLive()
 {
     m_program.start();
     return waitForMainWindow()
-        && QTest::qWaitFor([this] { return isLiveAt(m_map.videoRect()); }, startLimit);
+        && waitFor([this] { return isLiveAt(m_map.videoRect()); }, startLimit);
 }
 
 bool Session::waitForMainWindow()
 {
-    const bool isUp = QTest::qWaitFor([this] { return mainWindow().id != 0; }, startLimit);
+    const bool isUp = waitFor([this] { return mainWindow().id != 0; }, startLimit);
     if (!isUp)
         qWarning("the window did not come up; \"%s\" is in front; the program said: %s",
                  qPrintable(m_desktop.topWindowOf(m_program.pid()).title),
@@ -51,7 +65,7 @@ bool Session::waitForMainWindow()
 
 bool Session::waitForChooser()
 {
-    const bool isAsked = QTest::qWaitFor([this] { return dialog().isActive; }, startLimit);
+    const bool isAsked = waitFor([this] { return dialog().isActive; }, startLimit);
     if (!isAsked)
         qWarning("nothing was asked; the window %s; the program said: %s",
                  mainWindow().id ? "came up" : "did not come up", qPrintable(m_program.output()));
@@ -75,7 +89,7 @@ Desktop::Window Session::dialog() const
 bool Session::waitForDialog(const QString &title)
 {
     // Active, so that it has been mapped and placed where it will stay.
-    return QTest::qWaitFor(
+    return waitFor(
         [&] {
             const Desktop::Window found = dialog();
             return found.isActive && found.title == title;
@@ -85,7 +99,7 @@ bool Session::waitForDialog(const QString &title)
 
 bool Session::waitUntilNoDialog()
 {
-    return QTest::qWaitFor([this] { return dialog().id == 0; }, reactionLimit);
+    return waitFor([this] { return dialog().id == 0; }, reactionLimit);
 }
 
 int Session::counterAt(QRect place) const
@@ -98,7 +112,7 @@ bool Session::isLiveAt(QRect place) const
     const QImage first = seenAt(place);
     const int counter = LabPattern::counterOf(first);
     return counter >= 0 && LabPattern::worstDifference(first, m_ground) < colourTolerance
-        && QTest::qWaitFor([&] { return counterAt(place) > counter; }, 1000);
+        && waitFor([&] { return counterAt(place) > counter; }, 1000);
 }
 
 bool Session::isStillAt(QRect place) const
@@ -106,7 +120,7 @@ bool Session::isStillAt(QRect place) const
     const QImage first = seenAt(place);
     return LabPattern::counterOf(first) >= 0
         && LabPattern::worstDifference(first, m_ground) < colourTolerance
-        && !QTest::qWaitFor([&] { return seenAt(place) != first; }, 300);
+        && !waitFor([&] { return seenAt(place) != first; }, 300);
 }
 
 void Session::press(WindowMap::Screen screen, const QString &button)
@@ -119,7 +133,7 @@ bool Session::pressWhenReady(WindowMap::Screen screen, const QString &button)
     const auto ready = [&] {
         return m_map.look(m_desktop.screenshot(), screen, button) == WindowMap::Up;
     };
-    if (!QTest::qWaitFor(ready, reactionLimit))
+    if (!waitFor(ready, reactionLimit))
         return false;
     press(screen, button);
     return true;
@@ -153,7 +167,7 @@ bool Session::takePhotoForPreview()
 {
     const int before = m_program.captured().size();
     return pressWhenReady(WindowMap::LiveScreen, "Photo")
-        && QTest::qWaitFor(
+        && waitFor(
                [&] {
                    return m_program.captured().size() == before + 1
                        && m_map.look(m_desktop.screenshot(), WindowMap::PreviewScreen, "Apply")
@@ -164,8 +178,8 @@ bool Session::takePhotoForPreview()
 
 bool Session::waitForPressable(WindowMap::Screen screen, const QStringList &buttons)
 {
-    return QTest::qWaitFor(
-        [&] { return m_map.pressable(m_desktop.screenshot(), screen) == buttons; }, reactionLimit);
+    return waitFor([&] { return m_map.pressable(m_desktop.screenshot(), screen) == buttons; },
+                   reactionLimit);
 }
 
 bool Session::clickInSettings(const QString &objectName)
@@ -223,7 +237,7 @@ bool Session::messageSays(const QString &text, const QString &confirm)
     prepareTwin(&twin);
     const QImage expected = twin.grab().toImage().convertToFormat(QImage::Format_RGB32);
     m_desktop.moveMouse({0, 0}); // a button that the mouse is on looks different
-    return QTest::qWaitFor(
+    return waitFor(
         [&] {
             const Desktop::Window box = dialog();
             return box.id != 0 && seenAt(box.geometry) == expected;

@@ -5,6 +5,8 @@
 #include "Program.h"
 #include "WindowMap.h"
 
+#include <functional>
+
 class QMessageBox;
 
 // A person at the camera program: starts it, looks at its window, presses its buttons and answers
@@ -63,6 +65,10 @@ public:
     // compared pixel by pixel. A box that reads from the right needs a QApplication that does.
     bool messageSays(const QString &text, const QString &confirm = "OK");
     bool confirmMessage();
+
+protected:
+    // Looks until it is there, for a limited time (ms).
+    static bool waitFor(const std::function<bool()> &isThere, int limit);
 
 private:
     void prepareTwin(QMessageBox *box) const;

@@ -16,7 +16,7 @@ bool DeviceSession::startMoving()
     program().start();
     if (!waitForMainWindow())
         return false;
-    return QTest::qWaitFor(
+    return waitFor(
         [this] {
             if (dialog().isActive)
                 desktop().pressKey("Return");
@@ -41,21 +41,19 @@ bool DeviceSession::movesAt(QRect place) const
     if (isBlackAt(place))
         return false;
     const QImage first = seenAt(place);
-    return QTest::qWaitFor([&] { return seenAt(place) != first; }, movingLimit)
-        && !isBlackAt(place);
+    return waitFor([&] { return seenAt(place) != first; }, movingLimit) && !isBlackAt(place);
 }
 
 bool DeviceSession::beginMovie()
 {
     // What a movie needs is looked for on the disk the first time, which may take too long here.
-    return QTest::qWaitFor(
+    return waitFor(
         [this] {
             if (dialog().isActive)
                 desktop().pressKey("Return");
             return waitUntilNoDialog()
                 && pressWhenReady(WindowMap::LiveScreen, QStringLiteral("Movie"))
-                && QTest::qWaitFor([this] { return dialog().isActive || isRecording(); },
-                                   startLimit)
+                && waitFor([this] { return dialog().isActive || isRecording(); }, startLimit)
                 && isRecording();
         },
         startLimit);
@@ -89,7 +87,7 @@ void DeviceSession::keepTraces()
 
 bool DeviceSession::findCameraAgain()
 {
-    return QTest::qWaitFor(
+    return waitFor(
         [this] {
             return pressWhenReady(WindowMap::LiveScreen, QStringLiteral("List"))
                 && pressWhenReady(WindowMap::ListScreen, QStringLiteral("Live"))
