@@ -6,6 +6,7 @@
 #include "DemoCamera.h"
 #include "EngineLog.h"
 #include "MediaConnection.h"
+#include "OpenableNodes.h"
 
 #include <QSet>
 #include <QSocketNotifier>
@@ -140,6 +141,7 @@ struct Source {
 // Never destroyed: some may hang, and what ends with the process need not be taken down before.
 struct Sources {
     Source videoNodes;
+    OpenableNodes openable;
     Source mediaServer;
 };
 } // namespace
@@ -186,9 +188,10 @@ static bool connectMediaServer(Source &source)
     return true;
 }
 
-static void beginToStart(Source &source)
+// One that runs already goes on until the new one does: its cameras may be open.
+static void beginToStart(Source &source, bool anew = false)
 {
-    if (source.provider || source.task)
+    if (source.task || (source.provider && !anew))
         return;
     source.departed = std::make_shared<Departed>();
     source.task.emplace(
@@ -209,10 +212,41 @@ static void awaitStart(Source &source, steady_clock::time_point deadline)
         qCWarning(engineLog, "%s does not answer", source.name);
         return;
     }
-    source.provider = std::move(*started);
     source.task.reset();
+    if (*started)
+        source.provider.swap(*started);
+    if (*started) // the former one
+        const BoundedTask ending([former = std::move(*started)]() mutable { former.reset(); });
     if (!source.provider)
         letGo(source); // what was said on the connection cannot be said twice
+}
+
+static QVector<CameraHandle> camerasOf(const Source &source)
+{
+    QVector<CameraHandle> cameras;
+    GList *list =
+        source.provider ? gst_device_provider_get_devices(source.provider.get()) : nullptr;
+    for (GList *entry = list; entry; entry = entry->next) {
+        const GstDeviceHandle device(GST_DEVICE(entry->data), GstObjectUnref());
+        if (gst_device_has_classes(device.get(), "Video/Source")
+            && !source.departed->contains(device.get()))
+            cameras.append(std::make_shared<CameraDevice>(device, source.connection));
+    }
+    g_list_free(list);
+    return cameras;
+}
+
+// The provider of video nodes looks at each when that comes, and never again.
+static bool hasOverlooked(const Source &videoNodes, const QStringList &nodes)
+{
+    if (nodes.isEmpty())
+        return false;
+    const QVector<CameraHandle> cameras = camerasOf(videoNodes);
+    return std::any_of(nodes.begin(), nodes.end(), [&cameras](const QString &node) {
+        return std::none_of(cameras.begin(), cameras.end(), [&node](const CameraHandle &camera) {
+            return camera->record().devicePath == node;
+        });
+    });
 }
 
 DeviceProviders::DeviceProviders(std::function<void()> changed)
@@ -229,7 +263,7 @@ DeviceProviders::~DeviceProviders()
 void DeviceProviders::start(steady_clock::time_point deadline)
 {
     Sources &all = sources();
-    beginToStart(all.videoNodes);
+    beginToStart(all.videoNodes, hasOverlooked(all.videoNodes, all.openable.takeNew()));
     if (connectMediaServer(all.mediaServer))
         beginToStart(all.mediaServer);
     awaitStart(all.videoNodes, deadline);
@@ -252,21 +286,6 @@ DeviceProviders::Answer DeviceProviders::videoNodes()
 DeviceProviders::Answer DeviceProviders::mediaServer()
 {
     return answerOf(sources().mediaServer);
-}
-
-static QVector<CameraHandle> camerasOf(const Source &source)
-{
-    QVector<CameraHandle> cameras;
-    GList *list =
-        source.provider ? gst_device_provider_get_devices(source.provider.get()) : nullptr;
-    for (GList *entry = list; entry; entry = entry->next) {
-        const GstDeviceHandle device(GST_DEVICE(entry->data), GstObjectUnref());
-        if (gst_device_has_classes(device.get(), "Video/Source")
-            && !source.departed->contains(device.get()))
-            cameras.append(std::make_shared<CameraDevice>(device, source.connection));
-    }
-    g_list_free(list);
-    return cameras;
 }
 
 QVector<CameraHandle> DeviceProviders::cameras()

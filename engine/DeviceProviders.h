@@ -33,7 +33,9 @@ public:
     ~DeviceProviders();
     Q_DISABLE_COPY(DeviceProviders)
 
-    /// Starts every provider that does not run yet; waits for them until @p deadline at most.
+    /// Starts every provider that does not run yet, and that of the video nodes anew when there is
+    /// one that it does not have and that the user may open; waits for them until @p deadline at
+    /// most.
     static void start(std::chrono::steady_clock::time_point deadline);
 
     enum class Answer {
