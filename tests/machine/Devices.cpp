@@ -66,6 +66,12 @@ TestCameras::TestCameras(const QList<Kind> &kinds)
 {
 }
 
+TestCameras::TestCameras(uint nodes)
+    : Driver(QStringLiteral("vivid"),
+             {QStringLiteral("node_types=0x%1").arg(nodes, 0, 16), "num_inputs=1", "input_types=0"})
+{
+}
+
 bool TestCameras::set(const QString &control, int value, int camera)
 {
     return run(QStringLiteral("v4l2-ctl"),

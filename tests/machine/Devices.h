@@ -45,6 +45,8 @@ public:
 
     /// One camera for each of @p kinds, each called "vivid".
     explicit TestCameras(const QList<Kind> &kinds);
+    /// @p nodes are the kinds of node that the one camera has, in the bits of the driver.
+    explicit TestCameras(uint nodes);
 
     static QString node(int camera = 0) { return QStringLiteral("/dev/video%1").arg(camera); }
     /// Buttons are pressed by any value. Names are the driver's, "disconnect".

@@ -1,6 +1,11 @@
+#include "CameraDevice.h"
+#include "CameraFrame.h"
+#include "CameraPipeline.h"
+#include "DeviceProviders.h"
 #include "Devices.h"
 #include "GstStart.h"
 #include "LiveVideoData.h"
+#include "PictureConverter.h"
 
 #include <QFrame>
 #include <QSignalSpy>
@@ -8,9 +13,12 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cmath>
 #include <glib.h>
 
 using Kind = TestCameras::Kind;
+using std::chrono::seconds;
+using std::chrono::steady_clock;
 
 static const int openingLimit = 120000; // ms, with several attempts, on a slow machine
 static const int reactionLimit = 60000; // ms
@@ -57,12 +65,25 @@ private Q_SLOTS:
     void televisionIsShownWithoutComplaint();
     void aCameraThatIsPulledOutIsLostOnceAndFoundAgain();
     void aCameraThatAnotherProgramUsesIsOpenedWhenItLetsGo();
+    void twinsAreKeptApart();
+    void onlyCamerasAreListed();
+    void aFaultOfTheStreamIsALossThatCanBeMended_data();
+    void aFaultOfTheStreamIsALossThatCanBeMended();
+    void aCameraThatDoesNotStartIsOpenedTheNextTime();
+    void aPictureThatIsDamagedIsNoLoss_data();
+    void aPictureThatIsDamagedIsNoLoss();
+    void everyFormatHasTheSameColours_data();
+    void everyFormatHasTheSameColours();
+    void framesComeAtTheRateThatWasChosen_data();
+    void framesComeAtTheRateThatWasChosen();
 
 private:
     void begin(const QList<Kind> &kinds);
     bool open();
     QImage photo();
     bool framesGoOn();
+    static std::unique_ptr<CameraPipeline> pipelineOf(const QByteArray &format, const QSize &size,
+                                                      int rate);
 
     QTemporaryDir m_folder;
     std::unique_ptr<TestCameras> m_cameras; // goes after the engine, which holds its device
@@ -175,6 +196,163 @@ void TestCameraDrivers::aCameraThatAnotherProgramUsesIsOpenedWhenItLetsGo()
     other.reset();
     QVERIFY(open());
     QVERIFY(framesGoOn());
+}
+
+void TestCameraDrivers::twinsAreKeptApart()
+{
+    begin({Kind::Webcam, Kind::Webcam});
+    QCOMPARE(m_engine->GetVideoDeviceList(), (QStringList{"vivid (1)", "vivid (2)"}));
+    m_engine->SetVideoDevice(1);
+    QVERIFY(open());
+    QVERIFY(framesGoOn());
+    QVERIFY(TestCameras::set("disconnect", 1, 0));
+    QVERIFY(framesGoOn());
+    QCOMPARE(m_losses->count(), 0);
+    QVERIFY(TestCameras::set("disconnect", 1, 1));
+    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, reactionLimit);
+}
+
+void TestCameraDrivers::onlyCamerasAreListed()
+{
+    // Picture, teletext and closed captions, radio, picture out, data beside the picture, touch.
+    const uint everything = 0xe1d3d;
+    m_cameras = std::make_unique<TestCameras>(everything);
+    QVERIFY(m_cameras->isLoaded());
+    m_engine = std::make_unique<LiveVideoData>();
+    QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList(), QStringList{"vivid"}, reactionLimit);
+    QVERIFY(open());
+    QVERIFY(framesGoOn());
+}
+
+void TestCameraDrivers::aFaultOfTheStreamIsALossThatCanBeMended_data()
+{
+    QTest::addColumn<QString>("fault");
+    QTest::newRow("the driver gives up") << "inject_fatal_streaming_error";
+    QTest::newRow("the device is gone without a word") << "disconnect";
+}
+
+void TestCameraDrivers::aFaultOfTheStreamIsALossThatCanBeMended()
+{
+    QFETCH(QString, fault);
+    begin({Kind::Webcam});
+    QVERIFY(open());
+    QVERIFY(TestCameras::set(fault));
+    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, reactionLimit);
+    m_engine->Release();
+    QVERIFY(open());
+    QVERIFY(framesGoOn());
+    QCOMPARE(m_losses->count(), 1);
+}
+
+void TestCameraDrivers::aCameraThatDoesNotStartIsOpenedTheNextTime()
+{
+    begin({Kind::Webcam});
+    QVERIFY(open());
+    m_engine->Release();
+    QVERIFY(TestCameras::set("inject_vidioc_streamon_error"));
+    m_engine->Create();
+    QVERIFY(!m_engine->created);
+    QVERIFY(open());
+    QVERIFY(framesGoOn());
+}
+
+void TestCameraDrivers::aPictureThatIsDamagedIsNoLoss_data()
+{
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<int>("value");
+    QTest::newRow("one is marked as torn") << "inject_v4l2_buf_flag_error" << 1;
+    QTest::newRow("every second one is missing") << "percentage_of_dropped_buffers" << 50;
+    QTest::newRow("half as many come") << "reduced_framerate" << 1;
+}
+
+void TestCameraDrivers::aPictureThatIsDamagedIsNoLoss()
+{
+    QFETCH(QString, fault);
+    QFETCH(int, value);
+    begin({Kind::Webcam});
+    QVERIFY(open());
+    QVERIFY(TestCameras::set(fault, value));
+    for (int i = 0; i < 4; ++i)
+        QVERIFY(framesGoOn());
+    QCOMPARE(m_losses->count(), 0);
+}
+
+// The parts of the engine that are asked here have providers of their own.
+std::unique_ptr<CameraPipeline> TestCameraDrivers::pipelineOf(const QByteArray &format,
+                                                              const QSize &size, int rate)
+{
+    CameraHandle camera;
+    CameraMode found;
+    const auto offers = [&] {
+        DeviceProviders::start(steady_clock::now() + seconds(10));
+        const QVector<CameraHandle> cameras = DeviceProviders::cameras();
+        if (cameras.size() != 1)
+            return false;
+        camera = cameras.first();
+        const QVector<CameraMode> modes = camera->modes();
+        const auto mode = std::find_if(modes.begin(), modes.end(), [&](const CameraMode &offered) {
+            return offered.format == format && offered.size() == size
+                && qRound(offered.rate()) == rate;
+        });
+        found = mode == modes.end() ? CameraMode() : *mode;
+        return mode != modes.end();
+    };
+    if (!QTest::qWaitFor(offers, frameLimit))
+        return nullptr;
+    return CameraPipeline::build(camera->makeSource(), camera->formatOf(found), found);
+}
+
+void TestCameraDrivers::everyFormatHasTheSameColours_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    for (const char *format : {"YUY2", "UYVY", "NV12", "I420", "Y42B", "RGB", "BGRx"})
+        QTest::newRow(format) << QByteArray(format);
+}
+
+void TestCameraDrivers::everyFormatHasTheSameColours()
+{
+    QFETCH(QByteArray, format);
+    begin({Kind::Webcam});
+    const std::unique_ptr<CameraPipeline> camera = pipelineOf(format, {320, 180}, 25);
+    QVERIFY2(camera, "the driver does not have this format");
+    QVERIFY(camera->play());
+    const auto frame = CameraFrame::fromSample(camera->nextSample(frameLimit));
+    QVERIFY2(frame, qPrintable(camera->failure()));
+    PictureConverter whole(QImage::Format_RGB888);
+    QVERIFY(worstDifference(whole.convert(*frame, frame->size())) < colourTolerance);
+    PictureConverter screen(QImage::Format_RGB32);
+    QVERIFY(worstDifference(screen.convert(*frame, {256, 144})) < colourTolerance);
+}
+
+void TestCameraDrivers::framesComeAtTheRateThatWasChosen_data()
+{
+    QTest::addColumn<int>("rate");
+    for (int rate : {10, 30, 60})
+        QTest::addRow("%d", rate) << rate;
+}
+
+// By the times of the driver: a slow machine loses frames, but none comes at a wrong time.
+void TestCameraDrivers::framesComeAtTheRateThatWasChosen()
+{
+    QFETCH(int, rate);
+    begin({Kind::Webcam});
+    const std::unique_ptr<CameraPipeline> camera = pipelineOf("YUY2", {320, 180}, rate);
+    QVERIFY(camera);
+    QVERIFY(camera->play());
+    GstClockTime last = GST_CLOCK_TIME_NONE;
+    int inStep = 0;
+    const int frames = 12;
+    for (int i = 0; i < frames; ++i) {
+        const GstMiniHandle<GstSample> sample = camera->nextSample(frameLimit);
+        QVERIFY2(sample, qPrintable(camera->failure()));
+        const GstClockTime time = GST_BUFFER_PTS(gst_sample_get_buffer(sample.get()));
+        if (last != GST_CLOCK_TIME_NONE) {
+            const double steps = double(time - last) * rate / double(GST_SECOND);
+            inStep += std::round(steps) >= 1 && std::fabs(steps - std::round(steps)) < 0.25;
+        }
+        last = time;
+    }
+    QVERIFY2(inStep >= frames - 3, qPrintable(QString::number(inStep)));
 }
 
 QTEST_MAIN(TestCameraDrivers)
