@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 using std::chrono::steady_clock;
 
@@ -142,6 +143,7 @@ struct Source {
 struct Sources {
     Source videoNodes;
     OpenableNodes openable;
+    CameraHandle doubted; ///< null when none is
     Source mediaServer;
 };
 } // namespace
@@ -263,11 +265,19 @@ DeviceProviders::~DeviceProviders()
 void DeviceProviders::start(steady_clock::time_point deadline)
 {
     Sources &all = sources();
-    beginToStart(all.videoNodes, hasOverlooked(all.videoNodes, all.openable.takeNew()));
+    const bool overlooked = hasOverlooked(all.videoNodes, all.openable.takeNew());
+    const CameraHandle doubted = std::exchange(all.doubted, nullptr);
+    beginToStart(all.videoNodes, overlooked || (doubted && contains(*doubted)));
     if (connectMediaServer(all.mediaServer))
         beginToStart(all.mediaServer);
     awaitStart(all.videoNodes, deadline);
     awaitStart(all.mediaServer, deadline);
+}
+
+void DeviceProviders::doubt(const CameraHandle &camera)
+{
+    if (camera->record().origin == DeviceRecord::Origin::V4l2)
+        sources().doubted = camera;
 }
 
 static DeviceProviders::Answer answerOf(const Source &source)

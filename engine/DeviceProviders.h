@@ -34,9 +34,13 @@ public:
     Q_DISABLE_COPY(DeviceProviders)
 
     /// Starts every provider that does not run yet, and that of the video nodes anew when there is
-    /// one that it does not have and that the user may open; waits for them until @p deadline at
-    /// most.
+    /// one that it does not have and that the user may open, or one that is doubted; waits for them
+    /// until @p deadline at most.
     static void start(std::chrono::steady_clock::time_point deadline);
+
+    /// What was heard of @p camera may be out of date, because it has failed although it is there:
+    /// a grabber whose source has changed its picture offers other formats, and tells nobody.
+    static void doubt(const CameraHandle &camera);
 
     enum class Answer {
         None, ///< there is no such source on this machine

@@ -132,6 +132,8 @@ bool LiveVideoData::Private::open(const CameraHandle &chosen, const QSize &size)
     const std::shared_ptr<const CameraFrame> frame = thread->newestFrame();
     if (!opened || !frame) {
         qCInfo(engineLog) << chosen->record().name << "gives no picture";
+        if (thread->hasFailed())
+            DeviceProviders::doubt(chosen);
         close();
         return false;
     }
@@ -453,6 +455,7 @@ void LiveVideoData::device()
     const bool unplugged = !DeviceProviders::contains(*d->camera);
     if (unplugged || d->thread->hasFailed()) {
         qCInfo(engineLog) << d->camera->record().name << "is lost";
+        DeviceProviders::doubt(d->camera);
         d->loseCamera();
     }
 }

@@ -72,6 +72,7 @@ private Q_SLOTS:
     void aCameraThatDoesNotStartIsOpenedTheNextTime();
     void aPictureThatIsDamagedIsNoLoss_data();
     void aPictureThatIsDamagedIsNoLoss();
+    void hdmiThatChangesItsPictureIsFoundAgain();
     void everyFormatHasTheSameColours_data();
     void everyFormatHasTheSameColours();
     void framesComeAtTheRateThatWasChosen_data();
@@ -275,6 +276,21 @@ void TestCameraDrivers::aPictureThatIsDamagedIsNoLoss()
     for (int i = 0; i < 4; ++i)
         QVERIFY(framesGoOn());
     QCOMPARE(m_losses->count(), 0);
+}
+
+void TestCameraDrivers::hdmiThatChangesItsPictureIsFoundAgain()
+{
+    begin({Kind::Hdmi});
+    QVERIFY(open());
+    QVERIFY(framesGoOn());
+    // No source, as when the computer at the other end changes its picture, then another one.
+    QVERIFY(TestCameras::set("dv_timings_signal_mode", 1));
+    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, reactionLimit);
+    m_engine->Release();
+    QVERIFY(TestCameras::set("dv_timings_signal_mode", 0));
+    QVERIFY(run("v4l2-ctl", {"-d", TestCameras::node(), "--set-dv-bt-timings", "index=0"}));
+    QVERIFY(open());
+    QVERIFY(framesGoOn());
 }
 
 // The parts of the engine that are asked here have providers of their own.
