@@ -122,15 +122,22 @@ void LoopCard::fallSilent()
     m_player.waitForFinished(toolLimit);
 }
 
+// The driver lets the card go only when nobody has it open any more, and who waits for that cannot
+// be interrupted.
 bool LoopCard::pullOut()
 {
     fallSilent();
-    return write(QStringLiteral("/sys/bus/platform/drivers/snd_aloop/unbind"), "snd_aloop.0");
+    m_puller.start(QStringLiteral("sh"),
+                   {"-c", "echo snd_aloop.0 >/sys/bus/platform/drivers/snd_aloop/unbind"});
+    return QTest::qWaitFor([] { return !QFile::exists("/proc/asound/card0"); }, toolLimit)
+        && settle();
 }
 
 bool LoopCard::plugIn()
 {
-    return write(QStringLiteral("/sys/bus/platform/drivers/snd_aloop/bind"), "snd_aloop.0");
+    return QTest::qWaitFor([this] { return m_puller.state() == QProcess::NotRunning; },
+                           leavingLimit)
+        && write(QStringLiteral("/sys/bus/platform/drivers/snd_aloop/bind"), "snd_aloop.0");
 }
 
 std::unique_ptr<OtherProgram> OtherProgram::streaming(const QString &node)

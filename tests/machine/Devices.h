@@ -72,11 +72,13 @@ public:
     /// the card hears it in this format only.
     bool play(const QString &format = QStringLiteral("S16_LE"), int rate = 48000, int channels = 2);
     void fallSilent();
+    /// Who listens to it hears nothing more; it can be plugged in again once they have closed it.
     bool pullOut();
-    static bool plugIn();
+    bool plugIn();
 
 private:
     QProcess m_player;
+    QProcess m_puller;
 };
 
 /// Another program that streams from a video node or listens to the card until this object goes.
