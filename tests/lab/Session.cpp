@@ -154,7 +154,7 @@ bool Session::beginMovie()
         if (!pressWhenReady(WindowMap::LiveScreen, QStringLiteral("Movie")))
             return false;
         const bool answers =
-            QTest::qWaitFor([this] { return isRecording() || dialog().isActive; }, startLimit);
+            waitFor([this] { return isRecording() || dialog().isActive; }, startLimit);
         if (isRecording())
             return true;
         if (!answers || spare.isPlenty() || !confirmMessage())
