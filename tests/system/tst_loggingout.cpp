@@ -128,7 +128,7 @@ void TestLoggingOut::aRecordingIsSavedWhole()
     QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
     m_login->logOut(LoginSession::MayAsk);
     QVERIFY(m_user->waitForDialog("Orvanta"));
-    QTest::qWait(1500); // recorded as well
+    QTest::qWait(1500); // nothing to wait for: the rest of the movie's length
     QVERIFY(m_user->answerExitQuestion("Yes"));
     QTRY_VERIFY(m_login->isReadyToEnd());
     QVERIFY(endsWithItsSession());

@@ -93,8 +93,7 @@ void MoviesTest::aMovieIsRecordedAndPlayedTwice()
     const QImage begin = timeLine(user);
     QVERIFY(user.isLiveAt(picture));
     QTRY_VERIFY_WITH_TIMEOUT(timeLine(user) != begin, 3000);
-    // Nothing to wait for: the movie's length, so that all is seen before its end.
-    QTest::qWait(4000);
+    QTest::qWait(4000); // nothing to wait for: the movie's length, to see all before its end
     QVERIFY(user.isLiveAt(picture));
     user.press(WindowMap::RecordingScreen, "MovieStop");
     QVERIFY(user.waitForPressable(WindowMap::MovieScreen, {"Live", "MoviePlay", "List", "Close"}));

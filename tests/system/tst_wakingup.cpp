@@ -15,7 +15,7 @@ private Q_SLOTS:
     void aRecordingGoesOn();
 
 private:
-    void sleep();
+    void beSuspended();
 
     std::unique_ptr<Session> m_user;
 };
@@ -33,7 +33,7 @@ void TestWakingUp::cleanup()
     m_user.reset();
 }
 
-void TestWakingUp::sleep()
+void TestWakingUp::beSuspended()
 {
     m_user->program().stop();
     QVERIFY(labctl({"freeze", "cam1"}));
@@ -42,7 +42,7 @@ void TestWakingUp::sleep()
         const StoppedServer sound("pipewire-pulse");
         const StoppedServer manager("wireplumber");
         QVERIFY(media.isStopped() && sound.isStopped() && manager.isStopped());
-        QTest::qWait(nap);
+        QTest::qWait(nap); // nothing to wait for: how long all sleep
     }
     m_user->program().goOn();
     QVERIFY(labctl({"thaw", "cam1"}));
@@ -50,7 +50,7 @@ void TestWakingUp::sleep()
 
 void TestWakingUp::theLivePictureGoesOn()
 {
-    sleep();
+    beSuspended();
     QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
     QVERIFY(!QTest::qWaitFor([this] { return m_user->dialog().id != 0; }, 2000));
     QVERIFY(m_user->takePhotoForPreview());
@@ -60,7 +60,7 @@ void TestWakingUp::aRecordingGoesOn()
 {
     QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Movie"));
     QVERIFY(m_user->waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
-    sleep();
+    beSuspended();
     QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
     QCOMPARE(m_user->dialog().id, 0U);
     QVERIFY(m_user->pressWhenReady(WindowMap::RecordingScreen, "MovieStop"));

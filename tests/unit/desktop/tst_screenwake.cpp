@@ -116,7 +116,7 @@ void TestScreenWake::changesInARowAreOneQuestion()
     FakeDesktop desktop(*m_bus, commonName);
     for (int change = 0; change < 5; ++change) {
         m_wake->lookSoon();
-        QTest::qWait(quietTime / 10);
+        QTest::qWait(quietTime / 10); // nothing to wait for: time between changes
     }
     QTRY_VERIFY(m_wake->isKept());
     m_wake->lookSoon();
