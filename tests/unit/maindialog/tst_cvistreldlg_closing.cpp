@@ -280,7 +280,7 @@ void ClosingFlowTest::aRecordingRunsOnUntilTheLoggingOutIsAnswered()
     QVERIFY(fixture.button("MovieStop").isVisible());
     DialogFixture::boxDuring(leave, QStringLiteral("Yes"));
     QCOMPARE(FakeEngine::script().calls.filter("RecordStop").size(), 1);
-    QVERIFY(QDir(datedFolder(fixture.home())).entryList(QDir::Files).filter("movie").size() > 0);
+    QVERIFY(!QDir(datedFolder(fixture.home())).entryList(QDir::Files).filter("movie").isEmpty());
     QVERIFY(!dialog.isVisible());
 }
 
