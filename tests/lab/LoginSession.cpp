@@ -49,15 +49,16 @@ static Status meet(SmsConn program, SmPointer data, unsigned long *wanted, SmsCa
         | SmsSaveYourselfDoneProcMask | SmsCloseConnectionProcMask | SmsSetPropertiesProcMask
         | SmsDeletePropertiesProcMask | SmsGetPropertiesProcMask;
     *calls = {};
-    calls->register_client = {
-        [](SmsConn who, SmPointer, char *before) -> Status {
-            SmsRegisterClientReply(who, before ? before : SmsGenerateClientID(who));
-            // As the protocol wants it of one that is new.
-            SmsSaveYourself(who, SmSaveLocal, False, SmInteractStyleNone, False);
-            free(before);
-            return 1;
-        },
-        data};
+    calls->register_client = {[](SmsConn who, SmPointer, char *before) -> Status {
+                                  char *name = before ? before : SmsGenerateClientID(who);
+                                  SmsRegisterClientReply(who, name);
+                                  // As the protocol wants it of one that is new.
+                                  SmsSaveYourself(who, SmSaveLocal, False, SmInteractStyleNone,
+                                                  False);
+                                  free(name);
+                                  return 1;
+                              },
+                              data};
     calls->interact_request = {[](SmsConn who, SmPointer login, int) {
                                    Login::of(login).hasAsked = true;
                                    SmsInteract(who);
@@ -96,7 +97,12 @@ static Status meet(SmsConn program, SmPointer data, unsigned long *wanted, SmsCa
                                  free(properties);
                              },
                              data};
-    calls->delete_properties = {[](SmsConn, SmPointer, int, char **) {}, data};
+    calls->delete_properties = {[](SmsConn, SmPointer, int count, char **names) {
+                                    for (int i = 0; i < count; ++i)
+                                        free(names[i]);
+                                    free(names);
+                                },
+                                data};
     calls->get_properties = {[](SmsConn who, SmPointer) { SmsReturnProperties(who, 0, nullptr); },
                              data};
     return 1;
