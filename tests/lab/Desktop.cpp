@@ -107,6 +107,19 @@ QColor Desktop::pixel(QPoint at) const
     return picture.valid(at) ? picture.pixelColor(at) : QColor();
 }
 
+static ::Window parentOf(Display *display, ::Window window)
+{
+    ::Window root = 0;
+    ::Window parent = 0;
+    ::Window *children = nullptr;
+    unsigned count = 0;
+    if (!XQueryTree(display, window, &root, &parent, &children, &count))
+        return 0;
+    if (children)
+        XFree(children);
+    return parent;
+}
+
 QVector<quint32> Desktop::childrenOf(quint32 window) const
 {
     ::Window root = 0;
@@ -139,16 +152,19 @@ QVector<quint32> Desktop::stacking() const
     return listed;
 }
 
+// A window manager may name a window before that has the keyboard; keys pressed then go elsewhere.
 quint32 Desktop::activeWindow() const
 {
-    const auto root = quint32(DefaultRootWindow(m_display));
-    const QVector<quint32> told = cardinals(root, "_NET_ACTIVE_WINDOW");
-    if (!told.isEmpty())
-        return told.first();
+    const ::Window root = DefaultRootWindow(m_display);
     ::Window focused = 0;
     int revert = 0;
     XGetInputFocus(m_display, &focused, &revert);
-    return quint32(focused);
+    const QVector<quint32> told = cardinals(quint32(root), "_NET_ACTIVE_WINDOW");
+    if (told.isEmpty())
+        return quint32(focused);
+    while (focused > PointerRoot && focused != root && focused != told.first())
+        focused = parentOf(m_display, focused);
+    return focused == told.first() ? told.first() : 0;
 }
 
 QVector<Desktop::Window> Desktop::windows() const
