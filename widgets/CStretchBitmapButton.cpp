@@ -4,6 +4,7 @@
 
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
@@ -93,27 +94,37 @@ void CStretchBitmapButton::setCaptionText(const QString &text)
     setAccessibleName(spoken.isEmpty() ? m_baseName : spoken);
 }
 
+QString CStretchBitmapButton::bitmapPath(State state) const
+{
+    static constexpr std::array<const char *, StateCount> endings = {"_up", "_dw", "_ds"};
+    return QStringLiteral(":res/") + m_baseName + QLatin1String(endings[state])
+        + QLatin1String(".bmp");
+}
+
 void CStretchBitmapButton::setIconFromObjectNameBitmap()
 {
-    const QString stem = QStringLiteral(":res/") + m_baseName;
-    m_upBitmap = QPixmap(stem + QStringLiteral("_up.bmp"));
-    m_downBitmap = QPixmap(stem + QStringLiteral("_dw.bmp"));
-    m_disabledBitmap = QPixmap(stem + QStringLiteral("_ds.bmp"));
-
-    const QSize size = ButtonGeometry::fittedBitmapSize(m_upBitmap.size(), availableScreenWidth());
-    m_upBitmap = scaledTo(m_upBitmap, size, devicePixelRatioF());
-    m_downBitmap = scaledTo(m_downBitmap, size, devicePixelRatioF());
-    m_disabledBitmap = scaledTo(m_disabledBitmap, size, devicePixelRatioF());
+    m_bitmaps = {};
+    const QSize bitmap = QImageReader(bitmapPath(Up)).size();
+    const QSize size = ButtonGeometry::fittedBitmapSize(bitmap.isValid() ? bitmap : QSize(0, 0),
+                                                        availableScreenWidth());
     setBaseSize(size);
     resize(size);
+}
+
+const QPixmap &CStretchBitmapButton::bitmapOf(State state)
+{
+    std::optional<QPixmap> &bitmap = m_bitmaps[state];
+    if (!bitmap)
+        bitmap = scaledTo(QPixmap(bitmapPath(state)), baseSize(), devicePixelRatioF());
+    return *bitmap;
 }
 
 void CStretchBitmapButton::paintEvent(QPaintEvent * /*event*/)
 {
     if (!isVisible())
         return;
-    const QPixmap &enabledBitmap = isDown() ? m_downBitmap : m_upBitmap;
-    const QPixmap &bitmap = isEnabled() ? enabledBitmap : m_disabledBitmap;
+    const State enabledState = isDown() ? Down : Up;
+    const QPixmap &bitmap = bitmapOf(isEnabled() ? enabledState : Disabled);
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(QRectF(0, 0, width(), height()), bitmap, QRectF(bitmap.rect()));

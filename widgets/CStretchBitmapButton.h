@@ -4,6 +4,9 @@
 #include <QPixmap>
 #include <QPushButton>
 
+#include <array>
+#include <optional>
+
 class QLabel;
 
 /**
@@ -13,7 +16,8 @@ class QLabel;
  * The name given at construction is the stem of the three bitmaps in the program's resources. The
  * button takes the size of its "up" bitmap, at most a sixth of the screen's width; a setGeometry()
  * from outside is obeyed whatever the caption needs. A missing bitmap is not reported: the button
- * is then 0 by 0, or draws nothing in that state. Buttons are born hidden.
+ * is then 0 by 0, or draws nothing in that state. Buttons are born hidden, and read a bitmap when
+ * it is first painted: a start would have to wait for those of all screens.
  */
 class CStretchBitmapButton : public QPushButton {
     Q_OBJECT
@@ -29,14 +33,16 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    enum State { Up, Down, Disabled, StateCount };
+
+    QString bitmapPath(State state) const;
+    const QPixmap &bitmapOf(State state);
     void createCaption();
     void paintFocusMark(QPainter &painter) const;
 
     QLabel *m_caption = nullptr;
     QString m_baseName;
-    QPixmap m_upBitmap;
-    QPixmap m_downBitmap;
-    QPixmap m_disabledBitmap;
+    std::array<std::optional<QPixmap>, StateCount> m_bitmaps; ///< of those painted so far
 };
 
 #endif
