@@ -101,6 +101,8 @@ int main(int argc, char **argv)
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     if (application.sendMessage("Wake up!", 5000))
         return 0;
+    // Servers and drivers think while the window is built.
+    LiveVideoWidget::beginDeviceList();
     // The answer is not needed: a copy that is there but did not respond in time must not keep the
     // camera from being used.
     application.isRunning();

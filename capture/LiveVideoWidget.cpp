@@ -74,6 +74,11 @@ void LiveVideoWidget::showEvent(QShowEvent *event)
     update();
 }
 
+void LiveVideoWidget::beginDeviceList()
+{
+    LiveVideoData::BeginList();
+}
+
 void LiveVideoWidget::setInterruption(const std::function<bool()> &wanted)
 {
     LiveVideoData::SetInterruption(wanted);

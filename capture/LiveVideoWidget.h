@@ -35,6 +35,8 @@ public:
 
     QPaintEngine *paintEngine() const override;
 
+    /// Begins to look for cameras and microphones, so that the first list need not wait for it all.
+    static void beginDeviceList();
     /// Opening a camera is given up as soon as @p wanted says that the program is to end.
     static void setInterruption(const std::function<bool()> &wanted);
 

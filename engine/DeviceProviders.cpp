@@ -5,6 +5,7 @@
 #include "ChangeListeners.h"
 #include "DemoCamera.h"
 #include "EngineLog.h"
+#include "GstStart.h"
 #include "MediaConnection.h"
 #include "OpenableNodes.h"
 
@@ -115,7 +116,7 @@ static GstObjectHandle<GstDeviceProvider> makeProvider(const char *name)
 static ProviderHandle startProvider(const char *name, const MediaConnection *connection,
                                     const DepartedHandle &departed)
 {
-    GstObjectHandle<GstDeviceProvider> provider = makeProvider(name);
+    GstObjectHandle<GstDeviceProvider> provider = startGstreamer() ? makeProvider(name) : nullptr;
     if (!provider)
         return nullptr;
     if (connection)
@@ -262,7 +263,7 @@ DeviceProviders::~DeviceProviders()
     listeners().remove(&m_changed);
 }
 
-void DeviceProviders::start(steady_clock::time_point deadline)
+void DeviceProviders::begin()
 {
     Sources &all = sources();
     const bool overlooked = hasOverlooked(all.videoNodes, all.openable.takeNew());
@@ -270,6 +271,12 @@ void DeviceProviders::start(steady_clock::time_point deadline)
     beginToStart(all.videoNodes, overlooked || (doubted && contains(*doubted)));
     if (connectMediaServer(all.mediaServer))
         beginToStart(all.mediaServer);
+}
+
+void DeviceProviders::start(steady_clock::time_point deadline)
+{
+    begin();
+    Sources &all = sources();
     awaitStart(all.videoNodes, deadline);
     awaitStart(all.mediaServer, deadline);
 }

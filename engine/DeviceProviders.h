@@ -33,9 +33,11 @@ public:
     ~DeviceProviders();
     Q_DISABLE_COPY(DeviceProviders)
 
-    /// Starts every provider that does not run yet, and that of the video nodes anew when there is
-    /// one that it does not have and that the user may open, or one that is doubted; waits for them
-    /// until @p deadline at most.
+    /// Begins to start every provider that does not run yet, and that of the video nodes anew when
+    /// there is one that it does not have and that the user may open, or one that is doubted. Does
+    /// not wait, not even for GStreamer's own start.
+    static void begin();
+    /// The same; waits for them until @p deadline at most.
     static void start(std::chrono::steady_clock::time_point deadline);
 
     /// What was heard of @p camera may be out of date, because it has failed although it is there:

@@ -235,6 +235,12 @@ LiveVideoData::~LiveVideoData()
     d->thread = nullptr;
 }
 
+void LiveVideoData::BeginList()
+{
+    MicrophoneFinder::begin();
+    DeviceProviders::begin();
+}
+
 void LiveVideoData::SetInterruption(const std::function<bool()> &wanted)
 {
     PatientCall::setInterruption(wanted);

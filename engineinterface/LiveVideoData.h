@@ -79,6 +79,11 @@ public:
     LiveVideoData();
     ~LiveVideoData() override; ///< closes everything still open
 
+    /// Begins what the first GetVideoDeviceList() of the process has to wait for, and returns at
+    /// once: a program that has a window to build meanwhile starts sooner. Only once the
+    /// application object is there.
+    static void BeginList();
+
     /// Opening a camera is given up as soon as @p wanted, asked about five times a second, says
     /// that the program is to end. For all engines of the process; null for never, as at first.
     static void SetInterruption(const std::function<bool()> &wanted);

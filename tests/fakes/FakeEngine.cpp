@@ -96,6 +96,8 @@ LiveVideoData::~LiveVideoData()
         livingEngine = nullptr;
 }
 
+void LiveVideoData::BeginList() { }
+
 void LiveVideoData::SetInterruption(const std::function<bool()> &) { }
 
 void LiveVideoData::SetTarget(QWidget *target)
