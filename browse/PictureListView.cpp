@@ -67,13 +67,29 @@ QListWidgetItem *PictureListView::addItem(const QString &name)
     auto *item = new QListWidgetItem(this);
     item->setBackground(Qt::black);
     item->setForeground(Qt::white);
-    // Width and height are crossed on purpose: the strip flows downwards, and tiles are as wide as
-    // the strip is high. One tile fills the height, so the next one starts a column.
-    item->setSizeHint(QSize(height(), iconSize().width()));
+    item->setSizeHint(itemSize());
     item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
     item->setText(m_movieMode ? WebcamUtil::movieNameOf(name) : name);
     m_itemNames.append(name);
     return item;
+}
+
+// Width and height are crossed on purpose: the strip flows downwards, and tiles are as wide as the
+// strip is high. One tile fills the height, so the next one starts a column.
+QSize PictureListView::itemSize() const
+{
+    return {height(), iconSize().width()};
+}
+
+// A strip that becomes another size while it is in use; a thumbnail is not enlarged, though.
+void PictureListView::resizeEvent(QResizeEvent *event)
+{
+    QListWidget::resizeEvent(event);
+    if (count() == 0 || iconSize() == pictureSizeIn(height()))
+        return;
+    chooseIconSize();
+    for (int i = 0; i < count(); ++i)
+        item(i)->setSizeHint(itemSize());
 }
 
 void PictureListView::showThumbnail(const QString &name, const QImage &thumbnail)

@@ -53,10 +53,12 @@ public Q_SLOTS:
 
 protected:
     QStyleOptionViewItem viewOptions() const override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void chooseIconSize();
     QListWidgetItem *addItem(const QString &name);
+    QSize itemSize() const;
     QSize thumbnailSize() const;
     void showThumbnail(const QString &name, const QImage &thumbnail);
     bool deselectBeyondLimit();

@@ -123,6 +123,13 @@ void PictureWidget::placeInCorner(QWidget *button) const
                         size.height());
 }
 
+void PictureWidget::resizeEvent(QResizeEvent * /*event*/)
+{
+    for (QWidget *button : {m_zoomButton, m_backButton})
+        if (button)
+            placeInCorner(button);
+}
+
 void PictureWidget::labelVisible(bool b)
 {
     m_label->setVisible(b);

@@ -79,6 +79,7 @@ CVistrelDlg::CVistrelDlg(QWidget *parent, Qt::WindowFlags flags)
     showFirstScreen();
     SetLocalConnect();
     InitialVal();
+    watchScreens();
 }
 
 CVistrelDlg::~CVistrelDlg() = default;
@@ -118,9 +119,14 @@ void CVistrelDlg::SetButtonInstance()
     for (int which = LiveButton; which <= BackButton; ++which)
         createButton(Button(which));
     setTVSButton();
+    measureButtons();
+    hideAllButton();
+}
+
+void CVistrelDlg::measureButtons()
+{
     m_geometry = DialogGeometry(m_screen.size(), button(LiveButton)->size());
     placeSmallButtons();
-    hideAllButton();
 }
 
 void CVistrelDlg::placeSmallButtons()

@@ -27,6 +27,7 @@ class LiveVideoWidget;
 class MovieWidget;
 class PictureListView;
 class PictureWidget;
+class QScreen;
 class QSound;
 class ScreenWake;
 class Setting;
@@ -211,6 +212,7 @@ private:
     void readScreen();
     void SetButtonInstance();
     void createButton(Button which);
+    void measureButtons(); ///< as large as they are by themselves
     void placeSmallButtons();
     void SetButtonCaptionText();
     void SetChildInstance();
@@ -229,10 +231,19 @@ private:
     TimerWidget *m_timerWidget = nullptr;
     PictureListView *m_pictureList = nullptr;
     Setting *m_settings = nullptr;
-    QRect m_screen; ///< px, the free area of the default screen
+    QRect m_screen; ///< px, the free area of the window's screen
     DialogGeometry m_geometry;
     QRect m_videoRect;
     QRect m_halfScreenRect;
+
+    // --- ScreenChange.cpp ------------------------------------------------------------------
+    void watchScreens();
+    void stayOn(QScreen *screen);
+    void followScreen();
+    void moveChildren(const DialogGeometry &before, const QRect &videoBefore);
+
+    QPointer<QScreen> m_ownScreen; ///< the one that the window fills
+    QTimer m_screenSettles; ///< runs while it changes
 
     // --- DisplayModes.cpp ------------------------------------------------------------------
     struct RowCell {

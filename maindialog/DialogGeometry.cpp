@@ -144,3 +144,33 @@ QVector<QRect> DialogGeometry::tileRects(const QRect &video, int count)
     }
     return tiles;
 }
+
+QVector<QRect> DialogGeometry::viewPlaces(const QRect &video) const
+{
+    const QRect half = halfScreenRect(video);
+    const QRect strip = stripRect();
+    const QRect seriesLive = seriesLiveRect(video.size(), strip.height());
+    QVector<QRect> places = {video,
+                             half,
+                             besideHalfScreen(half),
+                             strip,
+                             selectionRect(video, strip.height()),
+                             seriesLive,
+                             seriesPhotoRect(seriesLive)};
+    for (int count = 1; count <= mostTiles; ++count)
+        places += tileRects(video, count);
+    return places;
+}
+
+QVector<QRect> DialogGeometry::buttonPlaces() const
+{
+    QVector<QRect> places = {buttonCell(), acceptCell(), retryCell()};
+    const auto addRow = [&](double start, int count) {
+        for (int i = 0; i < count; ++i)
+            places.append(cellAt(start + i * m_button.width()));
+    };
+    addRow(rowStart(5), 5);
+    addRow(rowStart(3), 3);
+    addRow(movieRowStart(), 3);
+    return places;
+}

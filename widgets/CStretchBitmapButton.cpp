@@ -20,9 +20,13 @@ constexpr qreal focusMarkRadius = 6;
 constexpr qreal focusMarkRim = 6;
 constexpr qreal focusMarkLine = 3;
 
-int availableScreenWidth()
+// Of the screen that the button's window stands on, or will stand on.
+int availableScreenWidth(const QWidget *button)
 {
-    return QGuiApplication::primaryScreen()->availableGeometry().width();
+    const QWidget *window = button->window();
+    const QScreen *screen =
+        window->isVisible() ? window->screen() : QGuiApplication::primaryScreen();
+    return screen->availableGeometry().width();
 }
 
 // Shrinks @p bitmap for a button of @p size on a screen of @p ratio device pixels to a pixel.
@@ -43,8 +47,8 @@ CStretchBitmapButton::CStretchBitmapButton(const QString &name, QWidget *parent)
     setObjectName(name);
     setAccessibleName(name);
     setCheckable(false);
-    setIconFromObjectNameBitmap();
     createCaption();
+    setIconFromObjectNameBitmap();
     hide();
 }
 
@@ -52,9 +56,6 @@ void CStretchBitmapButton::createCaption()
 {
     m_caption = new QLabel(this);
     m_caption->setObjectName(QStringLiteral("caption"));
-    m_caption->setFont(QFont(QStringLiteral("Arial"),
-                             ButtonGeometry::captionPointSize(availableScreenWidth()), QFont::Black,
-                             false));
     m_caption->setWordWrap(true);
     m_caption->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     QPalette colors = m_caption->palette();
@@ -104,9 +105,12 @@ QString CStretchBitmapButton::bitmapPath(State state) const
 void CStretchBitmapButton::setIconFromObjectNameBitmap()
 {
     m_bitmaps = {};
+    const int screenWidth = availableScreenWidth(this);
+    m_caption->setFont(QFont(QStringLiteral("Arial"), ButtonGeometry::captionPointSize(screenWidth),
+                             QFont::Black, false));
     const QSize bitmap = QImageReader(bitmapPath(Up)).size();
-    const QSize size = ButtonGeometry::fittedBitmapSize(bitmap.isValid() ? bitmap : QSize(0, 0),
-                                                        availableScreenWidth());
+    const QSize size =
+        ButtonGeometry::fittedBitmapSize(bitmap.isValid() ? bitmap : QSize(0, 0), screenWidth);
     setBaseSize(size);
     resize(size);
 }

@@ -27,6 +27,7 @@ public:
 
     /// Line breaks and blanks are shown as they are; assistive tools are told the text without.
     void setCaptionText(const QString &text);
+    /// Makes bitmaps, size and caption fit the screen, as at first: for a screen that has changed.
     void setIconFromObjectNameBitmap();
 
 protected:

@@ -78,8 +78,10 @@ QRect Desktop::screen() const
 {
     if (!m_screen)
         return {};
-    const int number = DefaultScreen(m_screen);
-    return {0, 0, DisplayWidth(m_screen, number), DisplayHeight(m_screen, number)};
+    // Asked, since it may have changed since the connection began.
+    XWindowAttributes root = {};
+    XGetWindowAttributes(m_screen, DefaultRootWindow(m_screen), &root);
+    return {0, 0, root.width, root.height};
 }
 
 QImage Desktop::screenshot() const

@@ -11,6 +11,7 @@
 #include <QDeadlineTimer>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 
 namespace {
@@ -28,6 +29,7 @@ const int betweenLooks = patience > 1 ? 200 : 10; // ms
 
 Session::Session(const QString &executable, const QString &cameraName, QSize cameraSize, QRect area)
     : m_program(executable)
+    , m_camera(cameraSize)
     , m_area(area.isNull() ? m_desktop.screen() : area)
     , m_map(m_area, int(qApp->devicePixelRatio()), cameraSize)
     , m_ground(LabPattern::groundOf(cameraName))
@@ -61,6 +63,20 @@ bool Session::waitForMainWindow()
                  qPrintable(m_desktop.topWindowOf(m_program.pid()).title),
                  qPrintable(m_program.output()));
     return isUp;
+}
+
+bool Session::waitForMainWindowAt(QRect area)
+{
+    m_area = area;
+    // Buttons are as wide as a screen lets them be, and the map measures some of its own.
+    const auto screenIsKnown = [area] {
+        return QGuiApplication::primaryScreen()->availableGeometry().size()
+            == area.size() / qApp->devicePixelRatio();
+    };
+    if (!waitFor(screenIsKnown, startLimit))
+        return false;
+    m_map = WindowMap(area, int(qApp->devicePixelRatio()), m_camera);
+    return waitForMainWindow();
 }
 
 bool Session::waitForChooser()

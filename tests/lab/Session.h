@@ -30,6 +30,9 @@ public:
     // Starts the program and waits until the camera's picture moves in its window.
     bool startLive();
     bool waitForMainWindow();
+    // The screen has changed: until the window fills that area of it, where all else is looked for
+    // from then on.
+    bool waitForMainWindowAt(QRect area);
     bool waitForChooser();
     Desktop::Window mainWindow() const;
     // Of the program's dialogs the highest; id 0 when none is open.
@@ -75,6 +78,7 @@ private:
 
     Desktop m_desktop;
     Program m_program;
+    QSize m_camera;
     QRect m_area;
     WindowMap m_map;
     QRgb m_ground;
