@@ -34,6 +34,7 @@ struct Place {
     bool isAnywhere = false;
     bool isTouched = false;
     int number = -2; ///< of the frame seen last; -2: not looked at yet
+    QImage row; ///< what was seen last, to know other changes by
 };
 
 qint64 nanosecondsNow()
@@ -78,22 +79,22 @@ void touch(Place *place, const QRect &drawn)
         place->isTouched = true;
 }
 
-// One row of the screen tells the number.
-int numberAt(Display *display, const QRect &place)
+// One row of the screen tells the number; the others here are copies of it.
+QImage rowAt(Display *display, const QRect &place)
 {
     const QRect screen(0, 0, DisplayWidth(display, DefaultScreen(display)),
                        DisplayHeight(display, DefaultScreen(display)));
     if (!screen.contains(place))
-        return -1;
+        return {};
     XImage *row = XGetImage(display, DefaultRootWindow(display), place.x(), place.center().y(),
                             unsigned(place.width()), 1, AllPlanes, ZPixmap);
     if (!row)
-        return -1;
+        return {};
     QImage picture(place.width(), 3, QImage::Format_RGB32);
     for (int y = 0; y < picture.height(); ++y)
         std::memcpy(picture.scanLine(y), row->data, size_t(picture.bytesPerLine()));
     XDestroyImage(row);
-    return LabPattern::counterOf(picture);
+    return picture;
 }
 
 void look(Display *display, QVector<Place> *places)
@@ -102,10 +103,12 @@ void look(Display *display, QVector<Place> *places)
         if (!place.isTouched)
             continue;
         place.isTouched = false;
-        const int number = numberAt(display, place.rect);
-        if (number == place.number)
+        const QImage row = rowAt(display, place.rect);
+        const int number = row.isNull() ? -1 : LabPattern::counterOf(row);
+        if (number == place.number && (number >= 0 || row == place.row))
             continue;
         place.number = number;
+        place.row = row;
         std::printf("%s %lld %d\n", qPrintable(place.name),
                     static_cast<long long>(nanosecondsNow()), number);
         std::fflush(stdout);

@@ -6,9 +6,10 @@
 //   settings LINE;LINE...      for the next start
 //   start                      ok TIME PID, the moment before it
 //   buttons SCREEN NAME...     waits until all of them can be pressed: ok TIME
+//   shows SCREEN NAME...       ok if all of them can be pressed now
 //   live                       waits until the live picture moves: ok TIME
 //   place NAME [COUNT I]       ok X,Y,WIDTHxHEIGHT: video, preview, photo, selection, thumbnail I,
-//                              tile COUNT I
+//                              tile COUNT I; row, of the live screen's buttons
 //   press SCREEN NAME          waits until it can be pressed: ok TIME, when the finger left it
 //   click X Y                  the same at a point of the screen
 //   key NAME                   ok TIME
@@ -100,6 +101,11 @@ User::User(const QString &program, const QString &camera, QSize size)
     m_orders[QStringLiteral("start")] = [this](const QStringList &) { return start(); };
     m_orders[QStringLiteral("buttons")] = [this](const QStringList &words) {
         return waitForButtons(words);
+    };
+    m_orders[QStringLiteral("shows")] = [this](const QStringList &words) {
+        return canBePressed(screenOf(words.value(1)), words.mid(2))
+            ? QStringLiteral("ok")
+            : failed(QStringLiteral("not all of them"));
     };
     m_orders[QStringLiteral("live")] = [this](const QStringList &) { return waitForLive(); };
     m_orders[QStringLiteral("place")] = [this](const QStringList &words) { return placeOf(words); };
@@ -213,6 +219,9 @@ QString User::placeOf(const QStringList &words)
         {QStringLiteral("photo"), map.previewPhotoRect()},
         {QStringLiteral("selection"), map.selectionRect()},
         {QStringLiteral("thumbnail"), map.thumbnail(first)},
+        {QStringLiteral("row"),
+         map.button(WindowMap::LiveScreen, QStringLiteral("Live"))
+             .united(map.button(WindowMap::LiveScreen, QStringLiteral("Close")))},
         {QStringLiteral("tile"), map.tile(first, words.value(3).toInt())},
     };
     const QRect place = places.value(words.value(1));
