@@ -2,6 +2,7 @@
 
 #include "GreenCaption.h"
 #include "PictureLoader.h"
+#include "Spoken.h"
 #include "WebcamUtil.h"
 
 #include <QFileInfo>
@@ -59,6 +60,7 @@ MovieWidget::MovieWidget(QWidget *parent)
     , m_stillPicture(new StillPicture(this))
     , m_label(new QLabel(tr("Movie"), this))
 {
+    Spoken::asWhole(this, QAccessible::Animation);
     setPalette(GreenCaption::palette(palette()));
     setAccessibleName(tr("Movie"));
     setAccessibleDescription(tr("Plays a recorded movie"));

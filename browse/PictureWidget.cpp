@@ -4,6 +4,7 @@
 #include "CapturedPicture.h"
 #include "GreenCaption.h"
 #include "PictureLoader.h"
+#include "Spoken.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -12,6 +13,7 @@ PictureWidget::PictureWidget(QWidget *parent, Qt::WindowFlags f)
     : QWidget(parent, f)
     , m_label(new QLabel(tr("Photo"), this))
 {
+    Spoken::as(this, QAccessible::Graphic);
     setPalette(GreenCaption::palette(palette()));
     setAutoFillBackground(true);
     setAccessibleName(tr("Photo"));
@@ -75,6 +77,7 @@ void PictureWidget::Release()
     PictureLoader::shared().forget(this);
     m_pixmap = QPixmap();
     m_label->hide();
+    setAccessibleName(tr("Photo"));
     m_fileName.clear();
     update();
 }
@@ -138,6 +141,8 @@ void PictureWidget::labelVisible(bool b)
 void PictureWidget::setLabelText(const QString &text)
 {
     m_label->setText(text);
+    // Which one of several, for those who hear of it.
+    setAccessibleName(QString(tr("Photo") + QLatin1Char(' ') + text).trimmed());
     m_label->adjustSize();
     m_label->show();
 }

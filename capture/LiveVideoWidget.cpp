@@ -2,6 +2,7 @@
 
 #include "CaptureLog.h"
 #include "GreenCaption.h"
+#include "Spoken.h"
 #include "WebcamUtil.h"
 
 #include <QFrame>
@@ -16,6 +17,7 @@ LiveVideoWidget::LiveVideoWidget(QWidget *parent, Qt::WindowFlags f)
     , m_shotTimer(new QTimer(this))
     , m_videoFrame(new QFrame(this))
 {
+    Spoken::asWhole(this, QAccessible::Graphic);
     setAttribute(Qt::WA_OpaquePaintEvent, false);
     setAttribute(Qt::WA_NoSystemBackground, false);
     setAttribute(Qt::WA_PaintOnScreen, false);

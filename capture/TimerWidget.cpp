@@ -1,6 +1,7 @@
 #include "TimerWidget.h"
 
 #include "GreenCaption.h"
+#include "Spoken.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -104,6 +105,7 @@ void TimerWidget::OnShot()
         if (!isVisible())
             show();
         setText(QLatin1Char(' ') + QString::number(m_remaining) + tr(" second to capture"));
+        Spoken::news(this, text());
         --m_remaining;
         return;
     }

@@ -14,6 +14,7 @@
 #include "ScreenWake.h"
 #include "Setting.h"
 #include "SleepWatch.h"
+#include "Spoken.h"
 #include "TimerWidget.h"
 
 #include <QGuiApplication>
@@ -66,6 +67,7 @@ CVistrelDlg::CVistrelDlg(QWidget *parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
     , CWindowManagement(this, raisePeriod, true, QString())
 {
+    Spoken::as(this, QAccessible::Window);
     setThisPropaty();
     readScreen();
     SetButtonInstance();

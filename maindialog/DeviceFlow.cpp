@@ -9,6 +9,7 @@
 #include "MovieWidget.h"
 #include "SelectDeviceDlg.h"
 #include "SleepWatch.h"
+#include "Spoken.h"
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
 
@@ -124,6 +125,7 @@ void CVistrelDlg::lookForReturn()
         m_liveView->setGeometry(m_videoRect);
         m_liveView->Start();
         TransitionMode(LiveMode);
+        Spoken::news(this, m_liveView->accessibleName());
     } else if (m_sinceLoss.hasExpired(returnLimit)) {
         m_returnLooks.stop();
         goOnWithoutCamera();

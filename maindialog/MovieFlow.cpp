@@ -9,6 +9,7 @@
 #include "LiveVideoWidget.h"
 #include "MovieWidget.h"
 #include "ScreenWake.h"
+#include "Spoken.h"
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
 
@@ -44,6 +45,7 @@ void CVistrelDlg::OnRecord()
         return;
     m_moviePath = m_liveView->movieFileName();
     m_recording = true;
+    Spoken::news(this, tr("Recording"));
     button(MovieButton)->hide();
     disableAllButton(false);
     button(MovieStopButton)->show();
@@ -89,6 +91,7 @@ void CVistrelDlg::OnMovieStop()
     m_liveView->hide();
     m_timerWidget->Stop();
     m_recording = false;
+    Spoken::news(this, tr("Recording ended"));
     TransitionMode(MovieMode);
     m_movieView->Create(m_moviePath);
     m_movieView->show();

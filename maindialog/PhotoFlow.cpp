@@ -12,6 +12,7 @@
 #include "PictureListView.h"
 #include "PictureLoader.h"
 #include "PictureWidget.h"
+#include "Spoken.h"
 #include "TimerWidget.h"
 #include "WebcamUtil.h"
 
@@ -84,6 +85,8 @@ void CVistrelDlg::photoWritten(bool isWritten)
     if (isWritten) {
         CapturedPicture::remember(m_currentPhotoName, m_liveView->takeSavedPicture());
         PictureLoader::shared().prepare(m_currentPhotoName);
+        if (m_displayMode != PhotSeqMode) // which tells the number as well
+            Spoken::news(this, tr("Photo taken"));
         return;
     }
     withdrawPhoto();

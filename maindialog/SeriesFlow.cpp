@@ -10,6 +10,7 @@
 #include "PictureListView.h"
 #include "PictureWidget.h"
 #include "ScreenWake.h"
+#include "Spoken.h"
 #include "TimerWidget.h"
 
 void CVistrelDlg::OnPhotSeq()
@@ -80,6 +81,8 @@ void CVistrelDlg::OnShot()
     m_seriesList.append(m_currentPhotoName);
     m_pictureList->AddPictureWithSelect(m_currentPhotoName);
     ++m_shotCounter;
+    if (!m_currentPhotoName.isEmpty())
+        Spoken::news(this, tr("Photo taken") + QLatin1Char(' ') + m_pictureView->labelText());
     if (m_shotCounter >= m_shotTarget)
         endSeries();
 }

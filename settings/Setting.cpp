@@ -142,6 +142,10 @@ void Setting::setCaptions()
     m_ui.label->setText(tr("Save Directry:"));
     // The other boxes are named by their labels; these two have none.
     m_ui.cmbAutoShooting->setAccessibleName(tr("Self Timer"));
+    // Some desktops' readers take a box's value for its name.
+    m_ui.cmbAutoShooting->setAccessibleDescription(tr("Self Timer"));
+    m_ui.cmbContinuousShooting->setAccessibleDescription(tr("Continuous Capture"));
+    m_ui.cmbResolution->setAccessibleDescription(tr("Resolution"));
     m_ui.tolSaveDirectory->setAccessibleName(tr("SaveDirectory"));
 }
 

@@ -177,6 +177,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>جارٍ التسجيل</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>انتهى التسجيل</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>تم التقاط الصورة</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ snímání</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Nahrávání</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Nahrávání skončilo</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Fotografie pořízena</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ optagelse</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Optager</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Optagelsen er slut</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Foto taget</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

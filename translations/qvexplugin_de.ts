@@ -177,6 +177,18 @@ aufnahme</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufnahme läuft</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Aufnahme beendet</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Foto aufgenommen</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Γίνεται εγγραφή</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Η εγγραφή τελείωσε</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Η φωτογραφία τραβήχτηκε</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ Capture</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Recording</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Recording ended</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Photo taken</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

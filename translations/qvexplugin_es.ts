@@ -177,6 +177,18 @@ continua</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Grabando</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Grabación terminada</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Foto tomada</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ kuvaus</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Tallennetaan</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Tallennus päättyi</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Valokuva otettu</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

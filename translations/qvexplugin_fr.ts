@@ -177,6 +177,18 @@ rafale</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement en cours</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Enregistrement terminé</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Photo prise</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>מתבצעת הקלטה</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>ההקלטה הסתיימה</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>התמונה צולמה</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

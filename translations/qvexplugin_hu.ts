@@ -177,6 +177,18 @@ felvétel</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Felvétel folyamatban</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>A felvétel véget ért</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>A fénykép elkészült</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ Beruntun</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Sedang merekam</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Perekaman selesai</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Foto telah diambil</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

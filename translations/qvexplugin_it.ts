@@ -177,6 +177,18 @@ continui</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Registrazione in corso</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Registrazione terminata</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Foto scattata</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -176,6 +176,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>録画中</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>録画が終了しました</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>写真を撮影しました</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

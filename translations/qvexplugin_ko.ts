@@ -176,6 +176,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>녹화 중</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>녹화가 끝났습니다</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>사진을 촬영했습니다</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ opname</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Bezig met opnemen</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Opname beëindigd</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Foto genomen</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

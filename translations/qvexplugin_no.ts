@@ -177,6 +177,18 @@ opptak</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Tar opp</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Opptaket er avsluttet</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Bildet er tatt</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ seryjne</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Trwa nagrywanie</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Nagrywanie zakończone</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Zrobiono zdjęcie</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ contínua</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>A gravar</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Gravação terminada</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Fotografia tirada</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

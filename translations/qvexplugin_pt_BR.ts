@@ -177,6 +177,18 @@ contínua</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Gravando</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Gravação encerrada</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Foto tirada</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ continuă</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Se înregistrează</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Înregistrarea s-a încheiat</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Fotografie făcută</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Идёт запись</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Запись завершена</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Снимок сделан</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

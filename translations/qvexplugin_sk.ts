@@ -177,6 +177,18 @@ snímanie</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Nahráva sa</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Nahrávanie sa skončilo</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Fotografia bola vytvorená</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ foto</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Spelar in</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Inspelningen är avslutad</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Fotot är taget</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

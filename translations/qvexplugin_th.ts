@@ -177,6 +177,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>กำลังบันทึก</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>การบันทึกสิ้นสุดแล้ว</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>ถ่ายภาพแล้ว</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

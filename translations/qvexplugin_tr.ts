@@ -177,6 +177,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Kaydediliyor</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Kayıt sona erdi</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Fotoğraf çekildi</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -177,6 +177,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Триває запис</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Запис завершено</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Знімок зроблено</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

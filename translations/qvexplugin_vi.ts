@@ -177,6 +177,18 @@ liên tục</translation>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Đang quay phim</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>Đã quay xong</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>Đã chụp ảnh</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -176,6 +176,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>正在录制</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>录制已结束</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>照片已拍摄</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

@@ -176,6 +176,18 @@ Capture</source>
         <source>/</source>
         <translation>/</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>正在錄製</translation>
+    </message>
+    <message>
+        <source>Recording ended</source>
+        <translation>錄製已結束</translation>
+    </message>
+    <message>
+        <source>Photo taken</source>
+        <translation>照片已拍攝</translation>
+    </message>
 </context>
 <context>
     <name>LiveVideoWidget</name>

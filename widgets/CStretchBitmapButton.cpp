@@ -1,6 +1,7 @@
 #include "CStretchBitmapButton.h"
 
 #include "ButtonGeometry.h"
+#include "Spoken.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -41,9 +42,11 @@ QPixmap scaledTo(const QPixmap &bitmap, QSize size, qreal ratio)
 } // namespace
 
 CStretchBitmapButton::CStretchBitmapButton(const QString &name, QWidget *parent)
-    : QPushButton(name, parent)
+    : QPushButton(parent)
     , m_baseName(name)
 {
+    Spoken::asWhole(this, QAccessible::Button);
+    setText(name);
     setObjectName(name);
     setAccessibleName(name);
     setCheckable(false);
