@@ -88,6 +88,8 @@ void PictureWidget::ZoomMode()
     createButtons();
     placeInCorner(m_backButton);
     m_backButton->show();
+    if (m_zoomButton->hasFocus())
+        m_backButton->setFocus(Qt::OtherFocusReason);
     m_zoomButton->hide();
     connect(m_backButton, &CStretchBitmapButton::clicked, this, &PictureWidget::OnBack);
 }

@@ -140,7 +140,7 @@ void CVistrelDlg::hiddenPictList()
 void CVistrelDlg::OnZoom(PictureWidget *pict)
 {
     for (PictureWidget *tile : qAsConst(m_tiles))
-        tile->hide();
+        tile->setVisible(tile == pict); // hidden for a moment it would lose the keyboard
     pict->setGeometry(m_videoRect);
     pict->reload(); // its own file again, at full quality
     pict->ZoomMode();

@@ -256,6 +256,11 @@ private:
     /// Switches to the photo alone, as SetPhotoMode() does when the preview is off.
     void setAcceptedPhotoMode();
     void layOutPhoto();
+    /// After a change of the screen: the keyboard stays with @p holder, who had it before, or goes
+    /// to the first button that can be pressed.
+    void keepFocus(QWidget *holder);
+    /// In the same place; the keyboard goes over with it.
+    void swapButtons(Button gone, Button come);
     /// Between these two, none of the buttons that could be pressed can be.
     void holdButtons();
     void releaseButtons();

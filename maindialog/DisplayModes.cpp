@@ -16,6 +16,7 @@ void CVistrelDlg::TransitionMode(DisplayMode mode)
 {
     if (isClosed())
         return;
+    QWidget *const holder = focusWidget();
     switch (mode) {
     case MovieMode:
         SetMovieMode();
@@ -38,6 +39,30 @@ void CVistrelDlg::TransitionMode(DisplayMode mode)
     m_displayMode = mode;
     m_spareMemory.giveBackSoon();
     m_screenWake->lookSoon();
+    keepFocus(holder);
+}
+
+// Left alone, the keyboard goes from one vanishing button to the next and ends anywhere. "Exit" is
+// the last to get it, so that who presses on does not leave.
+void CVistrelDlg::keepFocus(QWidget *holder)
+{
+    const auto isUsable = [](const QWidget *each) {
+        return each && each->isVisible() && each->isEnabled();
+    };
+    QWidget *next = isUsable(holder) ? holder : nullptr;
+    for (CStretchBitmapButton *each : m_buttons)
+        if (isUsable(each) && (!next || (next == button(CloseButton) && next != holder)))
+            next = each;
+    if (next)
+        next->setFocus(Qt::OtherFocusReason);
+}
+
+void CVistrelDlg::swapButtons(Button gone, Button come)
+{
+    button(come)->show();
+    if (button(gone)->hasFocus())
+        button(come)->setFocus(Qt::OtherFocusReason);
+    button(gone)->hide();
 }
 
 // The screen may blank over a photo, and over a movie that waits. The player itself says late that
@@ -195,9 +220,11 @@ void CVistrelDlg::SetPhotoMode()
 
 void CVistrelDlg::setAcceptedPhotoMode()
 {
+    QWidget *const holder = focusWidget();
     layOutPhoto();
     m_displayMode = PhotoMode;
     m_screenWake->lookSoon();
+    keepFocus(holder);
 }
 
 void CVistrelDlg::layOutPhoto()
@@ -268,12 +295,14 @@ void CVistrelDlg::setListButton()
 
 void CVistrelDlg::setShowModeButton()
 {
+    QWidget *const holder = focusWidget();
     hideAllButton();
     disableAllButton(false);
     layRow(m_geometry.rowStart(3),
            {{LiveButton, true, true}, {PutPhotoButton, true, true}, {ListButton, true, true}});
     button(CloseButton)->show();
     button(CloseButton)->setEnabled(true);
+    keepFocus(holder);
 }
 
 void CVistrelDlg::SetPhotSeqMode()

@@ -126,8 +126,7 @@ void CVistrelDlg::showMovieLength(qint64 total)
 
 void CVistrelDlg::showPlayButton()
 {
-    button(MoviePauseButton)->hide();
-    button(MoviePlayButton)->show();
+    swapButtons(MoviePauseButton, MoviePlayButton);
     m_screenWake->lookSoon();
 }
 
@@ -141,8 +140,7 @@ void CVistrelDlg::OnMoviePlay()
     m_timerWidget->show();
     m_movieView->Play();
     m_timerWidget->run();
-    button(MoviePlayButton)->hide();
-    button(MoviePauseButton)->show();
+    swapButtons(MoviePlayButton, MoviePauseButton);
     m_screenWake->lookSoon();
 }
 

@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QImageReader>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
@@ -37,6 +38,22 @@ QPixmap scaledTo(const QPixmap &bitmap, QSize size, qreal ratio)
         return bitmap;
     const QSize onScreen = (QSizeF(size) * ratio).toSize().boundedTo(bitmap.size());
     return bitmap.scaled(onScreen, Qt::KeepAspectRatio, Qt::FastTransformation);
+}
+
+bool isEnter(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+bool isArrow(int key)
+{
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
+QKeyEvent asSpace(const QKeyEvent &event)
+{
+    return {event.type(), Qt::Key_Space, event.modifiers(), QStringLiteral(" "),
+            event.isAutoRepeat()};
 }
 
 } // namespace
@@ -124,6 +141,51 @@ const QPixmap &CStretchBitmapButton::bitmapOf(State state)
     if (!bitmap)
         bitmap = scaledTo(QPixmap(bitmapPath(state)), baseSize(), devicePixelRatioF());
     return *bitmap;
+}
+
+// Held down, neither key presses again: a series of photos would be taken by who is slow to let go.
+void CStretchBitmapButton::keyPressEvent(QKeyEvent *event)
+{
+    if (isEnter(event->key())) {
+        QKeyEvent space = asSpace(*event);
+        QPushButton::keyPressEvent(&space);
+    } else if (!isArrow(event->key())) {
+        QPushButton::keyPressEvent(event);
+    } else if (!goToNeighbour(event->key())) {
+        event->ignore();
+    }
+}
+
+void CStretchBitmapButton::keyReleaseEvent(QKeyEvent *event)
+{
+    if (isEnter(event->key())) {
+        QKeyEvent space = asSpace(*event);
+        QPushButton::keyReleaseEvent(&space);
+    } else {
+        QPushButton::keyReleaseEvent(event);
+    }
+}
+
+// As they stand on the screen, whatever way the language reads: the row is never mirrored.
+bool CStretchBitmapButton::goToNeighbour(int key)
+{
+    const auto placeOf = [this](const QWidget *button) {
+        return QRect(button->mapTo(window(), QPoint()), button->size());
+    };
+    QVector<QRect> places;
+    QVector<CStretchBitmapButton *> others;
+    for (auto *each : window()->findChildren<CStretchBitmapButton *>()) {
+        if (each != this && each->isVisible() && each->isEnabled()) {
+            others.append(each);
+            places.append(placeOf(each));
+        }
+    }
+    const int nearest = ButtonGeometry::nearest(placeOf(this), places, Qt::Key(key));
+    if (nearest < 0)
+        return false;
+    window()->setAttribute(Qt::WA_KeyboardFocusChange); // the mark is to be seen
+    others[nearest]->setFocus(Qt::TabFocusReason);
+    return true;
 }
 
 void CStretchBitmapButton::paintEvent(QPaintEvent * /*event*/)

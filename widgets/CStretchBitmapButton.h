@@ -31,6 +31,9 @@ public:
     void setIconFromObjectNameBitmap();
 
 protected:
+    /// Enter presses like Space, and the arrows go to the nearest button that way.
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -39,6 +42,7 @@ private:
     QString bitmapPath(State state) const;
     const QPixmap &bitmapOf(State state);
     void createCaption();
+    bool goToNeighbour(int key);
     void paintFocusMark(QPainter &painter) const;
 
     QLabel *m_caption = nullptr;

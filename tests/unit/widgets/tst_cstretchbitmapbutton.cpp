@@ -70,6 +70,11 @@ private Q_SLOTS:
     void captionsAreWhiteAndDimmerWhenDisabled_data();
     void captionsAreWhiteAndDimmerWhenDisabled();
     void tabReachesTheButtonAndSpacePressesIt();
+    void enterPressesOnceHoweverLongItIsHeld();
+    void arrowsGoToTheNearestButtonThatWay_data();
+    void arrowsGoToTheNearestButtonThatWay();
+    void arrowsGoBesideAsTheRowStandsInEveryLanguage();
+    void arrowsSkipWhatCannotBePressed();
     void onlyTheKeyboardFocusIsMarked();
 };
 
@@ -314,6 +319,91 @@ void TestCStretchBitmapButton::tabReachesTheButtonAndSpacePressesIt()
     QVERIFY(second->hasFocus());
     QTest::keyClick(second, Qt::Key_Space);
     QCOMPARE(clicked.count(), 1);
+}
+
+void TestCStretchBitmapButton::enterPressesOnceHoweverLongItIsHeld()
+{
+    Stage stage("Small");
+    stage.open();
+    const QSignalSpy clicked(stage.button, &QPushButton::clicked);
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+        QTest::keyPress(stage.button, enter);
+        QVERIFY(stage.button->isDown());
+        for (int i = 0; i < 3; ++i) {
+            QKeyEvent held(QEvent::KeyPress, enter, Qt::NoModifier, QString(), true);
+            QApplication::sendEvent(stage.button, &held);
+        }
+        QTest::keyRelease(stage.button, enter);
+        QVERIFY(!stage.button->isDown());
+    }
+    QCOMPARE(clicked.count(), 2);
+}
+
+void TestCStretchBitmapButton::arrowsGoToTheNearestButtonThatWay_data()
+{
+    // The live screen at 1024x768: a row, and two small buttons on one another at its end.
+    const QVector<QRect> row{{2, 692, 170, 76},   {172, 692, 170, 76}, {342, 692, 170, 76},
+                             {854, 692, 170, 38}, {854, 730, 170, 38}, {342, 616, 170, 76}};
+    QTest::addColumn<QVector<QRect>>("places");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<Qt::Key>("arrow");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("the next") << row << 0 << Qt::Key_Right << 1;
+    QTest::newRow("the one before") << row << 2 << Qt::Key_Left << 1;
+    QTest::newRow("nothing before the first") << row << 0 << Qt::Key_Left << -1;
+    QTest::newRow("over a gap") << row << 2 << Qt::Key_Right << 3;
+    QTest::newRow("down") << row << 3 << Qt::Key_Down << 4;
+    QTest::newRow("up") << row << 4 << Qt::Key_Up << 3;
+    QTest::newRow("back from the small ones") << row << 4 << Qt::Key_Left << 2;
+    QTest::newRow("up to what stands above") << row << 2 << Qt::Key_Up << 5;
+    QTest::newRow("nothing below the row") << row << 1 << Qt::Key_Down << -1;
+}
+
+void TestCStretchBitmapButton::arrowsGoToTheNearestButtonThatWay()
+{
+    QFETCH(QVector<QRect>, places);
+    QFETCH(int, from);
+    QFETCH(Qt::Key, arrow);
+    QTEST(ButtonGeometry::nearest(places[from], places, arrow), "expected");
+}
+
+void TestCStretchBitmapButton::arrowsGoBesideAsTheRowStandsInEveryLanguage()
+{
+    const RightToLeft mirrored;
+    Stage stage("Small");
+    auto *second = new CStretchBitmapButton("Small", &stage.window);
+    second->move(100, 0);
+    second->show();
+    stage.button->move(0, 0);
+    stage.open();
+    QVERIFY(QTest::qWaitForWindowActive(&stage.window));
+    stage.button->setFocus(Qt::MouseFocusReason);
+    QTest::keyClick(stage.button, Qt::Key_Right);
+    QVERIFY(second->hasFocus());
+    QVERIFY(stage.colorAt(104, 30).value() > 200); // marked, as after Tab
+    QTest::keyClick(second, Qt::Key_Right);
+    QVERIFY(second->hasFocus());
+    QTest::keyClick(second, Qt::Key_Left);
+    QVERIFY(stage.button->hasFocus());
+}
+
+void TestCStretchBitmapButton::arrowsSkipWhatCannotBePressed()
+{
+    Stage stage("Small");
+    stage.button->move(0, 0);
+    QVector<CStretchBitmapButton *> row;
+    for (int i = 1; i <= 3; ++i) {
+        row.append(new CStretchBitmapButton("Small", &stage.window));
+        row.last()->move(100 * i, 0);
+    }
+    row[0]->show();
+    row[0]->setEnabled(false);
+    row[2]->show(); // the second one stays hidden
+    stage.open();
+    QVERIFY(QTest::qWaitForWindowActive(&stage.window));
+    stage.button->setFocus();
+    QTest::keyClick(stage.button, Qt::Key_Right);
+    QVERIFY(row[2]->hasFocus());
 }
 
 void TestCStretchBitmapButton::onlyTheKeyboardFocusIsMarked()
