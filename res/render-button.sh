@@ -4,8 +4,9 @@
 #
 #   render-button.sh ICON.svg main|half|tile FOLDER
 #
-# main  640x288, the buttons along the bottom of the window
-# half  640x144, as wide as those and half as high, for the two that stand on one another
+# main  640x332, the buttons along the bottom of the window
+# half  640x166, as wide as those and half as high, for the two that stand on one another: on the
+#                smallest screen, 1024 pixels wide, high enough for a finger, 44 pixels
 # tile   96x72, in the corner of a picture, without a caption
 set -eu
 
@@ -18,8 +19,8 @@ base=$(basename "$icon" .svg)
 # which makes sharp edges jagged. The blur spreads each edge over the pixels that are left out, and
 # is too small to be seen where the bitmap is shown whole. Tiles are never shrunk, so never blurred.
 case $kind in
-main) width=640 height=288 margin=6 radius=36 rim=5 ring=10 left=40 top=48 size=192 blur=1.4 ;;
-half) width=640 height=144 margin=6 radius=36 rim=5 ring=10 left=80 top=16 size=112 blur=1.4 ;;
+main) width=640 height=332 margin=6 radius=36 rim=5 ring=10 left=40 top=70 size=192 blur=1.4 ;;
+half) width=640 height=166 margin=6 radius=36 rim=5 ring=10 left=80 top=27 size=112 blur=1.4 ;;
 tile) width=96 height=72 margin=1 radius=12 rim=2 ring=4 left=20 top=8 size=56 blur=0 ;;
 *) echo "$0: no such kind of button: $kind" >&2; exit 2 ;;
 esac

@@ -48,7 +48,7 @@ void SaveConfirmDlg::createControls()
     const auto addButton = [this, &font](const QString &caption) {
         auto *button = new QPushButton(caption, this);
         button->setFont(font);
-        button->setMinimumSize(96, 36); // large enough for a finger
+        button->setMinimumSize(96, 44); // large enough for a finger
         return button;
     };
     m_yes = addButton(tr("Yes"));

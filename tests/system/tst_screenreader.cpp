@@ -38,6 +38,8 @@ private:
     std::unique_ptr<Session> m_user;
 };
 
+static constexpr int fingerWidth = 44; // px
+
 void TestScreenReader::init()
 {
     m_reader = std::make_unique<ScreenReader>();
@@ -58,7 +60,7 @@ bool TestScreenReader::start()
 }
 
 // "push button List", with "-" in front of what cannot be used, in the order of the reader. Texts
-// and what only holds others are left out.
+// and what only holds others are left out. What a finger could miss says so.
 QStringList TestScreenReader::told() const
 {
     static const QStringList silent{"frame", "filler", "label", "alert message", "dialog"};
@@ -67,7 +69,9 @@ QStringList TestScreenReader::told() const
         if (silent.contains(thing.role))
             continue;
         const bool isUsable = thing.is("enabled") && thing.is("sensitive");
-        told.append((isUsable ? QString() : "-") + thing.role + ' ' + thing.name);
+        const bool isSmall = qMin(thing.place.width(), thing.place.height()) < fingerWidth;
+        told.append((isUsable ? QString() : "-") + thing.role + ' ' + thing.name
+                    + (isSmall ? ", too small" : ""));
     }
     return told;
 }

@@ -1,9 +1,18 @@
 #include "PlainButtons.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
+#include <QToolButton>
+
+#include <memory>
 
 // Of a desktop that wants icons on the buttons of boxes.
 class DesktopStyle : public QProxyStyle {
@@ -24,6 +33,8 @@ class PlainButtonsTest : public QObject {
 
 private Q_SLOTS:
     void boxesHaveNoIconsOnTheirButtons();
+    void everythingToPressIsLargeEnoughForAFinger();
+    void aCheckBoxIsHitBesideItsText();
     void allElseIsTheDesktopsOwn();
 };
 
@@ -38,6 +49,40 @@ void PlainButtonsTest::boxesHaveNoIconsOnTheirButtons()
     auto *plain = new PlainButtons;
     plain->setBaseStyle(new DesktopStyle);
     QVERIFY(iconOfOk(plain).isNull());
+}
+
+void PlainButtonsTest::everythingToPressIsLargeEnoughForAFinger()
+{
+    QApplication::setStyle(new PlainButtons);
+    QComboBox box;
+    box.addItems({QStringLiteral("1"), QStringLiteral("2")});
+    QPushButton button(QStringLiteral("OK"));
+    QToolButton small;
+    small.setText(QStringLiteral("..."));
+    QCheckBox check(QStringLiteral("a"));
+    QRadioButton radio(QStringLiteral("a"));
+    QLineEdit line;
+    for (const QWidget *each :
+         std::initializer_list<QWidget *>{&box, &button, &small, &check, &radio, &line}) {
+        QVERIFY2(each->sizeHint().height() >= 44, each->metaObject()->className());
+        QVERIFY2(each->sizeHint().width() >= 44, each->metaObject()->className());
+    }
+    QVERIFY(box.view()->sizeHintForRow(0) >= 44); // of the open list
+    const QMessageBox message(QMessageBox::Warning, QString(), QStringLiteral("a"),
+                              QMessageBox::Ok);
+    QVERIFY(message.button(QMessageBox::Ok)->sizeHint().height() >= 44);
+}
+
+void PlainButtonsTest::aCheckBoxIsHitBesideItsText()
+{
+    QApplication::setStyle(new PlainButtons);
+    for (QAbstractButton *button :
+         std::initializer_list<QAbstractButton *>{new QCheckBox, new QRadioButton}) {
+        const std::unique_ptr<QAbstractButton> owner(button);
+        button->resize(200, 44);
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(190, 3));
+        QVERIFY2(button->isChecked(), button->metaObject()->className());
+    }
 }
 
 void PlainButtonsTest::allElseIsTheDesktopsOwn()

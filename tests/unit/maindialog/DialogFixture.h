@@ -15,7 +15,7 @@
  * The real main window over the scripted engine, in folders of its own: an empty home and an empty
  * temporary area for each fixture. Script the engine before build().
  *
- * The offscreen screen is 800x600 px, so a main button is 133x59 px and a small one 133x29.
+ * The offscreen screen is 800x600 px, so a main button is 133x68 px and a small one 133x34.
  */
 class DialogFixture {
 public:
@@ -38,7 +38,7 @@ public:
     /// Clicks the button, and waits for a photo that it takes unless the script writes slowly.
     void click(const char *baseName) const;
 
-    /// "Live 1,541 133x59" for each button shown, sorted as the buttons were made.
+    /// "Live 1,532 133x68" for each button shown, sorted as the buttons were made.
     QStringList shownButtons() const;
     /// Base names of the buttons shown that can be pressed.
     QStringList usableButtons() const;

@@ -323,8 +323,8 @@ void BrowsingFlowTest::thePreviewKeepsThePicturesShapeAboveTheStrip()
 {
     Browser browser(1);
     browser.openAndSelect({0});
-    // The video area is 800x450 and the strip 109 high; what is left over the strip is 341.
-    QCOMPARE(browser.preview().geometry(), QRect(96, 0, 606, 341));
+    // The video area is 800x450 and the strip 107 high; what is left over the strip is 343.
+    QCOMPARE(browser.preview().geometry(), QRect(95, 0, 609, 343));
 }
 
 void BrowsingFlowTest::openingTheStripAgainForgetsTheSelection()

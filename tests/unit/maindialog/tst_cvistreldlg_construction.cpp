@@ -121,7 +121,7 @@ void ConstructionTest::theVideoRectHasTheCamerasShape()
     DialogFixture fixture;
     FakeEngine::script().nativeSize = QSize(640, 480);
     CVistrelDlg &dialog = fixture.build();
-    QCOMPARE(dialog.videoRect(), QRect(39, 0, 721, 541));
+    QCOMPARE(dialog.videoRect(), QRect(45, 0, 709, 532));
     QCOMPARE(fixture.child<LiveVideoWidget>().geometry(), dialog.videoRect());
     QCOMPARE(fixture.child<MovieWidget>().geometry(), dialog.videoRect());
 }
@@ -131,7 +131,7 @@ void ConstructionTest::aCameraWithoutASizeGetsASquare()
     DialogFixture fixture;
     FakeEngine::script().nativeSize = QSize(0, 0);
     CVistrelDlg &dialog = fixture.build();
-    QCOMPARE(dialog.videoRect(), QRect(129, 0, 541, 541));
+    QCOMPARE(dialog.videoRect(), QRect(134, 0, 532, 532));
 }
 
 void ConstructionTest::aCancelledChooserStopsTheConstruction()

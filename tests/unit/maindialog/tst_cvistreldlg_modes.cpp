@@ -10,14 +10,14 @@
 #include <QSignalSpy>
 #include <QTest>
 
-// Places on the 800x600 screen, worked out by hand from the artwork's 640x288 and 640x144.
+// Places on the 800x600 screen, worked out by hand from the artwork's 640x332 and 640x166.
 static const QStringList liveRow{
-    QStringLiteral("Live 1,541 133x59"),         QStringLiteral("Photo 134,541 133x59"),
-    QStringLiteral("PhotoMulti 267,541 133x59"), QStringLiteral("Movie 400,541 133x59"),
-    QStringLiteral("List 533,541 133x59"),       QStringLiteral("Settings 667,542 133x29"),
-    QStringLiteral("Close 667,571 133x29"),
+    QStringLiteral("Live 1,532 133x68"),         QStringLiteral("Photo 134,532 133x68"),
+    QStringLiteral("PhotoMulti 267,532 133x68"), QStringLiteral("Movie 400,532 133x68"),
+    QStringLiteral("List 533,532 133x68"),       QStringLiteral("Settings 667,532 133x34"),
+    QStringLiteral("Close 667,566 133x34"),
 };
-static const QString closePlace = QStringLiteral("Close 667,571 133x29");
+static const QString closePlace = QStringLiteral("Close 667,566 133x34");
 
 /** Each screen's exact set of buttons: shown where, and which of them can be pressed. */
 class DisplayModesTest : public QObject {
@@ -76,8 +76,8 @@ void DisplayModesTest::thePlaybackScreen()
     CVistrelDlg &dialog = fixture.build();
     dialog.TransitionMode(MovieMode);
     QCOMPARE(fixture.shownButtons(),
-             (QStringList{"Live 67,541 133x59", "List 333,541 133x59", closePlace,
-                          "MoviePlay 200,541 133x59"}));
+             (QStringList{"Live 67,532 133x68", "List 333,532 133x68", closePlace,
+                          "MoviePlay 200,532 133x68"}));
     QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "List", "Close", "MoviePlay"}));
     QVERIFY(fixture.button("MoviePause").isEnabled());
     QCOMPARE(fixture.button("MoviePause").geometry(), fixture.button("MoviePlay").geometry());
@@ -92,8 +92,8 @@ void DisplayModesTest::thePhotoScreen()
     dialog.OnPhoto(); // with the preview first,
     dialog.OnAply(); // then full size
     QCOMPARE(fixture.shownButtons(),
-             (QStringList{"Live 134,541 133x59", "List 400,541 133x59", closePlace,
-                          "PutPhoto 267,541 133x59"}));
+             (QStringList{"Live 134,532 133x68", "List 400,532 133x68", closePlace,
+                          "PutPhoto 267,532 133x68"}));
     QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "List", "Close", "PutPhoto"}));
     QCOMPARE(fixture.child<PictureWidget>().geometry(), dialog.videoRect());
 }
@@ -104,13 +104,13 @@ void DisplayModesTest::thePhotoPreviewShowsAcceptAndRetryAboveTheDeadRow()
     CVistrelDlg &dialog = fixture.build();
     dialog.TransitionMode(PhotoMode);
     QStringList expected = liveRow;
-    expected << "Apply 267,482 133x59"
-             << "Retry 400,482 133x59";
+    expected << "Apply 267,464 133x68"
+             << "Retry 400,464 133x68";
     QCOMPARE(fixture.shownButtons(), expected);
     QCOMPARE(fixture.usableButtons(), (QStringList{"Apply", "Retry"}));
     // The camera's 1280x720 gives 800x450 of video, half of that beside each other.
-    QCOMPARE(fixture.child<LiveVideoWidget>().geometry(), QRect(0, 128, 400, 225));
-    QCOMPARE(fixture.child<PictureWidget>().geometry(), QRect(400, 128, 400, 225));
+    QCOMPARE(fixture.child<LiveVideoWidget>().geometry(), QRect(0, 119, 400, 225));
+    QCOMPARE(fixture.child<PictureWidget>().geometry(), QRect(400, 119, 400, 225));
     QCOMPARE(dialog.displayMode(), PhotoMode);
 }
 
@@ -120,10 +120,10 @@ void DisplayModesTest::theListScreenOffersTheMovies()
     CVistrelDlg &dialog = fixture.build();
     dialog.TransitionMode(ListMode);
     QCOMPARE(fixture.shownButtons(),
-             (QStringList{"Live 134,541 133x59", closePlace, "Show 267,541 133x59",
-                          "SwitchMovie 400,541 133x59"}));
+             (QStringList{"Live 134,532 133x68", closePlace, "Show 267,532 133x68",
+                          "SwitchMovie 400,532 133x68"}));
     QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "Close", "SwitchMovie"}));
-    QCOMPARE(fixture.child<PictureListView>().geometry(), QRect(QPoint(0, 432), QPoint(799, 540)));
+    QCOMPARE(fixture.child<PictureListView>().geometry(), QRect(QPoint(0, 425), QPoint(799, 531)));
 }
 
 void DisplayModesTest::theListScreenAfterAMovieOffersThePhotos()
@@ -133,7 +133,7 @@ void DisplayModesTest::theListScreenAfterAMovieOffersThePhotos()
     dialog.TransitionMode(MovieMode);
     dialog.TransitionMode(ListMode);
     QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "Close", "SwitchPhoto"}));
-    QCOMPARE(fixture.button("SwitchPhoto").geometry(), QRect(400, 541, 133, 59));
+    QCOMPARE(fixture.button("SwitchPhoto").geometry(), QRect(400, 532, 133, 68));
 }
 
 void DisplayModesTest::theTileScreen()
@@ -142,8 +142,8 @@ void DisplayModesTest::theTileScreen()
     CVistrelDlg &dialog = fixture.build();
     dialog.SetPictureListMode({});
     QCOMPARE(fixture.shownButtons(),
-             (QStringList{"Live 134,541 133x59", "List 400,541 133x59", closePlace,
-                          "PutPhoto 267,541 133x59"}));
+             (QStringList{"Live 134,532 133x68", "List 400,532 133x68", closePlace,
+                          "PutPhoto 267,532 133x68"}));
     QCOMPARE(fixture.usableButtons(), (QStringList{"Live", "List", "Close", "PutPhoto"}));
 }
 
@@ -155,9 +155,9 @@ void DisplayModesTest::theSeriesScreenResetsTheEngineAndPlacesTheViews()
     dialog.TransitionMode(PhotSeqMode);
     QCOMPARE(FakeEngine::callCount(QStringLiteral("Reset")), resets + 1);
     QCOMPARE(fixture.shownButtons(), liveRow);
-    // 800x450 of live picture fits 400x432 above the strip as 400x225.
-    QCOMPARE(fixture.child<LiveVideoWidget>().geometry(), QRect(0, 103, 400, 225));
-    QCOMPARE(fixture.child<PictureWidget>().geometry(), QRect(400, 103, 400, 225));
+    // 800x450 of live picture fits 400x425 above the strip as 400x225.
+    QCOMPARE(fixture.child<LiveVideoWidget>().geometry(), QRect(0, 100, 400, 225));
+    QCOMPARE(fixture.child<PictureWidget>().geometry(), QRect(400, 100, 400, 225));
 }
 
 void DisplayModesTest::anUnknownModeShowsTheLiveScreenAndIsRemembered()
@@ -255,7 +255,7 @@ void DisplayModesTest::settingButtonXReturnsTheNextCell()
     CVistrelDlg &dialog = fixture.build();
     auto &live = static_cast<CStretchBitmapButton &>(fixture.button("Live"));
     QCOMPARE(dialog.setButtonX(&live, 10.75), 143.75);
-    QCOMPARE(live.geometry(), QRect(10, 541, 133, 59));
+    QCOMPARE(live.geometry(), QRect(10, 532, 133, 68));
 }
 
 QTEST_MAIN(DisplayModesTest)

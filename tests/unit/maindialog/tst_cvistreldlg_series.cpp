@@ -218,7 +218,7 @@ void SeriesFlowTest::liveAndPhotoStandSideBySideAboveTheStrip()
     QVERIFY(series.child<LiveVideoWidget>().isVisible());
     QVERIFY(series.strip().isVisible());
     QCOMPARE(series.photo().geometry(), live.translated(400, 0));
-    QCOMPARE(series.strip().geometry(), QRect(0, 432, 800, 109));
+    QCOMPARE(series.strip().geometry(), QRect(0, 425, 800, 107));
     QVERIFY(live.bottom() < series.strip().y());
     QVERIFY(live.right() < 400);
 }

@@ -142,9 +142,11 @@ void DialogGeometryTest::fiveButtonsAndTheSmallColumnFitSideBySide_data()
 void DialogGeometryTest::fiveButtonsAndTheSmallColumnFitSideBySide()
 {
     QFETCH(QSize, screen);
-    // The shape of the artwork: 640x288, the small buttons as wide and half as high.
-    const QSize button = QSize(640, 288).scaled(screen.width() / 6, 288, Qt::KeepAspectRatio);
+    // The shape of the artwork: 640x332, the small buttons as wide and half as high.
+    const QSize button = QSize(640, 332).scaled(screen.width() / 6, 332, Qt::KeepAspectRatio);
     const QSize small(button.width(), button.height() / 2);
+    if (screen.width() >= 1024)
+        QVERIFY(small.height() >= 44); // a finger's
     const DialogGeometry geometry(screen, button, small.width());
     const QRect first = geometry.cellAt(geometry.rowStart(5));
     const QRect last = geometry.cellAt(geometry.rowStart(5) + 4 * button.width());

@@ -32,9 +32,9 @@ QSize decidedSize(Kind kind)
 {
     switch (kind) {
     case Kind::Main:
-        return {640, 288};
+        return {640, 332};
     case Kind::HalfHigh:
-        return {640, 144};
+        return {640, 166};
     case Kind::Tile:
         return {96, 72};
     }
