@@ -3,12 +3,39 @@
 #include "PictureLoader.h"
 #include "WebcamUtil.h"
 
+#include <QPainter>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
+#include <array>
+
 static constexpr int maximalSelection = 9; // as many as the window shows side by side
 static constexpr int tileSpacing = 10; // px
+
+// With a tick in its top right corner, white on a black disc, to be seen on any picture.
+static QPixmap ticked(const QPixmap &bare)
+{
+    if (bare.isNull())
+        return bare;
+    QPixmap picture = bare;
+    const QSizeF size = QSizeF(picture.size()) / picture.devicePixelRatioF();
+    const double disc = qMin(size.width(), size.height()) / 3;
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(size.width() - disc, 0);
+    painter.scale(disc, disc);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.drawEllipse(QRectF(0, 0, 1, 1));
+    painter.setPen(QPen(Qt::white, 0.14, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    const std::array<QPointF, 3> tick{QPointF(0.25, 0.52), QPointF(0.44, 0.72),
+                                      QPointF(0.76, 0.32)};
+    painter.drawPolyline(tick.data(), int(tick.size()));
+    painter.end();
+    return picture;
+}
 
 PictureListView::PictureListView(QWidget *parent)
     : QListWidget(parent)
@@ -28,7 +55,8 @@ PictureListView::PictureListView(QWidget *parent)
     QPalette colors = palette();
     colors.setColor(QPalette::Base, Qt::black);
     // Chosen photos must stand out as well while a button has the focus.
-    colors.setColor(QPalette::Highlight, QColor(0, 120, 215));
+    colors.setColor(QPalette::Highlight, QColor(0, 88, 168));
+    colors.setColor(QPalette::HighlightedText, Qt::white); // 7:1 on that
     setPalette(colors);
     setBackgroundRole(QPalette::Base);
 
@@ -100,7 +128,8 @@ void PictureListView::showThumbnail(const QString &name, const QImage &thumbnail
     QPixmap pixmap = QPixmap::fromImage(thumbnail);
     pixmap.setDevicePixelRatio(devicePixelRatioF());
     QIcon icon(pixmap);
-    icon.addPixmap(pixmap, QIcon::Selected); // the tile is lit when chosen, its picture stays clear
+    // The tile is lit when chosen, its picture stays clear; who cannot tell the colour sees a tick.
+    icon.addPixmap(ticked(pixmap), QIcon::Selected);
     shown->setIcon(icon);
 }
 

@@ -1,4 +1,5 @@
 #include "CaptureFolder.h"
+#include "Contrast.h"
 #include "MessageReader.h"
 #include "PictureListView.h"
 
@@ -70,7 +71,8 @@ private Q_SLOTS:
     void aSecondClickDeselects();
     void selectedPhotoComesWhenTheNamesAreReady();
     void aChosenPhotoLooksChosenWithoutFocusToo();
-    void thePictureOfAChosenPhotoStaysClear();
+    void theNameOfAChosenPhotoCanBeRead();
+    void aChosenPhotoIsTickedAndItsPictureStaysClear();
     void aPhotoChosenAlreadyIsNotTakenTwice();
     void unselectingTakesOutTheFirstOfThatName();
 
@@ -249,13 +251,36 @@ void TestPictureListView::aChosenPhotoLooksChosenWithoutFocusToo()
     QCOMPARE(other, QColor(Qt::black));
 }
 
-void TestPictureListView::thePictureOfAChosenPhotoStaysClear()
+void TestPictureListView::theNameOfAChosenPhotoCanBeRead()
+{
+    const Strip strip(1);
+    const QRgb lit = strip.list->palette().color(QPalette::Highlight).rgb();
+    QVERIFY(contrast(lit, strip.list->palette().color(QPalette::HighlightedText).rgb()) >= 7);
+    QVERIFY(contrast(lit, qRgb(0, 0, 0)) > 2.5); // of the tiles beside it
+}
+
+void TestPictureListView::aChosenPhotoIsTickedAndItsPictureStaysClear()
 {
     const Strip strip(1);
     const QIcon icon = strip.list->item(0)->icon();
     const QSize size = strip.list->iconSize();
-    QCOMPARE(icon.pixmap(size, QIcon::Selected).toImage(),
-             icon.pixmap(size, QIcon::Normal).toImage());
+    const auto shown = [&](QIcon::Mode mode) {
+        return icon.pixmap(size, mode).toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    const QImage chosen = shown(QIcon::Selected);
+    const QImage other = shown(QIcon::Normal);
+    const int side = qMin(other.width(), other.height()) / 3 + 1;
+    const QRect corner(other.width() - side, 0, side, side);
+    const QImage tick = chosen.copy(corner);
+    QVERIFY(tick != other.copy(corner));
+    QCOMPARE(tick.pixel(side / 4, side / 4), qRgb(0, 0, 0));
+    int white = 0;
+    for (int x = 0; x < side; ++x)
+        for (int y = 0; y < side; ++y)
+            white += tick.pixel(x, y) == qRgb(255, 255, 255) ? 1 : 0;
+    QVERIFY(white > 0);
+    const QRect left(0, 0, corner.left(), other.height());
+    QCOMPARE(chosen.copy(left), other.copy(left));
 }
 
 void TestPictureListView::aPhotoChosenAlreadyIsNotTakenTwice()
