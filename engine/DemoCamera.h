@@ -4,8 +4,9 @@
 #include "Camera.h"
 
 /**
- * The built-in camera for desks without one: a drawn scene with a moving sun and a running clock.
- * It is offered, after all real cameras, when ORVANTA_DEMO_CAMERA is "1".
+ * The built-in camera for those who have none at hand: a drawn desk with a pencil that draws and a
+ * clock that ticks, for the eye and by a microphone of its own. It is offered, after all real
+ * cameras, when ORVANTA_DEMO_CAMERA is "1".
  */
 class DemoCamera : public Camera {
 public:

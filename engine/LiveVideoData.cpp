@@ -120,6 +120,7 @@ bool LiveVideoData::Private::open(const CameraHandle &chosen, const QSize &size)
     if (!pipeline)
         return false;
     camera = chosen;
+    microphones.setDemonstration(camera->record().origin == DeviceRecord::Origin::Demonstration);
     pipeline->setTap(movie.tap());
     const double rate = pipeline->mode().rate();
     // While the camera opens there is time to find an encoder.
@@ -150,6 +151,7 @@ void LiveVideoData::Private::close()
     GrabThread::retire(thread);
     thread = nullptr;
     camera.reset();
+    microphones.setDemonstration(false);
     painter.repaintSoon();
 }
 

@@ -1,6 +1,7 @@
 #include "Microphone.h"
 
 #include "BoundedTask.h"
+#include "DemoSource.h"
 #include "EngineLog.h"
 #include "MovieRecorder.h"
 #include "PipelineTools.h"
@@ -25,6 +26,20 @@ static const milliseconds closeLimit(1000);
 static const char serverSource[] =
     "pulsesrc slave-method=none stream-properties=\"props,node.dont-reconnect=(string)true\"";
 static const char cardSource[] = "alsasrc";
+static const char demonstrationSource[] = "appsrc";
+
+static QByteArray elementFor(SoundSource::Kind kind)
+{
+    switch (kind) {
+    case SoundSource::Kind::Server:
+        return QByteArray(serverSource) + " provide-clock=false";
+    case SoundSource::Kind::Card:
+        return QByteArray(cardSource) + " provide-clock=false";
+    case SoundSource::Kind::Demonstration:
+        break;
+    }
+    return demonstrationSource;
+}
 
 /// What may hang: opened and closed on a thread of its own.
 class Microphone::Pipeline {
@@ -111,9 +126,8 @@ bool Microphone::Pipeline::isRefused()
 
 bool Microphone::Pipeline::connect(const SoundSource &source)
 {
-    const QByteArray description =
-        QByteArray(source.kind == SoundSource::Kind::Server ? serverSource : cardSource)
-        + " name=source provide-clock=false ! audioconvert ! audioresample !"
+    const QByteArray description = elementFor(source.kind)
+        + " name=source ! audioconvert ! audioresample !"
           " audio/x-raw,format=S16LE,layout=interleaved,rate="
         + QByteArray::number(SoundTrack::rate) + ",channels="
         + QByteArray::number(SoundTrack::channels) + " ! appsink name=sound sync=false async=false";
@@ -129,6 +143,8 @@ bool Microphone::Pipeline::connect(const SoundSource &source)
     gst_app_sink_set_callbacks(GST_APP_SINK(sink.get()), &callbacks, this, nullptr);
     const GstObjectHandle<GstElement> microphone(
         gst_bin_get_by_name(GST_BIN(m_pipeline.get()), "source"));
+    if (source.kind == SoundSource::Kind::Demonstration)
+        DemoSource::feedSound(microphone.get());
     if (!source.name.isEmpty())
         g_object_set(microphone.get(), "device", source.name.constData(), nullptr);
     g_signal_connect(microphone.get(), "notify::current-device", G_CALLBACK(onConnected), this);

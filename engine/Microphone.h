@@ -15,10 +15,11 @@ struct SoundSource {
     enum class Kind {
         Server, ///< a source of the sound server
         Card, ///< the sound system's own default source
+        Demonstration, ///< the demonstration camera's
     };
 
     Kind kind = Kind::Card;
-    QByteArray name; ///< the server's for it; empty for a card
+    QByteArray name; ///< the server's for it; empty for the others
 };
 
 /**

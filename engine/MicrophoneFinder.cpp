@@ -1,6 +1,7 @@
 #include "MicrophoneFinder.h"
 
 #include "ChangeListeners.h"
+#include "DemoCamera.h"
 #include "SoundServer.h"
 
 using std::chrono::milliseconds;
@@ -58,9 +59,18 @@ std::optional<SoundSource> MicrophoneFinder::source()
     return SoundSource{SoundSource::Kind::Server, name};
 }
 
+std::optional<SoundSource> MicrophoneFinder::chosen() const
+{
+    const bool standsIn = DemoCamera::isWanted()
+        && (!soundServer().isThere() || soundServer().microphone().isEmpty());
+    if (m_isDemonstration || standsIn)
+        return SoundSource{SoundSource::Kind::Demonstration, {}};
+    return source();
+}
+
 std::shared_ptr<Microphone> MicrophoneFinder::open(milliseconds limit)
 {
-    const std::optional<SoundSource> found = source();
+    const std::optional<SoundSource> found = chosen();
     std::shared_ptr<Microphone> opened = found ? Microphone::open(*found, limit) : nullptr;
     m_open = opened;
     return opened;
@@ -82,8 +92,9 @@ bool MicrophoneFinder::canBeUsed()
     const bool hasServer = soundServer().isThere();
     if (m_isRefused && (hasServer || !m_sinceRefusal.hasExpired(cardRefusal)))
         return false;
-    if (hasServer)
-        return source().has_value();
+    const std::optional<SoundSource> found = chosen();
+    if (hasServer || (found && found->kind == SoundSource::Kind::Demonstration))
+        return found.has_value();
     // One that a movie listens to would be found busy.
     return !m_open.expired() || m_card.canBeOpened(cardLimit);
 }

@@ -43,9 +43,16 @@ public:
     /// The one that all ask, for whoever wants to know more of it.
     static const SoundServer &server();
 
-    /// What a movie is to listen to; empty when there is no microphone. Without a sound server
-    /// there is always one to try.
+    /// The machine's microphone; empty when there is none. Without a sound server there is always
+    /// one to try.
     static std::optional<SoundSource> source();
+
+    /// The camera that is open is the demonstration's: its own microphone is listened to.
+    void setDemonstration(bool on) { m_isDemonstration = on; }
+
+    /// What a movie is to listen to here: source(), or the demonstration camera's microphone, which
+    /// also stands in where that camera is offered and there is no other microphone.
+    std::optional<SoundSource> chosen() const;
 
     /// Opens it. Null when there is none, or it does not open within @p limit.
     std::shared_ptr<Microphone> open(std::chrono::milliseconds limit);
@@ -62,6 +69,7 @@ public:
 private:
     const std::function<void()> m_changed;
     std::weak_ptr<Microphone> m_open;
+    bool m_isDemonstration = false;
     bool m_isRefused = false;
     QElapsedTimer m_sinceRefusal;
     SoundCardTrial m_card;

@@ -153,7 +153,7 @@ static std::shared_ptr<MovieRecorder> startWithin(milliseconds limit, const QStr
 
 MovieOutcome MovieMaker::begin(const QString &path, const GstVideoInfo &format)
 {
-    if (!MicrophoneFinder::source())
+    if (!m_microphones.chosen())
         return MovieOutcome::NoMicrophone;
     const MovieEncoding encoding =
         m_search ? m_search->waitUntil(steady_clock::now() + startLimit) : MovieEncoding();

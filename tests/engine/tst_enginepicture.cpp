@@ -378,7 +378,7 @@ void TestEnginePicture::theDemonstrationCameraComesLastAndMoves()
              (QStringList{"big", "packed", "small", "Demonstration Camera"}));
     open("Demonstration Camera");
     qunsetenv("ORVANTA_DEMO_CAMERA");
-    QCOMPARE(QSize(m_engine->nativeWidth, m_engine->nativeHeight), QSize(1280, 720));
+    QCOMPARE(QSize(m_engine->nativeWidth, m_engine->nativeHeight), QSize(1920, 1080));
     QTRY_VERIFY(!isBlack());
     const QImage first = pictureOnScreen();
     QTRY_VERIFY(pictureOnScreen() != first);
