@@ -123,20 +123,23 @@ int Session::counterAt(QRect place) const
     return LabPattern::counterOf(seenAt(place));
 }
 
+bool Session::isPicture(const QImage &seen) const
+{
+    return LabPattern::counterOf(seen) >= 0
+        && LabPattern::worstDifference(seen, m_ground) < colourTolerance;
+}
+
 bool Session::isLiveAt(QRect place) const
 {
     const QImage first = seenAt(place);
     const int counter = LabPattern::counterOf(first);
-    return counter >= 0 && LabPattern::worstDifference(first, m_ground) < colourTolerance
-        && waitFor([&] { return counterAt(place) > counter; }, 1000);
+    return isPicture(first) && waitFor([&] { return counterAt(place) > counter; }, 1000);
 }
 
 bool Session::isStillAt(QRect place) const
 {
     const QImage first = seenAt(place);
-    return LabPattern::counterOf(first) >= 0
-        && LabPattern::worstDifference(first, m_ground) < colourTolerance
-        && !waitFor([&] { return seenAt(place) != first; }, 300);
+    return isPicture(first) && !waitFor([&] { return seenAt(place) != first; }, 300);
 }
 
 void Session::press(WindowMap::Screen screen, const QString &button)

@@ -21,6 +21,8 @@ public:
     // Its pixels are as large as those of this test's own windows.
     Session(const QString &executable, const QString &cameraName, QSize cameraSize,
             QRect area = {});
+    virtual ~Session() = default;
+    Q_DISABLE_COPY(Session)
 
     Desktop &desktop() { return m_desktop; }
     Program &program() { return m_program; }
@@ -44,9 +46,11 @@ public:
     QImage seenAt(QRect place) const { return m_desktop.screenshot().copy(place); }
     // The camera's frame number as seen there, -1 when there is no whole picture of the camera.
     int counterAt(QRect place) const;
+    // Whether it is a whole picture of the camera, with the right colours.
+    virtual bool isPicture(const QImage &seen) const;
     // True once the picture there changes as a camera's does, with the right colours.
-    bool isLiveAt(QRect place) const;
-    bool isStillAt(QRect place) const;
+    virtual bool isLiveAt(QRect place) const;
+    virtual bool isStillAt(QRect place) const;
 
     void press(WindowMap::Screen screen, const QString &button);
     // Waits until the button is there and can be pressed, then presses it.

@@ -2,11 +2,12 @@
 // with real clicks, keeps a picture of every screen and, at the end, the photo that was saved.
 //
 //   orvanta_tour PROGRAM FOLDER CAMERA WIDTHxHEIGHT [COMMAND ARGS...]
+//   orvanta_tour PROGRAM FOLDER demonstration [COMMAND ARGS...]
 //
 // Run by tests/lab/tour, which builds the lab around it. The command, such as the installation of
 // another version of the program, is run after the first photo. Status 0 when every step worked.
 
-#include "LabPattern.h"
+#include "DemoSession.h"
 #include "LayoutScale.h"
 #include "Session.h"
 
@@ -16,6 +17,9 @@
 #include <QTest>
 
 #include <cstdio>
+#include <memory>
+
+static const int reactionLimit = 30000; // ms, also of a busy machine
 
 namespace {
 
@@ -53,7 +57,7 @@ public:
         for (const QString &file : files) {
             const QString kept = m_folder.filePath(file);
             m_good = m_good && QFile::copy(saved.filePath(file), kept)
-                && LabPattern::counterOf(QImage(kept)) >= 0;
+                && m_user->isPicture(QImage(kept));
             std::printf("%-58s %s\n", "A saved photo", qPrintable(QDir::cleanPath(kept)));
         }
         const QStringList movies = saved.entryList({"movie*.mov"}, QDir::Files);
@@ -76,10 +80,12 @@ void photograph(Tour *tour, Session *user)
     tour->stop("live", "The live picture", user->startLive());
     tour->stop("preview", "A photo beside the live picture: accept or retry",
                user->takePhotoForPreview()
-                   && QTest::qWaitFor([&] { return user->isStillAt(map.previewPhotoRect()); }));
-    tour->stop("photo", "The accepted photo",
-               user->pressWhenReady(WindowMap::PreviewScreen, "Apply")
-                   && QTest::qWaitFor([&] { return user->isStillAt(map.videoRect()); }));
+                   && QTest::qWaitFor([&] { return user->isStillAt(map.previewPhotoRect()); },
+                                      reactionLimit));
+    tour->stop(
+        "photo", "The accepted photo",
+        user->pressWhenReady(WindowMap::PreviewScreen, "Apply")
+            && QTest::qWaitFor([&] { return user->isStillAt(map.videoRect()); }, reactionLimit));
 }
 
 // What it says is seen; long enough for a slow machine to install packages.
@@ -100,16 +106,15 @@ void film(Tour *tour, Session *user)
                user->pressWhenReady(WindowMap::PhotoScreen, "Live")
                    && user->pressWhenReady(WindowMap::LiveScreen, "Movie")
                    && user->waitForPressable(WindowMap::RecordingScreen, {"MovieStop"})
-                   && QTest::qWaitFor([=] { return user->isLiveAt(picture); }));
+                   && QTest::qWaitFor([=] { return user->isLiveAt(picture); }, reactionLimit));
     QTest::qWait(3000); // nothing to wait for: the movie's length
     tour->stop("movie", "The movie, ready to be played",
                user->pressWhenReady(WindowMap::RecordingScreen, "MovieStop")
                    && user->waitForPressable(WindowMap::MovieScreen, toPlay)
-                   && QTest::qWaitFor([=] { return user->isStillAt(picture); }));
-    const int first = user->counterAt(picture);
+                   && QTest::qWaitFor([=] { return user->isStillAt(picture); }, reactionLimit));
     tour->stop("playing", "The movie played",
                user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay")
-                   && QTest::qWaitFor([=] { return user->counterAt(picture) > first + 15; }));
+                   && QTest::qWaitFor([=] { return user->isLiveAt(picture); }, reactionLimit));
     tour->stop("paused", "The movie paused",
                user->pressWhenReady(WindowMap::PlayingScreen, "MoviePause")
                    && user->waitForPressable(WindowMap::MovieScreen, toPlay));
@@ -121,7 +126,8 @@ void photographASeries(Tour *tour, Session *user)
         for (int i = 0; i < count; ++i) {
             const int before = user->program().captured().size();
             if (!user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti")
-                || !QTest::qWaitFor([&] { return user->program().captured().size() > before; }))
+                || !QTest::qWaitFor([&] { return user->program().captured().size() > before; },
+                                    reactionLimit))
                 return false;
         }
         return true;
@@ -135,11 +141,13 @@ void photographASeries(Tour *tour, Session *user)
     tour->stop("series", "A series: live, the last photo, and those before", presses(3));
     tour->stop("tiles", "A series: all photos side by side",
                presses(1)
-                   && QTest::qWaitFor([user] { return user->isStillAt(user->map().tile(4, 3)); }));
+                   && QTest::qWaitFor([user] { return user->isStillAt(user->map().tile(4, 3)); },
+                                      reactionLimit));
     const QPoint zoom = user->map().cornerButton(user->map().tile(4, 0));
     user->desktop().click(zoom);
     tour->stop("zoom", "One of them, enlarged",
-               QTest::qWaitFor([user] { return user->isStillAt(user->map().videoRect()); }));
+               QTest::qWaitFor([user] { return user->isStillAt(user->map().videoRect()); },
+                               reactionLimit));
 }
 
 void lookAround(Tour *tour, Session *user)
@@ -151,7 +159,8 @@ void lookAround(Tour *tour, Session *user)
     for (int i = 0; i < 2; ++i)
         user->desktop().click(user->map().thumbnail(i).center());
     tour->stop("selection", "Two of them selected, the last one shown",
-               QTest::qWaitFor([user] { return user->isStillAt(user->map().selectionRect()); }));
+               QTest::qWaitFor([user] { return user->isStillAt(user->map().selectionRect()); },
+                               reactionLimit));
     tour->stop("settings", "The settings",
                user->pressWhenReady(WindowMap::ListScreen, "Live")
                    && user->pressWhenReady(WindowMap::LiveScreen, "Settings")
@@ -178,21 +187,25 @@ int main(int argc, char *argv[])
     const QApplication application(argc, argv);
     qunsetenv("QT_SCALE_FACTOR"); // the program finds it out by itself
     const QStringList arguments = QApplication::arguments();
+    const bool isDemonstration = arguments.value(3) == QLatin1String("demonstration");
     const QStringList size = arguments.value(4).split('x');
-    if (size.size() != 2) {
+    if (!isDemonstration && size.size() != 2) {
         std::fprintf(stderr, "usage: orvanta_tour PROGRAM FOLDER CAMERA WIDTHxHEIGHT\n");
         return 2;
     }
-    Session user(arguments[1], arguments[3], QSize(size[0].toInt(), size[1].toInt()));
+    const std::unique_ptr<Session> user = isDemonstration
+        ? std::make_unique<DemoSession>(arguments[1])
+        : std::make_unique<Session>(arguments[1], arguments[3],
+                                    QSize(size[0].toInt(), size[1].toInt()));
+    const QStringList meanwhile = arguments.mid(isDemonstration ? 4 : 5);
     QDir().mkpath(arguments[2]);
-    Tour tour(&user, arguments[2]);
-    photograph(&tour, &user);
-    if (arguments.size() > 5)
+    Tour tour(user.get(), arguments[2]);
+    photograph(&tour, user.get());
+    if (!meanwhile.isEmpty())
         tour.stop("meanwhile", "The program after what happened meanwhile",
-                  runMeanwhile(arguments.mid(5)) && user.program().isRunning());
-    film(&tour, &user);
-    photographASeries(&tour, &user);
-    lookAround(&tour, &user);
-    leave(&tour, &user);
+                  runMeanwhile(meanwhile) && user->program().isRunning());
+    for (const auto part : {film, photographASeries, lookAround, leave})
+        if (tour.isGood())
+            part(&tour, user.get());
     return tour.isGood() ? 0 : 1;
 }
