@@ -7,11 +7,15 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QProcess>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QTest>
 
 using HouseFiles::captured;
 using HouseFiles::contentOf;
+
+static const int patience = 30000; // ms, for a command to say what it is for
 
 // What the pages tell a reader to open or to type is there and is understood.
 class TestPages : public QObject {
@@ -23,10 +27,16 @@ private Q_SLOTS:
     void everyPathLeadsSomewhere();
     void everyCommandUnderstandsWhatItIsTold_data();
     void everyCommandUnderstandsWhatItIsTold();
+    void everyToolIsThere_data();
+    void everyToolIsThere();
     void everyPresetExists_data();
     void everyPresetExists();
+    void everyTargetExists_data();
+    void everyTargetExists();
     void everyVariableIsRead_data();
     void everyVariableIsRead();
+    void everySettingIsTold_data();
+    void everySettingIsTold();
 
 private:
     struct Code {
@@ -38,6 +48,7 @@ private:
     QVector<Code> matches(const QString &pattern) const;
 
     QVector<Code> m_codes; ///< what the pages set apart as code, line by line
+    QVector<Code> m_typed; ///< those of them that a reader types as they are
     QVector<Code> m_links; ///< where they lead to
     QStringList m_files; ///< of the tree
     QString m_sources; ///< of everything that runs or is built
@@ -56,11 +67,13 @@ void TestPages::initTestCase()
         if (isScript || path.endsWith(".cpp") || path.endsWith(".txt"))
             m_sources += contentOf(path);
     }
-    for (const QString page : {"README.md", "CONTRIBUTING.md", "ARCHITECTURE.md"}) {
+    for (const QString page : {"README.md", "CONTRIBUTING.md", "ARCHITECTURE.md", "CHANGELOG.md"}) {
         const QString text = contentOf(page);
         QVERIFY2(!text.isEmpty(), qPrintable(page));
-        for (const QString &code : captured(text, "^    ([^#\\n]+?)(?: +#.*)?$"))
+        for (const QString &code : captured(text, "^    ([^#\\n]+?)(?: +#.*)?$")) {
             m_codes.append({page, code});
+            m_typed.append({page, code});
+        }
         for (const QString &code : captured(text, "`([^`\\n]+)`"))
             m_codes.append({page, code});
         for (const QString &link : captured(text, "\\]\\(([^)]+)\\)"))
@@ -130,6 +143,17 @@ void TestPages::everyCommandUnderstandsWhatItIsTold_data()
     addRows(rows, "command");
 }
 
+// What the command says of itself; empty when it does not.
+static QString helpOf(const QString &script)
+{
+    QProcess command;
+    command.setWorkingDirectory(HOUSE);
+    command.start(QDir(HOUSE).filePath(script), {"--help"});
+    const bool helps = command.waitForFinished(patience)
+        && command.exitStatus() == QProcess::NormalExit && command.exitCode() == 0;
+    return helps ? QString::fromUtf8(command.readAllStandardOutput()) : QString();
+}
+
 void TestPages::everyCommandUnderstandsWhatItIsTold()
 {
     QFETCH(QString, command);
@@ -138,14 +162,40 @@ void TestPages::everyCommandUnderstandsWhatItIsTold()
         words.removeFirst();
     const QString script = words.takeFirst();
     QVERIFY2(QFileInfo(QDir(HOUSE).filePath(script)).isExecutable(), "no such command");
-    const QString text = contentOf(script);
+    static const QRegularExpression openWord(
+        "^([A-Z]+|[0-9]+(x[0-9]+)?)$"); // for the reader to fill in
+    const int others = words.indexOf("-R"); // what follows is the test tool's own
+    words = words.mid(0, others).filter(QRegularExpression("^(?!" + openWord.pattern() + ")"));
+    if (words.isEmpty())
+        return;
+    const QString text = helpOf(script);
+    QVERIFY2(!text.isEmpty(), "it does not help");
     for (const QString &word : qAsConst(words)) {
-        if (word == "-R") // what follows is the test tool's own
-            return;
+        if (QFileInfo::exists(QDir(HOUSE).filePath(word))) // for an option that takes one
+            continue;
         QVERIFY2(text.contains(QRegularExpression("(?:^|[^\\w-])" + QRegularExpression::escape(word)
                                                   + "\\b")),
                  qPrintable(script + " knows nothing of " + word));
     }
+}
+
+// Commands that are not the tree's.
+void TestPages::everyToolIsThere_data()
+{
+    QVector<Code> rows;
+    for (const Code &typed : qAsConst(m_typed)) {
+        const QString tool =
+            typed.text.section(' ', typed.text.startsWith("sudo ") ? 1 : 0).section(' ', 0, 0);
+        if (!tool.contains('/') && typed.page != "ARCHITECTURE.md") // where rooms are drawn so
+            rows.append({typed.page, tool});
+    }
+    addRows(rows, "tool");
+}
+
+void TestPages::everyToolIsThere()
+{
+    QFETCH(QString, tool);
+    QVERIFY(!QStandardPaths::findExecutable(tool).isEmpty());
 }
 
 void TestPages::everyPresetExists_data()
@@ -167,6 +217,17 @@ void TestPages::everyPresetExists()
     QVERIFY2(names.contains(command.section(' ', -1)), qPrintable(names.join(' ')));
 }
 
+void TestPages::everyTargetExists_data()
+{
+    addRows(matches("--target (\\w+)"), "target");
+}
+
+void TestPages::everyTargetExists()
+{
+    QFETCH(QString, target);
+    QVERIFY(m_sources.contains(QRegularExpression("add_custom_target\\(" + target + "\\b")));
+}
+
 void TestPages::everyVariableIsRead_data()
 {
     addRows(matches("(ORVANTA_[A-Z_]+)"), "name");
@@ -176,6 +237,22 @@ void TestPages::everyVariableIsRead()
 {
     QFETCH(QString, name);
     QVERIFY(m_sources.contains(QRegularExpression("\\b" + name + "\\b")));
+}
+
+// By its name in the settings' file.
+void TestPages::everySettingIsTold_data()
+{
+    QVector<Code> rows;
+    for (const QString &key :
+         captured(contentOf("settings/Setting.cpp"), "setValue\\(QStringLiteral\\(\"(\\w+)\""))
+        rows.append({"settings", key});
+    addRows(rows, "key");
+}
+
+void TestPages::everySettingIsTold()
+{
+    QFETCH(QString, key);
+    QVERIFY(contentOf("README.md").contains("| `" + key + "` |"));
 }
 
 QTEST_GUILESS_MAIN(TestPages)
