@@ -151,7 +151,7 @@ void LiveVideoData::Private::close()
     GrabThread::retire(thread);
     thread = nullptr;
     camera.reset();
-    microphones.setDemonstration(false);
+    microphones.setDemonstration(std::nullopt);
     painter.repaintSoon();
 }
 

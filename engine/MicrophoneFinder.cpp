@@ -61,9 +61,8 @@ std::optional<SoundSource> MicrophoneFinder::source()
 
 std::optional<SoundSource> MicrophoneFinder::chosen() const
 {
-    const bool standsIn = DemoCamera::isWanted()
-        && (!soundServer().isThere() || soundServer().microphone().isEmpty());
-    if (m_isDemonstration || standsIn)
+    const bool isAlone = !soundServer().isThere() || soundServer().microphone().isEmpty();
+    if (m_isDemonstration.value_or(isAlone && DemoCamera::isWanted()))
         return SoundSource{SoundSource::Kind::Demonstration, {}};
     return source();
 }

@@ -47,11 +47,12 @@ public:
     /// one to try.
     static std::optional<SoundSource> source();
 
-    /// The camera that is open is the demonstration's: its own microphone is listened to.
-    void setDemonstration(bool on) { m_isDemonstration = on; }
+    /// Whether the camera that is open is the demonstration's, which is listened to by its own
+    /// microphone, and it alone; nothing while none is open.
+    void setDemonstration(std::optional<bool> isIt) { m_isDemonstration = isIt; }
 
-    /// What a movie is to listen to here: source(), or the demonstration camera's microphone, which
-    /// also stands in where that camera is offered and there is no other microphone.
+    /// What a movie is to listen to here: source(), or the demonstration camera's microphone. While
+    /// no camera is open that one counts where its camera is offered and there is no other.
     std::optional<SoundSource> chosen() const;
 
     /// Opens it. Null when there is none, or it does not open within @p limit.
@@ -69,7 +70,7 @@ public:
 private:
     const std::function<void()> m_changed;
     std::weak_ptr<Microphone> m_open;
-    bool m_isDemonstration = false;
+    std::optional<bool> m_isDemonstration;
     bool m_isRefused = false;
     QElapsedTimer m_sinceRefusal;
     SoundCardTrial m_card;

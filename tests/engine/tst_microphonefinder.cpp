@@ -2,6 +2,8 @@
 #include "MicrophoneFinder.h"
 #include "Patience.h"
 
+#include <QScopeGuard>
+
 #include <atomic>
 
 using std::chrono::seconds;
@@ -20,6 +22,7 @@ private Q_SLOTS:
     void everyListenerIsToldOfAChangeUntilItGoes();
     void oneThatWasRefusedCountsAsNoneUntilThatIsForgotten();
     void oneThatIsListenedToStaysUsable();
+    void theDemonstrationsMicrophoneIsForItsOwnCamera();
     void withoutASoundServerTheSourceIsTheSystemsOwn();
 
 private:
@@ -100,6 +103,23 @@ void TestMicrophoneFinder::oneThatIsListenedToStaysUsable()
     const std::shared_ptr<Microphone> microphone = finder.open(seconds(5));
     QVERIFY(microphone);
     QVERIFY(finder.canBeUsed());
+}
+
+void TestMicrophoneFinder::theDemonstrationsMicrophoneIsForItsOwnCamera()
+{
+    using Kind = SoundSource::Kind;
+    qputenv("ORVANTA_DEMO_CAMERA", "1");
+    const auto restored = qScopeGuard([] { qunsetenv("ORVANTA_DEMO_CAMERA"); });
+    MicrophoneFinder finder([] {});
+    QVERIFY(finder.chosen()->kind == Kind::Server);
+    finder.setDemonstration(true);
+    QVERIFY(finder.chosen()->kind == Kind::Demonstration);
+    QVERIFY(labctl({"microphone", "off"}));
+    QTRY_VERIFY(!isPluggedIn());
+    finder.setDemonstration(false);
+    QVERIFY2(!finder.chosen() && !finder.canBeUsed(), "another camera is not heard by it");
+    finder.setDemonstration(std::nullopt);
+    QVERIFY(finder.chosen()->kind == Kind::Demonstration && finder.canBeUsed());
 }
 
 void TestMicrophoneFinder::withoutASoundServerTheSourceIsTheSystemsOwn()
