@@ -91,6 +91,7 @@ bool DeviceSession::findCameraAgain()
         [this] {
             return pressWhenReady(WindowMap::LiveScreen, QStringLiteral("List"))
                 && pressWhenReady(WindowMap::ListScreen, QStringLiteral("Live"))
+                && waitFor([this] { return !isBlackAt(map().videoRect()); }, movingLimit)
                 && movesAt(map().videoRect());
         },
         startLimit);

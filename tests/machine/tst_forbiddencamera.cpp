@@ -1,7 +1,10 @@
+#include "DeviceSession.h"
 #include "Devices.h"
 #include "LiveVideoData.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -47,9 +50,12 @@ private Q_SLOTS:
     void cleanup();
     void aForbiddenCameraIsNoneAndIsFoundOnceItIsAllowed();
     void oneThatWasAllowedBeforeAnybodyLookedIsFound();
+    void theUserIsToldAndHasThePictureOnceItIsAllowed();
 
 private:
+    QTemporaryDir m_folder;
     std::unique_ptr<TestCameras> m_cameras;
+    std::unique_ptr<DeviceSession> m_user; // goes before its camera
 };
 
 void TestForbiddenCamera::initTestCase()
@@ -65,6 +71,9 @@ void TestForbiddenCamera::init()
 
 void TestForbiddenCamera::cleanup()
 {
+    if (m_user)
+        m_user->keepTraces();
+    m_user.reset();
     m_cameras.reset();
 }
 
@@ -106,6 +115,36 @@ void TestForbiddenCamera::oneThatWasAllowedBeforeAnybodyLookedIsFound()
     QVERIFY(QTest::qWaitFor([&] { return engine->GetVideoDeviceList() == QStringList{"vivid"}; },
                             reactionLimit));
     engine.reset();
+}
+
+// The program itself must be the user's from its beginning.
+static bool makeStarter(const QString &script, const QString &folder)
+{
+    QFile file(script);
+    const bool isWritten = file.open(QIODevice::WriteOnly)
+        && file.write(
+               "#!/bin/sh\nexec setpriv --reuid=1717 --regid=1717 --clear-groups " ORVANTA_PROGRAM
+               "\n")
+            > 0
+        && file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    return isWritten && run("chown", {"-R", "1717:1717", folder});
+}
+
+void TestForbiddenCamera::theUserIsToldAndHasThePictureOnceItIsAllowed()
+{
+    QVERIFY(setRights(0600));
+    const QString script = m_folder.filePath("pupil");
+    m_user = std::make_unique<DeviceSession>(script);
+    Program &program = m_user->program();
+    QVERIFY(makeStarter(script, QFileInfo(program.home()).path()));
+    program.setEnvironment("XDG_RUNTIME_DIR", program.temporaryFolder());
+    program.start();
+    QVERIFY(m_user->waitForMainWindow());
+    QVERIFY(m_user->messageSays("Cannot find Video / Audio Devices."));
+    QVERIFY(m_user->confirmMessage());
+    QVERIFY(m_user->waitForPressable(WindowMap::LiveScreen, {"List", "Close"}));
+    QVERIFY(setRights(0666));
+    QVERIFY(m_user->findCameraAgain());
 }
 
 QTEST_MAIN(TestForbiddenCamera)
