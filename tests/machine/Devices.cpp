@@ -99,8 +99,11 @@ LoopCard::LoopCard()
 {
 }
 
+// A sound server holds it as long as it is there.
 LoopCard::~LoopCard()
 {
+    if (isLoaded() && pullOut())
+        m_puller.waitForFinished(leavingLimit);
     fallSilent();
 }
 
@@ -108,10 +111,12 @@ bool LoopCard::play(const QString &format, int rate, int channels)
 {
     fallSilent();
     m_player.setStandardOutputFile(QProcess::nullDevice());
-    // The tone of its own that the tool for trying loudspeakers has comes in any format.
+    // The tone of its own that the tool for trying loudspeakers has comes in any format. With a
+    // buffer that takes more than its turn of a loudspeaker it would wait for silence after each.
     m_player.start(QStringLiteral("speaker-test"),
-                   {"-D", "hw:0,1", "-t", "sine", "-f", "1000", "-l", "0", "-F", format, "-r",
-                    QString::number(rate), "-c", QString::number(channels)});
+                   {"-D", "hw:0,1", "-t", "sine", "-f", "1000", "-l", "0", "-b", "1000000", "-p",
+                    "100000", "-F", format, "-r", QString::number(rate), "-c",
+                    QString::number(channels)});
     return m_player.waitForStarted(toolLimit)
         && QTest::qWaitFor([] { return isHeld(QStringLiteral("pcm1p")); }, toolLimit);
 }

@@ -24,9 +24,14 @@ private Q_SLOTS:
     void aToneOfAnyFormatIsHeard();
     void aCardThatAnotherProgramHoldsIsUsedWhenItLetsGo();
     void aCardThatIsTakenAwayLeavesSilence();
+    void aCardThatIsBackIsHeardAgain();
 
 private:
     bool record(const QString &path);
+    bool endMovie()
+    {
+        return m_engine->RecordStop(), m_engine->CompleteMovies() || m_engine->CompleteMovies();
+    }
 
     QTemporaryDir m_folder;
     std::unique_ptr<TestCameras> m_cameras;
@@ -79,8 +84,7 @@ void TestSoundCards::aToneOfAnyFormatIsHeard()
     const QString path = m_folder.filePath(QString(QTest::currentDataTag()) + ".mov");
     QVERIFY(record(path));
     QTest::qWait(movieLength); // nothing to wait for: the movie's length
-    m_engine->RecordStop();
-    QVERIFY(m_engine->CompleteMovies() || m_engine->CompleteMovies());
+    QVERIFY(endMovie());
     QCOMPARE(MovieProbe(path).complaints(), QString());
     const MovieFile movie(path);
     QVERIFY2(movie.duration() > movieLength * 0.0007,
@@ -119,8 +123,7 @@ void TestSoundCards::aCardThatIsTakenAwayLeavesSilence()
     QVERIFY(m_engine->IsRecording());
     QTest::qWait(movieLength / 2); // nothing to wait for: the part without
     QVERIFY(m_engine->IsRecording());
-    m_engine->RecordStop();
-    QVERIFY(m_engine->CompleteMovies() || m_engine->CompleteMovies());
+    QVERIFY(endMovie());
     QCOMPARE(MovieProbe(path).complaints(), QString());
     const MovieFile movie(path);
     QVERIFY2(movie.duration() > movieLength * 0.0007,
@@ -130,6 +133,19 @@ void TestSoundCards::aCardThatIsTakenAwayLeavesSilence()
     QVERIFY2(movie.loudness() > heardAtLeast / 2 && movie.loudness() < 0.9,
              qPrintable(QString::number(movie.loudness())));
     QTRY_VERIFY_WITH_TIMEOUT(!m_engine->IsValidAudioDevice(), reactionLimit);
+}
+
+void TestSoundCards::aCardThatIsBackIsHeardAgain()
+{
+    QVERIFY(m_card->plugIn());
+    QVERIFY(m_card->play());
+    QTRY_VERIFY_WITH_TIMEOUT(m_engine->IsValidAudioDevice(), reactionLimit);
+    const QString path = m_folder.filePath("back.mov");
+    QVERIFY(record(path));
+    QTest::qWait(movieLength); // nothing to wait for: the movie's length
+    QVERIFY(endMovie());
+    const MovieFile movie(path);
+    QVERIFY2(movie.loudness() > heardAtLeast, qPrintable(QString::number(movie.loudness())));
 }
 
 QTEST_MAIN(TestSoundCards)
