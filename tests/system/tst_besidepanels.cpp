@@ -15,15 +15,22 @@ class TestBesidePanels : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void theWindowFillsTheFreeAreaAndCoversNoPanel();
+    void theOtherTwoSidesAreLeftFreeToo();
+    void theWindowTakesThePlaceOfAPanelThatGoes();
     void theWindowGoesThereByItself();
 
 private:
     static std::unique_ptr<QWidget> panel(QRect place, const QString &strut);
     static QString rootProperty(const QString &name);
 
+    void putPanels(bool areTopAndLeft);
+
     const QRect m_free{90, 40, 1190, 760};
+    const QRect m_otherFree{0, 0, 1200, 740};
     std::unique_ptr<QWidget> m_top;
     std::unique_ptr<QWidget> m_left;
+    std::unique_ptr<QWidget> m_right;
+    std::unique_ptr<QWidget> m_bottom;
 };
 
 // A panel of the desktop keeps its edge of the screen free by telling the window manager.
@@ -50,12 +57,26 @@ QString TestBesidePanels::rootProperty(const QString &name)
     return QString::fromUtf8(xprop.readAll());
 }
 
+void TestBesidePanels::putPanels(bool areTopAndLeft)
+{
+    for (std::unique_ptr<QWidget> *each : {&m_top, &m_left, &m_right, &m_bottom})
+        each->reset();
+    if (areTopAndLeft) {
+        m_top = panel({0, 0, 1280, 40}, "0, 0, 40, 0, 0, 0, 0, 0, 0, 1279, 0, 0");
+        m_left = panel({0, 40, 90, 760}, "90, 0, 0, 0, 40, 799, 0, 0, 0, 0, 0, 0");
+        QVERIFY(m_top && m_left);
+    } else {
+        m_right = panel({1200, 0, 80, 800}, "0, 80, 0, 0, 0, 0, 0, 799, 0, 0, 0, 0");
+        m_bottom = panel({0, 740, 1200, 60}, "0, 0, 0, 60, 0, 0, 0, 0, 0, 0, 0, 1199");
+        QVERIFY(m_right && m_bottom);
+    }
+    QTRY_COMPARE(QGuiApplication::primaryScreen()->availableGeometry(),
+                 areTopAndLeft ? m_free : m_otherFree);
+}
+
 void TestBesidePanels::initTestCase()
 {
-    m_top = panel({0, 0, 1280, 40}, "0, 0, 40, 0, 0, 0, 0, 0, 0, 1279, 0, 0");
-    m_left = panel({0, 40, 90, 760}, "90, 0, 0, 0, 40, 799, 0, 0, 0, 0, 0, 0");
-    QVERIFY(m_top && m_left);
-    QTRY_COMPARE(QGuiApplication::primaryScreen()->availableGeometry(), m_free);
+    putPanels(true);
 }
 
 void TestBesidePanels::theWindowFillsTheFreeAreaAndCoversNoPanel()
@@ -72,6 +93,27 @@ void TestBesidePanels::theWindowFillsTheFreeAreaAndCoversNoPanel()
         QCOMPARE(user.desktop().pixel(onPanel), green);
     QVERIFY(user.takePhotoForPreview());
     QTRY_VERIFY(user.isStillAt(user.map().previewPhotoRect()));
+}
+
+void TestBesidePanels::theOtherTwoSidesAreLeftFreeToo()
+{
+    putPanels(false);
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720), m_otherFree);
+    QVERIFY(user.startLive());
+    const QColor green("#308040");
+    for (const QPoint onPanel : {QPoint(1201, 400), QPoint(600, 741), QPoint(1279, 799)})
+        QCOMPARE(user.desktop().pixel(onPanel), green);
+}
+
+void TestBesidePanels::theWindowTakesThePlaceOfAPanelThatGoes()
+{
+    putPanels(false);
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720), m_otherFree);
+    QVERIFY(user.startLive());
+    m_bottom.reset();
+    QVERIFY(user.waitForMainWindowAt({0, 0, 1200, 800}));
+    QTRY_VERIFY(user.isLiveAt(user.map().videoRect()));
+    putPanels(true);
 }
 
 // A window manager would put a window of that size there in any case, so this one ends and leaves
