@@ -78,7 +78,7 @@ void LiveVideoWidget::showEvent(QShowEvent *event)
 
 void LiveVideoWidget::beginDeviceList()
 {
-    LiveVideoData::BeginList();
+    LiveVideoData::beginList();
 }
 
 void LiveVideoWidget::setInterruption(const std::function<bool()> &wanted)

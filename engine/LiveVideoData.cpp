@@ -237,7 +237,7 @@ LiveVideoData::~LiveVideoData()
     d->thread = nullptr;
 }
 
-void LiveVideoData::BeginList()
+void LiveVideoData::beginList()
 {
     MicrophoneFinder::begin();
     DeviceProviders::begin();

@@ -82,7 +82,7 @@ public:
     /// Begins what the first GetVideoDeviceList() of the process has to wait for, and returns at
     /// once: a program that has a window to build meanwhile starts sooner. Only once the
     /// application object is there.
-    static void BeginList();
+    static void beginList();
 
     /// Opening a camera is given up as soon as @p wanted, asked about five times a second, says
     /// that the program is to end. For all engines of the process; null for never, as at first.

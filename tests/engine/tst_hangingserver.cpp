@@ -54,7 +54,7 @@ void TestHangingServer::theListComesInTimeAndTheCamerasLater()
     LiveVideoData engine;
     QCOMPARE(::kill(pid_t(m_server), SIGSTOP), 0);
     qputenv("ORVANTA_DEMO_CAMERA", "1");
-    const qint64 beginning = timeOf([] { LiveVideoData::BeginList(); });
+    const qint64 beginning = timeOf([] { LiveVideoData::beginList(); });
     for (int i = 0; i < 2; ++i) {
         QStringList names;
         const qint64 listing = timeOf([&] { names = engine.GetVideoDeviceList(); });

@@ -96,7 +96,7 @@ LiveVideoData::~LiveVideoData()
         livingEngine = nullptr;
 }
 
-void LiveVideoData::BeginList() { }
+void LiveVideoData::beginList() { }
 
 void LiveVideoData::SetInterruption(const std::function<bool()> &) { }
 
