@@ -70,14 +70,14 @@ void TestMovieSurvival::playAndSeek(const QString &path, double from, double to)
     Phonon::VideoPlayer player(Phonon::VideoCategory);
     player.resize(320, 180);
     player.show();
+    // A short one is at its end before a busy machine looks at it.
+    const QSignalSpy ends(&player, &Phonon::VideoPlayer::finished);
     player.play(Phonon::MediaSource(QUrl::fromLocalFile(path)));
-    QTRY_VERIFY(player.isPlaying() && player.totalTime() > 0);
+    QTRY_VERIFY((player.isPlaying() || ends.count() > 0) && player.totalTime() > 0);
     const double length = double(player.totalTime()) / 1000;
     QVERIFY2(length >= from && length <= to, qPrintable(QString::number(length)));
     QVERIFY(player.mediaObject()->isSeekable());
     const qint64 middle = player.totalTime() / 2;
-    const QSignalSpy ends(&player,
-                          &Phonon::VideoPlayer::finished); // a short one is soon at its end
     player.seek(middle);
     QTRY_VERIFY((player.currentTime() >= middle - 1000 && player.currentTime() > 0)
                 || ends.count() > 0);

@@ -167,17 +167,22 @@ bool Session::isRecording()
 
 bool Session::beginMovie()
 {
-    static constexpr int mostTries = 4;
+    static constexpr int mostTries = 8;
     for (int i = 0; i < mostTries; ++i) {
         const SpareTime spare;
-        if (!pressWhenReady(WindowMap::LiveScreen, QStringLiteral("Movie")))
-            return false;
+        const bool isPressed = pressWhenReady(WindowMap::LiveScreen, QStringLiteral("Movie"));
         const bool answers =
-            waitFor([this] { return isRecording() || dialog().isActive; }, startLimit);
+            isPressed && waitFor([this] { return isRecording() || dialog().isActive; }, startLimit);
         if (isRecording())
             return true;
-        if (!answers || spare.isPlenty() || !confirmMessage())
+        if (!answers || spare.isPlenty() || !confirmMessage()) {
+            qWarning(
+                "no movie at try %d: \"Movie\" was %spressed, there was %sanswer; idle for %.0f "
+                "%%, longest wait %d ms",
+                i + 1, isPressed ? "" : "not ", answers ? "an " : "no ", 100 * spare.idleShare(),
+                spare.longestWait());
             return false;
+        }
     }
     return false;
 }
