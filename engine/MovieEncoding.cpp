@@ -47,7 +47,9 @@ QVector<Encoder> videoEncoders(const QSize &size, double rate)
 
 QVector<Encoder> soundEncoders()
 {
-    return {{"avenc_aac bitrate=128000", "avenc_aac", true},
+    // Left to code middle and side it gives what only one channel has to both, of the right one
+    // with the sign changed, and a single loudspeaker plays nothing of it.
+    return {{"avenc_aac bitrate=128000 aac-ms=false", "avenc_aac", true},
             {"fdkaacenc bitrate=128000", "fdkaacenc", true},
             {"voaacenc bitrate=128000", "voaacenc", true}};
 }

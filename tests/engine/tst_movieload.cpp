@@ -69,7 +69,7 @@ static MovieEncoding encodingBehind(const QByteArray &hindrance)
     return {hindrance
                 + "x264enc tune=zerolatency speed-preset=ultrafast bframes=0 key-int-max=30"
                   " bitrate=1000 ! h264parse",
-            "avenc_aac bitrate=128000"};
+            "avenc_aac bitrate=128000 aac-ms=false"};
 }
 
 // Lets so many percent of the camera's frames through.
