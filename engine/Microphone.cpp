@@ -25,7 +25,11 @@ static const milliseconds closeLimit(1000);
 // rather falls silent.
 static const char serverSource[] =
     "pulsesrc slave-method=none stream-properties=\"props,node.dont-reconnect=(string)true\"";
-static const char cardSource[] = "alsasrc";
+// Nor are the driver's times asked for, which take what had once to wait on a busy machine for what
+// waits now: they go back and forth, and parts of the sound with them. A card keeps two seconds,
+// where it can, for a program that gets no time (the source's own wish is a tenth of that).
+static const char cardSource[] =
+    "alsasrc slave-method=none use-driver-timestamps=false buffer-time=2000000"; // us
 static const char demonstrationSource[] = "appsrc";
 
 static QByteArray elementFor(SoundSource::Kind kind)
