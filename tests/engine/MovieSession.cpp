@@ -8,10 +8,11 @@
 #include <QElapsedTimer>
 #include <QFile>
 
-void MovieSession::setUpCamera()
+void MovieSession::setUpCamera(const QString &size)
 {
+    m_size = size;
     QVERIFY2(!qEnvironmentVariableIsEmpty("ORVANTA_LAB"), "this test must be run by tests/lab/lab");
-    QVERIFY(labctl({"plug", "beeper", "1280x720", "--beep", "micfeed"}));
+    QVERIFY(labctl({"plug", "beeper", m_size, "--beep", "micfeed"}));
     // A source behind the sound server's back, which nobody must ask.
     QFile soundSystem(m_folder.filePath("asound.conf"));
     QVERIFY(soundSystem.open(QIODevice::WriteOnly)
@@ -40,7 +41,7 @@ void MovieSession::plugMicrophoneIn()
     m_engine.reset();
     QVERIFY(labctl({"microphone", "on"}));
     QVERIFY(labctl({"unplug", "beeper"}));
-    QVERIFY(labctl({"plug", "beeper", "1280x720", "--beep", "micfeed"}));
+    QVERIFY(labctl({"plug", "beeper", m_size, "--beep", "micfeed"}));
 }
 
 void MovieSession::begin()

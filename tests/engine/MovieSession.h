@@ -20,8 +20,8 @@ protected:
     ~MovieSession() = default;
     Q_DISABLE_COPY(MovieSession)
 
-    /// Plugs the camera in, for all tests of a program.
-    void setUpCamera();
+    /// Plugs a camera of @p size in, for all tests of a program.
+    void setUpCamera(const QString &size = QStringLiteral("1280x720"));
     /// A new engine with its camera open.
     void open();
     /// Both are unplugged and plugged in again: without its microphone the camera's beep has lost
@@ -46,6 +46,7 @@ protected:
     QString m_path; ///< of the newest movie
 
 private:
+    QString m_size; ///< of the camera's picture, as "WIDTHxHEIGHT"
     std::unique_ptr<SpareTime> m_time;
     int m_movies = 0;
 };
