@@ -17,6 +17,9 @@ using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
 static const milliseconds firstFrameLimit(1000); // that a movie waits for at its end
+// That a movie waits at its end for sound that is on its way, and that a microphone may have been
+// silent for until then without counting as gone.
+static const milliseconds soundLimit(1000);
 // How long a file that is being completed may not grow while it is awaited.
 static const milliseconds stallLimit(2000);
 static const qint64 second = GST_SECOND;
@@ -89,6 +92,7 @@ bool MovieRecorder::build(const GstVideoInfo &format, const MovieEncoding &encod
     }
     close(made);
     m_open = gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE;
+    m_listens = m_open;
     dumpPipeline(m_pipeline.get(), m_open ? "playing" : "error");
     if (!m_open) {
         gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
@@ -112,8 +116,10 @@ void MovieRecorder::addFrame(GstBuffer *frame, GstClockTime captured)
     const qint64 slot = m_pacer.slotOf(qint64(captured));
     ++m_arrived;
     m_leftOut += slot < 0;
-    if (isFirst)
+    if (isFirst) {
+        layIn(std::exchange(m_early, {}));
         m_begun.notify_all();
+    }
     if (slot < 0)
         return;
     m_newest.reset(gst_buffer_ref(frame));
@@ -143,17 +149,28 @@ GstMiniHandle<GstBuffer> MovieRecorder::inSlots(GstBuffer *frame, qint64 slot, q
 void MovieRecorder::addSound(const char *samples, qint64 count, GstClockTime captured)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_open || m_progress->hasFailed())
+    if (!m_listens || m_progress->hasFailed())
         return;
+    m_soundArrived = systemTime();
     m_soundClock.add(QByteArray(samples, int(count * SoundTrack::bytesPerSampleFrame)),
-                     qint64(captured), count * second / SoundTrack::rate, systemTime());
-    layIn(m_soundClock.take());
+                     qint64(captured), count * second / SoundTrack::rate, m_soundArrived);
+    if (m_pacer.begin() >= 0)
+        layIn(m_soundClock.take());
+    else
+        keepEarly(m_soundClock.take());
+    m_heard.notify_all();
+}
+
+// A busy machine may bring the first frame later than sound that was heard after it was taken.
+void MovieRecorder::keepEarly(const QVector<SoundClock::Piece> &sound)
+{
+    m_early += sound;
+    while (!m_early.isEmpty() && m_early.first().heard < m_early.last().heard - soundAhead)
+        m_early.removeFirst();
 }
 
 void MovieRecorder::layIn(const QVector<SoundClock::Piece> &sound)
 {
-    if (m_pacer.begin() < 0)
-        return;
     for (const SoundClock::Piece &piece : sound) {
         const qint64 time = piece.heard - m_pacer.begin();
         // A microphone without a camera is not listened to for long: the picture has stopped.
@@ -203,6 +220,26 @@ void MovieRecorder::endPicture(qint64 end)
     m_feed->end(slot, inSlots(m_newest.get(), slot, end));
 }
 
+// What was heard before @p end is in the movie, also when a busy machine has not brought it yet.
+void MovieRecorder::awaitSound(std::unique_lock<std::mutex> &lock, qint64 end,
+                               steady_clock::time_point deadline)
+{
+    const qint64 silence = systemTime() - m_soundArrived;
+    if (m_soundArrived < 0 || silence > std::chrono::nanoseconds(soundLimit).count())
+        return;
+    const auto isOver = [&] { return m_soundClock.isHeardUntil(end) || m_progress->hasFailed(); };
+    waitPatiently(
+        qMin(deadline, steady_clock::now() + soundLimit),
+        [&](steady_clock::time_point until) { return m_heard.wait_until(lock, until, isOver); });
+}
+
+void MovieRecorder::endSound(qint64 end)
+{
+    layIn(m_soundClock.takeAll());
+    m_track.coverUntil(SoundTrack::positionAt(end));
+    pushSound(SoundTrack::positionAt(end));
+}
+
 bool MovieRecorder::finish(milliseconds limit)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
@@ -217,14 +254,14 @@ bool MovieRecorder::finish(milliseconds limit)
     if (m_pacer.begin() >= 0) {
         const qint64 end = endOfMovie();
         endPicture(end);
-        layIn(m_soundClock.takeAll());
-        m_track.coverUntil(SoundTrack::positionAt(m_pacer.timeOf(end)));
-        pushSound(SoundTrack::positionAt(m_pacer.timeOf(end)));
+        awaitSound(lock, m_pacer.begin() + m_pacer.timeOf(end), deadline);
+        endSound(m_pacer.timeOf(end));
         qCInfo(engineLog) << m_arrived << "frames came for" << end << "slots," << m_leftOut
                           << "were left out by their times";
     } else {
         m_feed->end(-1, nullptr);
     }
+    m_listens = false;
     m_newest.reset();
     lock.unlock();
     gst_app_src_end_of_stream(GST_APP_SRC(m_sound.get()));

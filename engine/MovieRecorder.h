@@ -61,10 +61,11 @@ public:
     /// @p captured is when the first was, by the microphone's own count (ns).
     void addSound(const char *samples, qint64 count, GstClockTime captured);
 
-    /// Completes the file. Waits for that up to @p limit, and no longer when nothing goes on; the
-    /// file is then completed on the side, see MovieCompletion, and can be played up to its last
-    /// moment meanwhile. A movie without a single frame waits a moment for one; the file of one
-    /// that stays empty is removed. True when the file is complete. Further calls do nothing.
+    /// Completes the file, whose last moment is now: sound of it that is still on its way is
+    /// awaited for a moment. Waits for all that up to @p limit, and no longer when nothing goes on;
+    /// the file is then completed on the side, see MovieCompletion, and can be played up to its
+    /// last moment meanwhile. A movie without a single frame waits a moment for one; the file of
+    /// one that stays empty is removed. True when the file is complete. Further calls do nothing.
     bool finish(std::chrono::milliseconds limit);
 
     /// It was the encoder that made the movie fail, not the file.
@@ -74,8 +75,12 @@ private:
     MovieRecorder(QString path, const GstVideoInfo &format, std::function<void()> failed);
     bool build(const GstVideoInfo &format, const MovieEncoding &encoding);
     GstMiniHandle<GstBuffer> inSlots(GstBuffer *frame, qint64 slot, qint64 end) const;
+    void keepEarly(const QVector<SoundClock::Piece> &sound);
     void layIn(const QVector<SoundClock::Piece> &sound);
     void pushSound(qint64 position);
+    void awaitSound(std::unique_lock<std::mutex> &lock, qint64 end,
+                    std::chrono::steady_clock::time_point deadline);
+    void endSound(qint64 end);
     qint64 endOfMovie() const;
     void endPicture(qint64 end);
     BoundedTask<void> completing();
@@ -94,7 +99,9 @@ private:
 
     std::mutex m_mutex; ///< guards everything below
     std::condition_variable m_begun; ///< the first frame came
-    bool m_open = false; ///< frames and sound are taken
+    std::condition_variable m_heard; ///< a piece of sound came
+    bool m_open = false; ///< frames are taken
+    bool m_listens = false; ///< sound is taken
     FramePacer m_pacer;
     GstMiniHandle<GstBuffer> m_newest; ///< the newest frame that has a slot
     qint64 m_newestSlot = -1;
@@ -102,6 +109,8 @@ private:
     int m_arrived = 0; ///< frames
     int m_leftOut = 0; ///< of them, by the pacer
     SoundClock m_soundClock;
+    qint64 m_soundArrived = -1; ///< ns, when the newest piece of sound came
+    QVector<SoundClock::Piece> m_early; ///< sound that came before the first frame
     SoundTrack m_track;
 };
 

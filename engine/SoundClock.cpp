@@ -13,6 +13,12 @@ static const qint64 inaudible = 15 * millisecond;
 void SoundClock::add(const QByteArray &samples, qint64 counted, qint64 length, qint64 arrived)
 {
     m_waiting.push_back({samples, counted, arrived, arrived - counted - length});
+    m_countedUntil = counted + length;
+}
+
+bool SoundClock::isHeardUntil(qint64 time) const
+{
+    return m_begun && m_waiting.empty() && m_countedUntil + m_offset >= time;
 }
 
 qint64 SoundClock::leastDelay() const

@@ -37,6 +37,9 @@ public:
     /// All that wait, placed by what is known: nothing more will come.
     QVector<Piece> takeAll();
 
+    /// All sound up to @p time has arrived, unless it was lost, and was taken.
+    bool isHeardUntil(qint64 time) const;
+
 private:
     struct Arrival {
         QByteArray samples;
@@ -52,6 +55,7 @@ private:
     std::deque<Arrival> m_waiting;
     bool m_begun = false;
     qint64 m_offset = 0; ///< of the system's clock before the microphone's, once begun
+    qint64 m_countedUntil = 0; ///< by the microphone's count, end of the newest piece
 };
 
 #endif

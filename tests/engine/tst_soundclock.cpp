@@ -29,6 +29,9 @@ public:
 
     void end() { m_placed += m_clock.takeAll(); }
 
+    /// All that was heard until @p before ns ago is placed.
+    bool isHeard(qint64 before = 0) const { return m_clock.isHeardUntil(m_now - before); }
+
     int pieces() const { return m_begins.size(); }
     int placed() const { return m_placed.size(); }
     /// How far piece @p i was placed from when it was heard.
@@ -59,6 +62,7 @@ private Q_SLOTS:
     void lostSamplesLeaveAGapWhereTheyAreMissing();
     void lossesOneAfterTheOtherAreAllFollowed();
     void nothingIsLeftAtTheEnd();
+    void itIsKnownUntilWhenAllSoundHasCome();
 };
 
 void TestSoundClock::soundIsPlacedByWhenItArrives()
@@ -191,6 +195,26 @@ void TestSoundClock::nothingIsLeftAtTheEnd()
     QCOMPARE(recording.error(2), qint64(0));
     recording.end();
     QCOMPARE(recording.placed(), 3);
+}
+
+void TestSoundClock::itIsKnownUntilWhenAllSoundHasCome()
+{
+    Recording recording;
+    QVERIFY(!recording.isHeard(1000 * millisecond));
+    for (int i = 0; i < 100; ++i)
+        recording.hear();
+    QVERIFY(recording.isHeard());
+    QVERIFY(!recording.isHeard(-length));
+    recording.hear(300 * millisecond);
+    QVERIFY2(!recording.isHeard(), "it may have been lost samples");
+    recording.hear();
+    QVERIFY(recording.isHeard());
+    recording.lose(400 * millisecond);
+    recording.hear();
+    QVERIFY2(!recording.isHeard(), "it may have been late");
+    for (int i = 0; i < 110; ++i)
+        recording.hear();
+    QVERIFY(recording.isHeard());
 }
 
 QTEST_GUILESS_MAIN(TestSoundClock)
