@@ -39,7 +39,7 @@ def recording_pipeline(form, shown, path):
             "key-int-max=30 bitrate=6842 ! h264parse ! queue ! qtmux name=muxer ! "
             f"filesink location={path} "
             "pulsesrc provide-clock=false ! audioconvert ! audio/x-raw,rate=48000,channels=2 ! "
-            "avenc_aac bitrate=128000 ! queue ! muxer.")
+            "avenc_aac bitrate=128000 aac-ms=false ! queue ! muxer.")
 
 
 def movies_in(folder):
