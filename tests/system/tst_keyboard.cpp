@@ -103,7 +103,7 @@ void TestKeyboard::aMovieIsRecordedPlayedAndPausedWithEnterAlone()
     QVERIFY(goTo(&user, "Right", WindowMap::LiveScreen, "Movie"));
     user.desktop().pressKey("Return");
     QTRY_VERIFY(isMarked(&user, "MovieStop", WindowMap::RecordingScreen));
-    QTRY_VERIFY(user.program().captured().size() > 0);
+    QTRY_VERIFY(!user.program().captured().isEmpty());
     QTest::qWait(2000); // nothing to wait for: the movie's length
     user.desktop().pressKey("Return");
     QTRY_VERIFY(shows(&user, WindowMap::MovieScreen, "MoviePlay"));
