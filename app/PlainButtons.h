@@ -6,7 +6,7 @@
 /**
  * The desktop's style for all boxes, the toolkit's own included, but:
  * - without icons on their buttons. The captions say it all, and where texts are read from the
- * right the toolkit pushes a caption that stands beside an icon to the button's rim.
+ *   right the toolkit pushes a caption that stands beside an icon to the button's rim.
  * - with everything that a finger is to hit at least leastTarget px high and wide. A check box or
  *   radio button is hit wherever it stands, not on its text alone.
  */

@@ -150,16 +150,13 @@ QVector<QRect> DialogGeometry::viewPlaces(const QRect &video) const
     const QRect half = halfScreenRect(video);
     const QRect strip = stripRect();
     const QRect seriesLive = seriesLiveRect(video.size(), strip.height());
-    QVector<QRect> places = {video,
-                             half,
-                             besideHalfScreen(half),
-                             strip,
-                             selectionRect(video, strip.height()),
-                             seriesLive,
-                             seriesPhotoRect(seriesLive)};
-    for (int count = 1; count <= mostTiles; ++count)
-        places += tileRects(video, count);
-    return places;
+    return {video,
+            half,
+            besideHalfScreen(half),
+            strip,
+            selectionRect(video, strip.height()),
+            seriesLive,
+            seriesPhotoRect(seriesLive)};
 }
 
 QVector<QRect> DialogGeometry::buttonPlaces() const

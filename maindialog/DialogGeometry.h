@@ -60,8 +60,9 @@ public:
     /// columns from five on. Empty for no picture.
     static QVector<QRect> tileRects(const QRect &video, int count);
 
-    /// Every place that a view can have with this @p video, and every one of a button in a row or
-    /// above it, in an order that is always the same: so places of two screens find each other.
+    /// Every place that a view but a tile can have with this @p video, and every one of a button in
+    /// a row or above it, in an order that is always the same: so places of two screens find each
+    /// other.
     QVector<QRect> viewPlaces(const QRect &video) const;
     QVector<QRect> buttonPlaces() const;
 

@@ -65,11 +65,9 @@ void CVistrelDlg::moveChildren(const DialogGeometry &before, const QRect &videoB
         buttonsBefore[which] = m_buttons[which]->geometry();
         m_buttons[which]->setIconFromObjectNameBitmap();
     }
-    QVector<QWidget *> views = {m_liveView, m_movieView, m_pictureView, m_pictureList};
-    for (PictureWidget *tile : qAsConst(m_tiles))
-        views.append(tile);
+    const QVector<QWidget *> views = {m_liveView, m_movieView, m_pictureView, m_pictureList};
     QVector<QRect> viewsBefore;
-    for (const QWidget *view : qAsConst(views))
+    for (const QWidget *view : views)
         viewsBefore.append(view->geometry());
 
     measureButtons();
@@ -81,4 +79,9 @@ void CVistrelDlg::moveChildren(const DialogGeometry &before, const QRect &videoB
     for (int i = 0; i < views.size(); ++i)
         moveAlong(views.at(i), viewsBefore.at(i), before.viewPlaces(videoBefore),
                   m_geometry.viewPlaces(m_videoRect));
+    const QVector<QRect> tilesBefore = DialogGeometry::tileRects(videoBefore, m_tiles.size());
+    const QVector<QRect> tilesNow = DialogGeometry::tileRects(m_videoRect, m_tiles.size());
+    for (int i = 0; i < m_tiles.size(); ++i) // one of them may be enlarged
+        moveAlong(m_tiles.at(i), m_tiles.at(i)->geometry(), {tilesBefore.at(i), videoBefore},
+                  {tilesNow.at(i), m_videoRect});
 }

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void aPhotoThatWaitsIsStillThereAndAccepted();
     void aRecordingGoesOn();
     void chosenThumbnailsStayChosen();
+    void tilesAndAnEnlargedOneFindTheirPlaces();
     void theWindowMovesOverWhenItsScreenIsPulledOut();
 
 private:
@@ -93,6 +94,30 @@ void TestChangingScreen::chosenThumbnailsStayChosen()
     QVERIFY(m_user->waitForMainWindowAt(m_small));
     QTRY_VERIFY(m_user->isStillAt(m_user->map().selectionRect()));
     QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Show"));
+    QTRY_VERIFY(m_user->isStillAt(m_user->map().videoRect()));
+}
+
+void TestChangingScreen::tilesAndAnEnlargedOneFindTheirPlaces()
+{
+    QVERIFY(m_user->takePhotoForPreview());
+    QVERIFY(m_user->pressWhenReady(WindowMap::PreviewScreen, "Apply"));
+    QVERIFY(m_user->pressWhenReady(WindowMap::PhotoScreen, "Live"));
+    QVERIFY(m_user->takePhotoForPreview());
+    QVERIFY(m_user->pressWhenReady(WindowMap::PreviewScreen, "Apply"));
+    QVERIFY(m_user->pressWhenReady(WindowMap::PhotoScreen, "List"));
+    QVERIFY(m_user->waitForPressable(WindowMap::ListScreen, {"Live", "SwitchMovie", "Close"}));
+    for (int i = 0; i < 2; ++i)
+        m_user->desktop().click(m_user->map().thumbnail(i).center());
+    QVERIFY(m_user->pressWhenReady(WindowMap::ListScreen, "Show"));
+    QTRY_VERIFY(m_user->isStillAt(m_user->map().tile(2, 1)));
+    QVERIFY(setMode("800x600"));
+    QVERIFY(m_user->waitForMainWindowAt(m_small));
+    for (int i = 0; i < 2; ++i)
+        QTRY_VERIFY(m_user->isStillAt(m_user->map().tile(2, i)));
+    m_user->desktop().click(m_user->map().cornerButton(m_user->map().tile(2, 0)));
+    QTRY_VERIFY(m_user->isStillAt(m_user->map().videoRect()));
+    QVERIFY(setMode("1024x768"));
+    QVERIFY(m_user->waitForMainWindowAt(m_large));
     QTRY_VERIFY(m_user->isStillAt(m_user->map().videoRect()));
 }
 

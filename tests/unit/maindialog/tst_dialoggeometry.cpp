@@ -23,6 +23,7 @@ private Q_SLOTS:
     void theHalfScreenRectIsCentredAboveTwoButtonRows_data();
     void theHalfScreenRectIsCentredAboveTwoButtonRows();
     void theStillStandsDirectlyBesideTheLivePicture();
+    void everyPlaceOfAScreenHasItsLikeOnAnother();
     void rowsAreCentredLeftOfTheSmallButtons_data();
     void rowsAreCentredLeftOfTheSmallButtons();
     void fiveButtonsAndTheSmallColumnFitSideBySide_data();
@@ -265,6 +266,38 @@ void DialogGeometryTest::tilesFollowTheirNumber()
     QFETCH(int, count);
     QFETCH(QVector<QRect>, expected);
     QCOMPARE(DialogGeometry::tileRects(video, count), expected);
+}
+
+// Whatever stands there when the screen changes moves to its like.
+void DialogGeometryTest::everyPlaceOfAScreenHasItsLikeOnAnother()
+{
+    const DialogGeometry small(QSize(800, 600), QSize(133, 69), 133);
+    const DialogGeometry large(QSize(1920, 1080), QSize(320, 166), 320);
+    const QRect smallVideo = small.videoRect(QSize(1920, 1080));
+    const QRect largeVideo = large.videoRect(QSize(1920, 1080));
+    const auto movesAlong = [](const QVector<QRect> &from, const QVector<QRect> &to,
+                               const QRect &place, const QRect &like) {
+        return from.size() == to.size() && to.value(from.indexOf(place)) == like;
+    };
+    const auto viewMoves = [&](const QRect &place, const QRect &like) {
+        return movesAlong(small.viewPlaces(smallVideo), large.viewPlaces(largeVideo), place, like);
+    };
+    const auto buttonMoves = [&](double place, double like) {
+        return movesAlong(small.buttonPlaces(), large.buttonPlaces(), small.cellAt(place),
+                          large.cellAt(like));
+    };
+    QVERIFY(viewMoves(smallVideo, largeVideo));
+    const QRect smallSeries = small.seriesLiveRect(smallVideo.size(), small.stripRect().height());
+    const QRect largeSeries = large.seriesLiveRect(largeVideo.size(), large.stripRect().height());
+    QVERIFY(viewMoves(smallSeries, largeSeries));
+    QVERIFY(viewMoves(small.seriesPhotoRect(smallSeries), large.seriesPhotoRect(largeSeries)));
+    QVERIFY(viewMoves(small.stripRect(), large.stripRect()));
+    for (int i = 0; i < 5; ++i)
+        QVERIFY(buttonMoves(small.rowStart(5) + i * 133, large.rowStart(5) + i * 320));
+    for (int i = 0; i < 3; ++i) {
+        QVERIFY(buttonMoves(small.rowStart(3) + i * 133, large.rowStart(3) + i * 320));
+        QVERIFY(buttonMoves(small.movieRowStart() + i * 133, large.movieRowStart() + i * 320));
+    }
 }
 
 QTEST_APPLESS_MAIN(DialogGeometryTest)
