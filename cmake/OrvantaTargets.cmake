@@ -18,6 +18,20 @@ if(ORVANTA_SANITIZE)
     if(ORVANTA_SANITIZE MATCHES undefined)
         target_compile_options(orvanta_options INTERFACE -fno-sanitize-recover=undefined)
     endif()
+else()
+    # What comes in is pictures and messages of strangers. CET is for processors that have it, where
+    # the system's own start files have it, too.
+    target_compile_options(orvanta_options INTERFACE
+        -fstack-protector-strong -fstack-clash-protection
+        $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>:-fcf-protection>
+        # Some compilers bring a definition of their own.
+        -U_FORTIFY_SOURCE $<$<NOT:$<CONFIG:>>:-D_FORTIFY_SOURCE=2>)
+    target_link_options(orvanta_options INTERFACE
+        -Wl,-z,relro -Wl,-z,now
+        $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)
+endif()
+if(ORVANTA_FUZZ)
+    target_compile_options(orvanta_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 include(cmake/OrvantaPrecompiled.cmake)
