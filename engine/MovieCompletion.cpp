@@ -1,5 +1,6 @@
 #include "MovieCompletion.h"
 
+#include <algorithm>
 #include <mutex>
 #include <utility>
 #include <vector>
@@ -7,25 +8,33 @@
 static std::mutex mutex; // guards tasks
 static std::vector<BoundedTask<void>> tasks; // not known to be done
 
+static bool isDone(const BoundedTask<void> &completing)
+{
+    return completing.waitUntil(std::chrono::steady_clock::now());
+}
+
 void MovieCompletion::goesOnWith(const BoundedTask<void> &completing)
 {
     const std::lock_guard<std::mutex> lock(mutex);
+    tasks.erase(std::remove_if(tasks.begin(), tasks.end(), isDone), tasks.end());
     tasks.push_back(completing);
 }
 
+static std::vector<BoundedTask<void>> takeAll()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    return std::exchange(tasks, {});
+}
+
+// The end of one may be the beginning of another: a movie is completed, then the disk takes it.
 bool MovieCompletion::waitForAll(std::chrono::steady_clock::time_point deadline)
 {
     std::vector<BoundedTask<void>> open;
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        open = std::exchange(tasks, {});
-    }
-    bool all = true;
-    for (const BoundedTask<void> &task : open) {
-        if (!task.waitUntil(deadline)) {
-            goesOnWith(task);
-            all = false;
-        }
-    }
-    return all;
+    for (auto next = takeAll(); !next.empty(); next = takeAll())
+        for (const BoundedTask<void> &task : next)
+            if (!task.waitUntil(deadline))
+                open.push_back(task);
+    for (const BoundedTask<void> &task : open)
+        goesOnWith(task);
+    return open.empty();
 }

@@ -5,7 +5,8 @@
 
 /**
  * Movies whose recording is over and whose files are still being completed, because the encoder or
- * the disk is slow: nobody waits for them any more, but the process should not end before them.
+ * the disk is slow, and captures that a slow disk has still to take: nobody waits for them any
+ * more, but the process should not end before them.
  *
  * Any thread.
  */

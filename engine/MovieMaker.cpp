@@ -102,7 +102,7 @@ MovieMaker::~MovieMaker()
 {
     stop();
     if (!MovieCompletion::waitForAll(steady_clock::now() + exitLimit))
-        qCWarning(engineLog, "a movie is not completed; it can be played but for its last moment");
+        qCWarning(engineLog, "a capture is not completed; of a movie the last moment may miss");
 }
 
 void MovieMaker::prepare(const QSize &size, double rate)

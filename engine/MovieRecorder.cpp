@@ -1,6 +1,7 @@
 #include "MovieRecorder.h"
 
 #include "BoundedTask.h"
+#include "DiskFlush.h"
 #include "EngineLog.h"
 #include "MovieCompletion.h"
 #include "MoviePipeline.h"
@@ -292,6 +293,7 @@ BoundedTask<void> MovieRecorder::completing()
 bool MovieRecorder::complete(steady_clock::time_point deadline)
 {
     const BoundedTask<void> task = completing();
+            DiskFlush::flushClosed(path, steady_clock::now() + DiskFlush::usualPatience);
     int before = -1;
     bool done = task.waitUntil(steady_clock::now());
     while (!done && steady_clock::now() < deadline && m_progress->steps() != before) {

@@ -21,7 +21,7 @@ static bool encode(const QImage &picture, const QByteArray &format, QIODevice &f
     return writer.write(picture);
 }
 
-bool writeStill(const QImage &picture, const QString &path)
+bool writeStill(const QImage &picture, const QString &path, std::chrono::milliseconds patience)
 {
     const QFileInfo info(path);
     const QByteArray format = info.suffix().toLower().toLatin1();
@@ -41,6 +41,9 @@ bool writeStill(const QImage &picture, const QString &path)
     // The mark of a file that is being written: one without it is swept away at the next start.
     (void)flock(descriptor, LOCK_EX | LOCK_NB);
     bool written = encode(picture, format, file) && file.flush();
+    // Before it has its name, or a power cut could leave half a photo that is listed.
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    written = written && DiskFlush::flushFile(descriptor, deadline);
     file.close();
     // Not QFile::rename(), which refuses to replace a file.
     written = written && file.error() == QFile::NoError
@@ -48,6 +51,9 @@ bool writeStill(const QImage &picture, const QString &path)
     if (!written) {
         qCInfo(engineLog) << "cannot write" << path;
         unlink(hiddenName.constData());
+        return false;
     }
-    return written;
+    // It is whole and can be read, whatever the disk says to its name.
+    (void)DiskFlush::flushName(path, deadline);
+    return true;
 }
