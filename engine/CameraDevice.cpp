@@ -40,6 +40,7 @@ static DeviceRecord recordOf(GstDevice *device)
         record.nodeName.isEmpty() ? DeviceRecord::Origin::V4l2 : DeviceRecord::Origin::PipeWire;
     record.role = property(properties, "media.role");
     record.devicePath = firstOf(properties, {"device.path", "api.v4l2.path"});
+    record.kernelPath = property(properties, "sysfs.path");
     record.libcameraPath = property(properties, "api.libcamera.path");
     record.busPath =
         firstOf(properties, {"device.bus_path", "device.bus-path", "v4l2.device.bus_info"});

@@ -9,6 +9,7 @@
 #include "MediaConnection.h"
 #include "OpenableNodes.h"
 
+#include <QFileInfo>
 #include <QSet>
 #include <QSocketNotifier>
 
@@ -239,12 +240,30 @@ static QVector<CameraHandle> camerasOf(const Source &source)
     return cameras;
 }
 
+// The provider of video nodes has a camera twice that came while it began to look, and forgets one
+// of them when that goes (seen on a busy computer): the other would be there for ever. The latest
+// that it has of a node is the last.
+static QVector<CameraHandle> presentNodes(const Source &videoNodes)
+{
+    const QVector<CameraHandle> told = camerasOf(videoNodes);
+    QVector<CameraHandle> present;
+    QSet<QString> seen;
+    for (auto camera = told.crbegin(); camera != told.crend(); ++camera) {
+        const QString path = (*camera)->record().kernelPath;
+        const bool isThere = QFileInfo::exists(path) && !seen.contains(path);
+        if (path.isEmpty() || isThere)
+            present.append(*camera);
+        seen.insert(path);
+    }
+    return present;
+}
+
 // The provider of video nodes looks at each when that comes, and never again.
 static bool hasOverlooked(const Source &videoNodes, const QStringList &nodes)
 {
     if (nodes.isEmpty())
         return false;
-    const QVector<CameraHandle> cameras = camerasOf(videoNodes);
+    const QVector<CameraHandle> cameras = presentNodes(videoNodes);
     return std::any_of(nodes.begin(), nodes.end(), [&cameras](const QString &node) {
         return std::none_of(cameras.begin(), cameras.end(), [&node](const CameraHandle &camera) {
             return camera->record().devicePath == node;
@@ -307,7 +326,8 @@ DeviceProviders::Answer DeviceProviders::mediaServer()
 
 QVector<CameraHandle> DeviceProviders::cameras()
 {
-    QVector<CameraHandle> all = camerasOf(sources().videoNodes) + camerasOf(sources().mediaServer);
+    QVector<CameraHandle> all =
+        presentNodes(sources().videoNodes) + camerasOf(sources().mediaServer);
     if (DemoCamera::isWanted())
         all.append(std::make_shared<DemoCamera>());
     return all;

@@ -14,6 +14,7 @@ struct DeviceRecord {
     QString name; ///< what the camera calls itself; may be empty, doubled or cut off
     QString deviceClass; ///< "Video/Source" for a camera
     QString devicePath; ///< "/dev/video0"; a media server's node names the one it stands for
+    QString kernelPath; ///< of a video node: its folder below /sys, as long as the node is there
     QString busPath; ///< the socket it is plugged into, "pci-0000:00:14.0-usb-0:6:1.0"
     QString serial;
     QString nodeName; ///< the media server's name for it

@@ -1,5 +1,6 @@
 #include "MoviePipeline.h"
 
+#include "IndexPace.h"
 #include "MovieEncoding.h"
 #include "PipelineTools.h"
 #include "SoundTrack.h"
@@ -12,7 +13,6 @@ static const int encodedMemory = 64000000; // bytes
 // The muxer keeps room for its index at the beginning of the file, and writes it there anew again
 // and again. Running out of that room ends the movie.
 static const guint64 longestMovie = 660 * GST_SECOND; // ns; a minute more than the program allows
-static const guint64 indexPeriod = GST_SECOND / 2; // ns; what a crash costs at most
 static const int indexPerFrame = 20; // bytes, well above what a frame's entries take
 static const int leastIndex = 550; // bytes a second, the muxer's own default
 
@@ -46,7 +46,7 @@ static QByteArray description(const GstVideoInfo &format, const MovieEncoding &e
         + " ! audioconvert ! " + encoding.sound
         + " ! queue max-size-buffers=0 max-size-bytes=0 max-size-time=0 ! muxer."
           " qtmux name=muxer reserved-max-duration="
-        + number(longestMovie) + " reserved-moov-update-period=" + number(indexPeriod)
+        + number(longestMovie) + " reserved-moov-update-period=" + number(IndexPace::usualPeriod)
         + " reserved-bytes-per-sec="
         + number(guint64(qMax(leastIndex, perSecond * indexPerFrame)))
         // Written at once: what waits in the program is lost when it is killed.
@@ -61,6 +61,8 @@ GstObjectHandle<GstElement> makeMoviePipeline(const GstVideoInfo &format,
         return nullptr;
     const GstObjectHandle<GstElement> file(gst_bin_get_by_name(GST_BIN(pipeline.get()), "file"));
     g_object_set(file.get(), "location", QFile::encodeName(path).constData(), nullptr);
+    const GstObjectHandle<GstElement> muxer(gst_bin_get_by_name(GST_BIN(pipeline.get()), "muxer"));
+    IndexPace::keep(muxer.get(), file.get());
     const GstObjectHandle<GstElement> frames(
         gst_bin_get_by_name(GST_BIN(pipeline.get()), "frames"));
     const GstMiniHandle<GstCaps> caps(gst_video_info_to_caps(&format));

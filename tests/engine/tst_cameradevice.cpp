@@ -1,3 +1,4 @@
+#include "BareDevice.h"
 #include "CameraDevice.h"
 #include "MediaConnection.h"
 
@@ -5,46 +6,6 @@
 #include <QLocalServer>
 #include <QTemporaryDir>
 #include <QTest>
-
-// A device as a provider makes it, but with nothing behind it.
-namespace {
-struct NoDevice {
-    GstDevice parent;
-};
-struct NoDeviceClass {
-    GstDeviceClass parent;
-};
-} // namespace
-
-static GstElement *makeElement(GstDevice *, const gchar *name)
-{
-    return gst_element_factory_make("filesrc", name);
-}
-
-static void makeClass(gpointer type, gpointer)
-{
-    GST_DEVICE_CLASS(type)->create_element = makeElement;
-}
-
-static GType noDeviceType()
-{
-    static const GType type =
-        g_type_register_static_simple(GST_TYPE_DEVICE, "NoDevice", sizeof(NoDeviceClass), makeClass,
-                                      sizeof(NoDevice), nullptr, GTypeFlags(0));
-    return type;
-}
-
-static GstDeviceHandle makeDevice(const QByteArray &properties)
-{
-    const GstMiniHandle<GstCaps> caps(
-        gst_caps_from_string("video/x-raw, format=YUY2, width=640, height=480, framerate=30/1"));
-    const GstStructureHandle structure(
-        gst_structure_from_string(("device, " + properties).constData(), nullptr));
-    auto *device = static_cast<GstDevice *>(
-        g_object_new(noDeviceType(), "display-name", "Camera", "device-class", "Video/Source",
-                     "caps", caps.get(), "properties", structure.get(), nullptr));
-    return {static_cast<GstDevice *>(gst_object_ref_sink(device)), GstObjectUnref()};
-}
 
 class TestCameraDevice : public QObject {
     Q_OBJECT
@@ -81,8 +42,8 @@ void TestCameraDevice::anotherObjectForTheSameDeviceIsTheSame()
 {
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, after);
-    const CameraDevice camera(makeDevice(before), nullptr);
-    QVERIFY(camera.isSameAs(CameraDevice(makeDevice(after), nullptr)));
+    const CameraDevice camera(makeBareDevice(before), nullptr);
+    QVERIFY(camera.isSameAs(CameraDevice(makeBareDevice(after), nullptr)));
 }
 
 void TestCameraDevice::anotherDeviceIsNot_data()
@@ -105,8 +66,8 @@ void TestCameraDevice::anotherDeviceIsNot()
 {
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, after);
-    const CameraDevice camera(makeDevice(before), nullptr);
-    QVERIFY(!camera.isSameAs(CameraDevice(makeDevice(after), nullptr)));
+    const CameraDevice camera(makeBareDevice(before), nullptr);
+    QVERIFY(!camera.isSameAs(CameraDevice(makeBareDevice(after), nullptr)));
 }
 
 void TestCameraDevice::theSameNumberAtAnotherRunOfTheServerIsNot()
@@ -116,17 +77,17 @@ void TestCameraDevice::theSameNumberAtAnotherRunOfTheServerIsNot()
     qputenv("PIPEWIRE_REMOTE", QFile::encodeName(folder.filePath("server")));
     QLocalServer server;
     QVERIFY(server.listen(folder.filePath("server")));
-    const CameraDevice camera(makeDevice(node), MediaConnection::open());
+    const CameraDevice camera(makeBareDevice(node), MediaConnection::open());
     QVERIFY(camera.isSameAs(camera));
-    QVERIFY(!camera.isSameAs(CameraDevice(makeDevice(node), MediaConnection::open())));
-    QVERIFY(!camera.isSameAs(CameraDevice(makeDevice(node), nullptr)));
+    QVERIFY(!camera.isSameAs(CameraDevice(makeBareDevice(node), MediaConnection::open())));
+    QVERIFY(!camera.isSameAs(CameraDevice(makeBareDevice(node), nullptr)));
 }
 
 void TestCameraDevice::itsFormatsAndWhatItSaysOfItselfAreRead()
 {
     const CameraDevice camera(
-        makeDevice("device.path=(string)/dev/video0, device.serial=(string)S1, "
-                   "device.vendor.id=(string)04f2, device.product.id=(string)b6c2"),
+        makeBareDevice("device.path=(string)/dev/video0, device.serial=(string)S1, "
+                       "device.vendor.id=(string)04f2, device.product.id=(string)b6c2"),
         nullptr);
     QCOMPARE(camera.record().origin, DeviceRecord::Origin::V4l2);
     QCOMPARE(camera.record().name, QString("Camera"));
@@ -140,7 +101,7 @@ void TestCameraDevice::itsFormatsAndWhatItSaysOfItselfAreRead()
     QVERIFY(camera.formatOf(mode));
     QVERIFY(!camera.formatOf({CameraMode::Encoding::Raw, "YUY2", 1280, 720, 30, 1}));
     QVERIFY(camera.makeSource());
-    QCOMPARE(CameraDevice(makeDevice(node), nullptr).record().origin,
+    QCOMPARE(CameraDevice(makeBareDevice(node), nullptr).record().origin,
              DeviceRecord::Origin::PipeWire);
 }
 
