@@ -27,7 +27,8 @@ GstPadProbeReturn FrameTap::onFrame(GstPad *pad, GstPadProbeInfo *info, gpointer
         return GST_PAD_PROBE_OK;
     const GstObjectHandle<GstElement> element(gst_pad_get_parent_element(pad));
     GstBuffer *frame = GST_PAD_PROBE_INFO_BUFFER(info);
+    const GstMiniHandle<GstCaps> caps(gst_pad_get_current_caps(pad));
     if (element)
-        recorder->addFrame(frame, capturedAt(element.get(), frame));
+        recorder->addFrame(frame, capturedAt(element.get(), frame), caps.get());
     return GST_PAD_PROBE_OK;
 }

@@ -57,6 +57,7 @@ MovieRecorder::MovieRecorder(QString path, const GstVideoInfo &format, std::func
     , m_progress(std::make_shared<MovieProgress>(std::move(failed)))
     , m_copies(GST_VIDEO_INFO_FORMAT(&format) == GST_VIDEO_FORMAT_I420)
     , m_pacer(format.fps_n, format.fps_d)
+    , m_fitter(format)
 {
 }
 
@@ -108,10 +109,13 @@ static qint64 systemTime()
     return qint64(gst_clock_get_time(clock.get()));
 }
 
-void MovieRecorder::addFrame(GstBuffer *frame, GstClockTime captured)
+void MovieRecorder::addFrame(GstBuffer *frame, GstClockTime captured, GstCaps *caps)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (!m_open || m_progress->hasFailed())
+        return;
+    GstMiniHandle<GstBuffer> fitting = m_fitter.fitted(frame, caps);
+    if (!fitting)
         return;
     const bool isFirst = m_pacer.begin() < 0;
     const qint64 slot = m_pacer.slotOf(qint64(captured));
@@ -123,11 +127,11 @@ void MovieRecorder::addFrame(GstBuffer *frame, GstClockTime captured)
     }
     if (slot < 0)
         return;
-    m_newest.reset(gst_buffer_ref(frame));
+    m_newest = std::move(fitting);
     m_newestSlot = slot;
     m_newestCaptured = qint64(captured);
     if (m_feed->wants(slot))
-        m_feed->add(slot, inSlots(frame, slot, slot + 1));
+        m_feed->add(slot, inSlots(m_newest.get(), slot, slot + 1));
 
     const qint64 end = m_pacer.timeOf(m_pacer.nextSlot());
     m_track.coverUntil(SoundTrack::positionAt(qMax(qint64(0), end - soundDelay)));
@@ -283,17 +287,19 @@ BoundedTask<void> MovieRecorder::completing()
             gst_element_set_state(pipeline.get(), GST_STATE_NULL);
             qCInfo(engineLog) << feed->fed() << "frames were encoded," << progress->encoded()
                               << "are in the file";
-            if (progress->encoded() == 0)
+            if (progress->encoded() == 0) {
                 QFile::remove(path); // no player opens a movie without a picture
-            else if (!whole)
+                return;
+            }
+            if (!whole)
                 qCWarning(engineLog) << "could not be completed, its last moment may miss:" << path;
+            DiskFlush::flushClosed(path, steady_clock::now() + DiskFlush::usualPatience);
         });
 }
 
 bool MovieRecorder::complete(steady_clock::time_point deadline)
 {
     const BoundedTask<void> task = completing();
-            DiskFlush::flushClosed(path, steady_clock::now() + DiskFlush::usualPatience);
     int before = -1;
     bool done = task.waitUntil(steady_clock::now());
     while (!done && steady_clock::now() < deadline && m_progress->steps() != before) {

@@ -3,6 +3,7 @@
 
 #include "BoundedTask.h"
 #include "FrameFeed.h"
+#include "FrameFitter.h"
 #include "FramePacer.h"
 #include "GstHandles.h"
 #include "MovieEncoding.h"
@@ -42,7 +43,8 @@ GstClockTime capturedAt(GstElement *element, GstBuffer *buffer);
  * finish(). What arrives then is ignored.
  *
  * Threads: addFrame() on the camera's thread, addSound() on the microphone's, start() on any, all
- * else on the GUI thread. addFrame() and addSound() return at once.
+ * else on the GUI thread. addFrame() and addSound() return at once, but for a frame that has to be
+ * made to fit.
  */
 class MovieRecorder {
 public:
@@ -56,7 +58,9 @@ public:
     MovieRecorder(const MovieRecorder &) = delete;
     MovieRecorder &operator=(const MovieRecorder &) = delete;
 
-    void addFrame(GstBuffer *frame, GstClockTime captured);
+    /// @p caps are those of the frame; null says that they are the movie's. One of another format
+    /// is made to fit; one that cannot be read is left out.
+    void addFrame(GstBuffer *frame, GstClockTime captured, GstCaps *caps = nullptr);
     /// @p count sample frames as SoundTrack has them, handed over as soon as they were heard;
     /// @p captured is when the first was, by the microphone's own count (ns).
     void addSound(const char *samples, qint64 count, GstClockTime captured);
@@ -103,6 +107,7 @@ private:
     bool m_open = false; ///< frames are taken
     bool m_listens = false; ///< sound is taken
     FramePacer m_pacer;
+    FrameFitter m_fitter;
     GstMiniHandle<GstBuffer> m_newest; ///< the newest frame that has a slot
     qint64 m_newestSlot = -1;
     qint64 m_newestCaptured = 0; ///< ns
