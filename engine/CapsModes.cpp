@@ -3,10 +3,13 @@
 #include <gst/video/video.h>
 
 #include <iterator>
+#include <utility>
 
 // Sizes that cameras really have, for those that offer a range.
 static const QSize usualSizes[] = {{1920, 1080}, {1280, 720}, {1024, 768},
                                    {800, 600},   {640, 480},  {320, 240}};
+
+static const int longestSide = 16384; // px; more than any camera has
 
 struct Rate {
     int numerator = 30;
@@ -50,6 +53,12 @@ static int largest(const GValue *field)
     for (guint i = 0; GST_VALUE_HOLDS_LIST(field) && i < gst_value_list_get_size(field); ++i)
         best = qMax(best, largest(gst_value_list_get_value(field, i)));
     return best;
+}
+
+// A driver can say anything.
+static bool isSizeOfAPicture(const QSize &size)
+{
+    return !size.isEmpty() && size.width() <= longestSide && size.height() <= longestSide;
 }
 
 static QVector<QSize> sizesOf(const GstStructure *structure)
@@ -115,8 +124,9 @@ static void appendModes(const GstStructure *structure, CameraMode::Encoding enco
     for (const QByteArray &format : formats) {
         for (const QSize &size : sizes) {
             for (const Rate &rate : rates)
-                modes.append({encoding, format, size.width(), size.height(), rate.numerator,
-                              rate.denominator});
+                if (isSizeOfAPicture(size))
+                    modes.append({encoding, format, size.width(), size.height(), rate.numerator,
+                                  rate.denominator});
         }
     }
 }
@@ -181,8 +191,9 @@ static GstMiniHandle<GstCaps> leastInterlaced(const GstCaps *formats)
     GstCaps *chosen = gst_caps_copy_nth(formats, index);
     GstStructure *format = gst_caps_get_structure(chosen, 0);
     if (gst_structure_has_field(format, "interlace-mode"))
-        gst_structure_fixate_field_string(format, "interlace-mode", interlacing[best]);
-    return GstMiniHandle<GstCaps>(gst_caps_fixate(chosen));
+        gst_structure_set(format, "interlace-mode", G_TYPE_STRING, interlacing[best], nullptr);
+    GstMiniHandle<GstCaps> fixed(gst_caps_fixate(chosen));
+    return gst_caps_is_fixed(fixed.get()) ? std::move(fixed) : nullptr;
 }
 
 GstMiniHandle<GstCaps> fixedCaps(GstCaps *offered, const CameraMode &mode)

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void wholeFramesArePreferredToInterlacedOnes_data();
     void wholeFramesArePreferredToInterlacedOnes();
     void aModeThatIsNotOfferedHasNoFormat();
+    void aListMayHoldNoTextAtAll();
+    void aFormatThatStaysOpenIsNone();
 };
 
 static GstMiniHandle<GstCaps> parse(const QString &text)
@@ -87,6 +89,12 @@ void TestCapsModes::modesAreReadFromCaps_data()
            "video/x-raw,format=YUY2,width=640,height=480,framerate=25/1,"
            "interlace-mode={alternate,fields}"
         << QStringList();
+    QTest::newRow("sizes that no picture has are left out")
+        << "video/x-raw,format=YUY2,width={-5,0,640,2147483647},height=[480,2147483647],"
+           "framerate=30/1;image/jpeg,width=-640,height=-480,framerate=30/1;"
+           "image/jpeg,width=20000,height=20000,framerate=30/1;"
+           "image/jpeg,width=640,height=480,framerate=30/1"
+        << QStringList{"YUY2 640x480 30/1", "JPEG 640x480 30/1"};
     QTest::newRow("nothing") << "EMPTY" << QStringList();
     QTest::newRow("anything") << "ANY" << QStringList();
 }
@@ -162,6 +170,29 @@ void TestCapsModes::aModeThatIsNotOfferedHasNoFormat()
     const CameraMode mode{CameraMode::Encoding::Jpeg, {}, 1280, 720, 30, 1};
     const GstMiniHandle<GstCaps> offered =
         parse("video/x-raw,format=YUY2,width=1280,height=720,framerate=30/1");
+    QVERIFY(!fixedCaps(offered.get(), mode));
+}
+
+// The media framework's own way to choose from a list compares with each text there.
+void TestCapsModes::aListMayHoldNoTextAtAll()
+{
+    const CameraMode mode{CameraMode::Encoding::Jpeg, {}, 1280, 720, 30, 1};
+    const GstMiniHandle<GstCaps> offered =
+        parse("image/jpeg,width=1280,height=720,framerate=30/1,"
+              "interlace-mode=(string){alternate,NULL,interleaved}");
+    const GstMiniHandle<GstCaps> fixed = fixedCaps(offered.get(), mode);
+    QVERIFY(fixed);
+    QCOMPARE(QByteArray(gst_structure_get_string(gst_caps_get_structure(fixed.get(), 0),
+                                                 "interlace-mode")),
+             QByteArray("interleaved"));
+}
+
+void TestCapsModes::aFormatThatStaysOpenIsNone()
+{
+    const CameraMode mode{CameraMode::Encoding::Jpeg, {}, 1280, 720, 30, 1};
+    const GstMiniHandle<GstCaps> offered =
+        parse("image/jpeg,width=1280,height=720,framerate=30/1,colorimetry=(string){}");
+    QVERIFY(!modesOf(offered.get()).isEmpty());
     QVERIFY(!fixedCaps(offered.get(), mode));
 }
 
