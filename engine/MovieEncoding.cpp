@@ -3,12 +3,13 @@
 #include <QThread>
 
 static const double bitsOfPixel = 0.11; // of one frame: 228 MB for ten minutes of 1280x720 at 30
+static const double fewestBits = 100000; // a second; some encoders take no rate of 0 kbit
 static const double fewestFrames = 8; // a second, for a picture that still moves
 static const int smallestWidth = 320; // px; no picture is made smaller than that
 
 int movieBitRate(const QSize &size, double rate)
 {
-    return int(bitsOfPixel * size.width() * size.height() * rate);
+    return int(qMax(fewestBits, bitsOfPixel * size.width() * size.height() * rate));
 }
 
 int movieDivisor(double frameTime, const QSize &size)
@@ -48,8 +49,9 @@ QVector<Encoder> videoEncoders(const QSize &size, double rate)
 QVector<Encoder> soundEncoders()
 {
     // Left to code middle and side it gives what only one channel has to both, of the right one
-    // with the sign changed, and a single loudspeaker plays nothing of it.
-    return {{"avenc_aac bitrate=128000 aac-ms=false", "avenc_aac", true},
+    // with the sign changed, and a single loudspeaker plays nothing of it. By number: newer
+    // versions of the plug-in have names there, and no "false" among them.
+    return {{"avenc_aac bitrate=128000 aac-ms=0", "avenc_aac", true},
             {"fdkaacenc bitrate=128000", "fdkaacenc", true},
             {"voaacenc bitrate=128000", "voaacenc", true}};
 }

@@ -6,6 +6,7 @@
 #include <gst/app/gstappsink.h>
 #include <gst/app/gstappsrc.h>
 
+#include <QSize>
 #include <QTest>
 
 #include <array>
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void initTestCase();
     void everyChannelSoundsAsLoudAsItWas_data();
     void everyChannelSoundsAsLoudAsItWas();
+    void noEncoderRefusesItsSettings_data();
+    void noEncoderRefusesItsSettings();
 };
 
 void TestMovieEncoding::initTestCase()
@@ -152,6 +155,45 @@ void TestMovieEncoding::everyChannelSoundsAsLoudAsItWas()
     QVERIFY2(qAbs(left - levels[0]) < tolerance, qPrintable(heard));
     QVERIFY2(qAbs(right - levels[1]) < tolerance, qPrintable(heard));
     QVERIFY2(qAbs(mixed - (levels[0] + levels[1]) / 2) < tolerance, qPrintable(heard));
+}
+
+void TestMovieEncoding::noEncoderRefusesItsSettings_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<double>("rate");
+    QTest::newRow("usual") << QSize(1280, 720) << 30.0;
+    QTest::newRow("tiny") << QSize(16, 16) << 30.0;
+    QTest::newRow("tiny and slow") << QSize(16, 16) << 0.5;
+    QTest::newRow("large and quick") << QSize(7680, 4320) << 120.0;
+}
+
+static void count(const gchar *, GLogLevelFlags, const gchar *message, gpointer complaints)
+{
+    static_cast<QStringList *>(complaints)->append(QString::fromUtf8(message));
+}
+
+// The toolkit of the encoders tells of a value that is out of range, and leaves it out.
+void TestMovieEncoding::noEncoderRefusesItsSettings()
+{
+    QFETCH(QSize, size);
+    QFETCH(double, rate);
+    QStringList complaints;
+    const guint handler =
+        g_log_set_handler("GLib-GObject", G_LOG_LEVEL_WARNING, count, &complaints);
+    int made = 0;
+    for (const Encoder &encoder : videoEncoders(size, rate)) {
+        const GstObjectHandle<GstElementFactory> factory(
+            gst_element_factory_find(encoder.element.constData()));
+        if (!factory)
+            continue;
+        const GstObjectHandle<GstElement> pipeline = ownFloating(
+            gst_parse_launch((encoder.description + " ! fakesink").constData(), nullptr));
+        QVERIFY2(pipeline, encoder.description.constData());
+        ++made;
+    }
+    g_log_remove_handler("GLib-GObject", handler);
+    QCOMPARE(complaints, QStringList());
+    QVERIFY(made > 0);
 }
 
 QTEST_GUILESS_MAIN(TestMovieEncoding)
