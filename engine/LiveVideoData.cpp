@@ -248,6 +248,11 @@ void LiveVideoData::SetInterruption(const std::function<bool()> &wanted)
     PatientCall::setInterruption(wanted);
 }
 
+void LiveVideoData::SetMeanwhile(const std::function<void()> &work)
+{
+    PatientCall::setMeanwhile(work);
+}
+
 void LiveVideoData::SetTarget(QWidget *target)
 {
     d->painter.setTarget(target);
@@ -394,6 +399,15 @@ bool LiveVideoData::CompleteMovies()
 {
     const PatientCall call(completionLimit);
     return MovieCompletion::waitForAll(steady_clock::now() + completionLimit);
+}
+
+void LiveVideoData::completeUnseen()
+{
+    blockSignals(true);
+    PatientCall::showNothing();
+    d->movie.stop();
+    finishSaving();
+    CompleteMovies();
 }
 
 // What is asked right after Record() is asked about that: a camera or a server that changes in the

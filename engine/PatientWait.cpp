@@ -19,9 +19,11 @@ namespace {
 struct CallState {
     bool isActive = false;
     bool cursorIsShown = false;
+    bool isUnseen = false;
     steady_clock::time_point began;
     steady_clock::time_point end;
     std::function<bool()> interruption;
+    std::function<void()> meanwhile;
 };
 } // namespace
 
@@ -67,8 +69,21 @@ bool PatientCall::isInterrupted()
     return isGuiThread() && callState().interruption && callState().interruption();
 }
 
+void PatientCall::setMeanwhile(std::function<void()> work)
+{
+    callState().meanwhile = std::move(work);
+}
+
+void PatientCall::showNothing()
+{
+    callState().isUnseen = true;
+    callState().cursorIsShown = false;
+}
+
 static void showPatience()
 {
+    if (callState().isUnseen)
+        return;
     if (!callState().cursorIsShown)
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     callState().cursorIsShown = true;
@@ -89,6 +104,8 @@ bool waitPatiently(steady_clock::time_point deadline,
         return true;
     while (steady_clock::now() < end) {
         showPatience();
+        if (callState().meanwhile)
+            callState().meanwhile();
         if (arrived(std::min(end, steady_clock::now() + repaintPeriod)))
             return true;
     }

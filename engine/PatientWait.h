@@ -33,6 +33,14 @@ public:
     static void setInterruption(std::function<bool()> wanted);
     static bool isInterrupted();
 
+    /// What the GUI thread does about five times a second while it waits; null for nothing, as at
+    /// first. It must handle no events and call no operation.
+    static void setMeanwhile(std::function<void()> work);
+
+    /// Nobody sees the windows any more, nor does the X server answer: from now on waits show
+    /// nothing. GUI thread.
+    static void showNothing();
+
 private:
     bool m_isOutermost;
 };

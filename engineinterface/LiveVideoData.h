@@ -88,6 +88,11 @@ public:
     /// that the program is to end. For all engines of the process; null for never, as at first.
     static void SetInterruption(const std::function<bool()> &wanted);
 
+    /// What the caller's thread does about five times a second while an operation makes it wait; it
+    /// must handle no events and call no operation. For all engines of the process; null for
+    /// nothing, as at first.
+    static void SetMeanwhile(const std::function<void()> &work);
+
     /// The widget the picture is painted into; null for none.
     void SetTarget(QWidget *target);
 
@@ -145,6 +150,11 @@ public:
     /// Waits for movies that RecordStop() has left to be completed in the background; false when
     /// one is not complete at the limit.
     bool CompleteMovies();
+
+    /// For the process whose screen is gone, right before its end: completes the photo of
+    /// startSaving() and the movie, as finishSaving(), RecordStop() and CompleteMovies() do, but
+    /// shows nothing, emits nothing, and asks the X server for nothing. Nor do later operations.
+    void completeUnseen();
 
     // Right after Record() the three answers below are about that: they say whether the movie
     // began and which device it was that was missing, until the next Record(), Create() or

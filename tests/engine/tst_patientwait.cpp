@@ -24,6 +24,8 @@ private Q_SLOTS:
     void whatHasArrivedIsReportedAtOnce();
     void anotherThreadWaitsAsLongAsItWants();
     void theInterruptionIsAskedForOnTheGuiThreadOnly();
+    void somethingElseIsDoneMeanwhile();
+    void withoutAScreenNothingIsShown();
 };
 
 namespace {
@@ -161,6 +163,33 @@ void TestPatientWait::theInterruptionIsAskedForOnTheGuiThreadOnly()
     bool elsewhere = true;
     std::thread([&elsewhere] { elsewhere = PatientCall::isInterrupted(); }).join();
     QVERIFY(!elsewhere);
+}
+
+void TestPatientWait::somethingElseIsDoneMeanwhile()
+{
+    int done = 0;
+    PatientCall::setMeanwhile([&done] { ++done; });
+    QVERIFY(!waitFor(milliseconds(100)));
+    QCOMPARE(done, 0); // nobody notices that
+    QVERIFY(!waitFor(milliseconds(1000)));
+    PatientCall::setMeanwhile(nullptr);
+    QVERIFY2(done > 1 && done < 6, qPrintable(QString::number(done)));
+    QVERIFY(!waitFor(milliseconds(600)));
+    QVERIFY(done < 6);
+}
+
+// The last test: there is no way back.
+void TestPatientWait::withoutAScreenNothingIsShown()
+{
+    PaintedWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    PatientCall::showNothing();
+    window.paints = 0;
+    const PatientCall call;
+    QVERIFY(!waitFor(milliseconds(600)));
+    QVERIFY(!cursorIsShown());
+    QCOMPARE(window.paints, 0);
 }
 
 QTEST_MAIN(TestPatientWait)

@@ -100,6 +100,8 @@ void LiveVideoData::beginList() { }
 
 void LiveVideoData::SetInterruption(const std::function<bool()> &) { }
 
+void LiveVideoData::SetMeanwhile(const std::function<void()> &) { }
+
 void LiveVideoData::SetTarget(QWidget *target)
 {
     note(QStringLiteral("SetTarget()"));
@@ -222,6 +224,11 @@ bool LiveVideoData::CompleteMovies()
     if (FakeEngine::script().completion)
         FakeEngine::script().completion();
     return true;
+}
+
+void LiveVideoData::completeUnseen()
+{
+    note(QStringLiteral("completeUnseen()"));
 }
 
 bool LiveVideoData::IsValidVideoDevice()
