@@ -1,5 +1,7 @@
 #include "CTranslator.h"
 
+#include "IniText.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -16,6 +18,35 @@ constexpr char filePrefix[] = "qvexplugin_";
 bool hasTranslation(const QString &dir, const QString &prefix, const QString &locale)
 {
     return QFileInfo(QDir(dir), prefix + locale + ".qm").isFile();
+}
+
+QString textOf(QByteArray written)
+{
+    static const QByteArray bytes = "@ByteArray(";
+    if (written.contains(','))
+        return QString(); // several values, none of them a language
+    if (written.startsWith(bytes) && written.endsWith(')'))
+        written = written.mid(bytes.size()).chopped(1);
+    return QString::fromLatin1(written.replace('"', ""));
+}
+
+// The language that the whiteboard application is set to; null when there is none. Its settings are
+// looked for where the toolkit keeps such things, but read by ourselves: the file is not ours, and
+// whatever else is in it must not keep this program from starting.
+QString whiteboardsLocale()
+{
+    for (const QSettings::Scope scope : {QSettings::UserScope, QSettings::SystemScope}) {
+        const QFileInfo beside(QSettings(scope, QStringLiteral("orvanta")).fileName());
+        for (const char *name :
+             {"MerovexSolutions/Tavelin Software.conf", "MerovexSolutions.conf"}) {
+            const QByteArray contents =
+                IniText::contents(beside.path() + QLatin1Char('/') + QLatin1String(name));
+            const QByteArray written = IniText::written(contents, "locale");
+            if (!written.isNull())
+                return textOf(written);
+        }
+    }
+    return QString();
 }
 
 // What the toolkit writes on the buttons of our boxes. It does not speak all of our languages, so
@@ -37,10 +68,7 @@ void translateToolkit(const QString &locale)
 QString CTranslator::getLocale(const QString &dir, const QString &prefix)
 {
     QString english = QStringLiteral("en");
-    const QSettings whiteboard(QSettings::UserScope, "MerovexSolutions", "Tavelin Software");
-    if (!whiteboard.contains("locale"))
-        return english;
-    QString chosen = whiteboard.value("locale").toString();
+    QString chosen = whiteboardsLocale();
     if (chosen.isNull())
         return english;
     if (hasTranslation(dir, prefix, chosen))

@@ -1,11 +1,13 @@
 #include "Setting.h"
 
+#include "IniText.h"
 #include "WebcamUtil.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QTextCodec>
@@ -13,6 +15,11 @@
 #include <algorithm>
 #include <array>
 
+#include <cstdio>
+#include <sys/stat.h>
+
+static const QString emptyFile = QStringLiteral("/dev/null");
+static constexpr int lockLimit = 2000; // ms; nobody writes so small a file for longer
 namespace {
 
 QString settingsFile()
@@ -28,31 +35,6 @@ bool isUtf8(const QByteArray &text)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
-QByteArray contentsOf(const QString &path)
-{
-    constexpr qint64 mostBytes = 1 << 20;
-    QFile file(path);
-    // A device or a pipe in the place of the file would never end.
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(mostBytes)
-                                                                      : QByteArray();
-}
-
-// What stands behind the key in the file, to the letter, up to a comment.
-QByteArray writtenBehind(const QByteArray &contents, const QByteArray &key)
-{
-    QByteArray found;
-    bool isGeneral = true;
-    for (const QByteArray &whole : contents.split('\n')) {
-        const QByteArray line = whole.trimmed();
-        if (line.startsWith('['))
-            isGeneral = line.toLower() == "[general]";
-        const int equals = line.indexOf('=');
-        if (isGeneral && equals > 0 && line.left(equals).trimmed() == key)
-            found = line.mid(equals + 1).split(';').first().trimmed();
-    }
-    return found;
-}
-
 // The folder under the key. The toolkit writes a comma in quotes and takes one without them for the
 // gap between two values; in a line that was typed by hand it belongs to the name.
 QString readFolder(const QSettings &file, const QByteArray &contents, const QString &key)
@@ -60,7 +42,7 @@ QString readFolder(const QSettings &file, const QByteArray &contents, const QStr
     const QVariant value = file.value(key, QString());
     if (value.type() != QVariant::StringList)
         return value.toString();
-    const QByteArray written = writtenBehind(contents, key.toLatin1());
+    const QByteArray written = IniText::written(contents, key.toLatin1());
     return isUtf8(written) ? QString::fromUtf8(written) : QString::fromLatin1(written);
 }
 
@@ -77,6 +59,29 @@ int readNumber(const QSettings &file, const QString &key, int absent, int least,
 void select(QComboBox &box, const QString &text, int otherwise)
 {
     const int index = box.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+// A file that the toolkit must not read is put aside, where the user finds it, and makes room for a
+// new one. A folder stays.
+bool isReadyToBeWritten(const QString &path)
+{
+    const QByteArray contents = IniText::contents(path);
+    if (!IniText::isUnreadable(path) && IniText::isPlain(contents))
+        return true;
+    const QByteArray name = QFile::encodeName(path);
+    return !QFileInfo(path).isDir()
+        && std::rename(name.constData(), (name + ".damaged").constData()) == 0;
+}
+
+// The toolkit would wait without end for whoever has the lock, and for what is no lock at all.
+bool canBeLocked(const QString &path)
+{
+    const QString name = path + QStringLiteral(".lock");
+    struct stat status = {};
+    if (lstat(QFile::encodeName(name).constData(), &status) == 0 && !S_ISREG(status.st_mode))
+        return false;
+    QLockFile lock(name);
+    return lock.tryLock(lockLimit) || lock.error() != QLockFile::LockFailedError;
+}
+
     box.setCurrentIndex(index < 0 ? otherwise : index);
 }
 
@@ -182,8 +187,9 @@ void Setting::connectControls()
 
 void Setting::readFile()
 {
-    const QByteArray contents = contentsOf(settingsFile());
-    QSettings file(settingsFile(), QSettings::IniFormat);
+    const QByteArray contents = IniText::contents(settingsFile());
+    const bool isUsable = !contents.isNull() && IniText::isPlain(contents);
+    QSettings file(isUsable ? settingsFile() : emptyFile, QSettings::IniFormat);
     // For reading alone: what the program writes is plain ASCII, which its older versions can read.
     if (isUtf8(contents))
         file.setIniCodec("UTF-8");
@@ -259,6 +265,8 @@ QString Setting::getSaveDirectory() const
     return m_ui.txbSaveDirectory->text();
 }
 
+    if (!isReadyToBeWritten(settingsFile()) || !canBeLocked(settingsFile()))
+        return; // not noticed, like every other reason why it cannot be written
 QString Setting::getResolution() const
 {
     return m_ui.cmbResolution->currentText();
