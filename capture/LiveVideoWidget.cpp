@@ -86,6 +86,11 @@ void LiveVideoWidget::setInterruption(const std::function<bool()> &wanted)
     LiveVideoData::SetInterruption(wanted);
 }
 
+void LiveVideoWidget::setMeanwhile(const std::function<void()> &work)
+{
+    LiveVideoData::SetMeanwhile(work);
+}
+
 QStringList LiveVideoWidget::getVideoDeviceList()
 {
     return m_engine.GetVideoDeviceList();
@@ -176,6 +181,7 @@ void LiveVideoWidget::setResolution(const QString &text)
 
 static QString pathInArea(const QString &name)
 {
+    WebcamUtil::restoreTemporaryPath(); // nobody looks at the disk before the photos of a series
     return WebcamUtil::getTemporaryPath() + QLatin1Char('/') + name;
 }
 
@@ -183,7 +189,7 @@ QString LiveVideoWidget::SaveBmp()
 {
     if (!m_engine.created)
         return QString();
-    const QString name = WebcamUtil::CreatePhotofilename();
+    const QString name = WebcamUtil::newPhotofilename();
     return m_engine.SaveBitmap(pathInArea(name)) ? name : QString();
 }
 
@@ -196,7 +202,7 @@ LiveVideoWidget::Photo LiveVideoWidget::takePhoto()
 {
     if (!m_engine.created)
         return {};
-    const QString name = WebcamUtil::CreatePhotofilename();
+    const QString name = WebcamUtil::newPhotofilename();
     const QImage picture = m_engine.startSaving(pathInArea(name));
     return picture.isNull() ? Photo() : Photo{name, picture};
 }
@@ -208,7 +214,7 @@ void LiveVideoWidget::finishPhoto()
 
 bool LiveVideoWidget::Record()
 {
-    m_movieFileName = WebcamUtil::CreateMoviefilename();
+    m_movieFileName = WebcamUtil::newMoviefilename();
     m_engine.Record(m_movieFileName);
     if (!m_engine.IsValidVideoDevice())
         return recordWithoutVideo();
@@ -265,6 +271,11 @@ void LiveVideoWidget::RecordStop()
 bool LiveVideoWidget::completeMovies()
 {
     return m_engine.CompleteMovies();
+}
+
+void LiveVideoWidget::completeUnseen()
+{
+    m_engine.completeUnseen();
 }
 
 bool LiveVideoWidget::isAudioDeviceValid()

@@ -39,6 +39,9 @@ public:
     static void beginDeviceList();
     /// Opening a camera is given up as soon as @p wanted says that the program is to end.
     static void setInterruption(const std::function<bool()> &wanted);
+    /// What is to be done now and then while a camera or a server is waited for: no event is
+    /// handled meanwhile, and @p work must not handle any.
+    static void setMeanwhile(const std::function<void()> &work);
 
     /// Names in device order; a position in the list is what setVideoDevice() takes.
     QStringList getVideoDeviceList();
@@ -91,6 +94,8 @@ public:
     void RecordStop();
     /// Waits for movies whose files are still being completed; false when one is not in time.
     bool completeMovies();
+    /// The screen is gone and the process about to end: completes photo and movie, silently.
+    void completeUnseen();
     /// Full path of the movie that Record() began last.
     QString movieFileName() const { return m_movieFileName; }
 

@@ -127,6 +127,9 @@ public:
     /// which is false. Without captures nothing is asked. @p mayAsk tells whether the session lets
     /// anybody be asked; where it does not, what was captured is kept for the next start.
     bool leaveWithSession(const std::function<bool()> &mayAsk);
+    /// The screen is gone for good, and the process ends with this call: completes what is being
+    /// captured, without drawing anything and without asking the X server.
+    void completeUnseen();
 
 Q_SIGNALS:
     void comp(bool ret); ///< declared for the window's users; nothing emits it

@@ -12,7 +12,6 @@
 #include "WebcamUtil.h"
 
 #include <QCloseEvent>
-#include <QDateTime>
 #include <QDialog>
 
 void CVistrelDlg::OnClose()
@@ -69,14 +68,21 @@ void CVistrelDlg::endRecording()
     m_liveView->completeMovies();
 }
 
+void CVistrelDlg::completeUnseen()
+{
+    if (m_liveView)
+        m_liveView->completeUnseen();
+}
+
 // What could not be moved stays in the temporary area; the program closes all the same.
 void CVistrelDlg::save()
 {
     if (m_liveView)
         m_liveView->completeMovies(); // or half of one would be copied
     const QDateTime moment = QDateTime::currentDateTime();
+    WebcamUtil::keepApartFromSaved(m_saveDirectory, moment);
     const bool isSaved = WebcamUtil::saveData(m_saveDirectory, moment);
-    m_pastedPhotos.settle(WebcamUtil::CreateSavePath(m_saveDirectory, moment));
+    m_pastedPhotos.settle(WebcamUtil::m_saveFolder);
     if (!isSaved)
         WebcamUtil::WarningMessage(tr("Save failed."), this);
 }

@@ -27,13 +27,14 @@ void CVistrelDlg::PutTVSPhoto()
 {
     completePhoto();
     pasteToClipboard();
+    WebcamUtil::restoreTemporaryPath(); // or it would be made here, and open to everybody
     const QString area = WebcamUtil::getTemporaryPath();
     const QString folder = area + QStringLiteral("/tmp");
     if (area.isEmpty() || !QDir().mkpath(folder))
         return;
+    const QString path = folder + QStringLiteral("/PUTTVS") + WebcamUtil::CurrentSecondString();
     QFile file;
-    if (!WebcamUtil::openNewFile(
-            file, folder + QStringLiteral("/PUTTVS") + WebcamUtil::CurrentSecondString()))
+    if (!WebcamUtil::openNewFile(file, path))
         return;
     QTextStream out(&file);
     out.setCodec("UTF-8");
@@ -42,6 +43,10 @@ void CVistrelDlg::PutTVSPhoto()
     out << "0\n" << shown.width() << 'x' << shown.height() << '\n';
     for (const QString &name : namesToPaste())
         out << name << '\n';
+    out.flush();
+    // On a full disk: the whiteboard software would fetch what half a name says.
+    if (out.status() != QTextStream::Ok || file.error() != QFileDevice::NoError)
+        QFile::remove(path);
 }
 
 // After a failed photo its empty name.

@@ -7,10 +7,14 @@
 #include <QMimeData>
 #include <QUrl>
 
+static constexpr qint64 mostBytes = 64 << 20; // of a picture; the largest photos have a third
+
+// Empty for what no clipboard could hold.
 static QByteArray contentOf(const QString &path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return file.size() <= mostBytes && file.open(QIODevice::ReadOnly) ? file.readAll()
+                                                                      : QByteArray();
 }
 
 static QStringList readable(const QStringList &paths)

@@ -91,7 +91,9 @@ bool writeAll(int file, const char *bytes, ssize_t count)
     return true;
 }
 
-bool copyContents(int from, int to)
+using GoesOn = std::function<bool()>;
+
+bool copyContents(int from, int to, const GoesOn &goesOn)
 {
     QByteArray block(1024 * 1024, Qt::Uninitialized);
     for (;;) {
@@ -100,7 +102,7 @@ bool copyContents(int from, int to)
             continue;
         if (count <= 0)
             return count == 0;
-        if (!writeAll(to, block.constData(), count))
+        if (!writeAll(to, block.constData(), count) || !goesOn())
             return false;
     }
 }
@@ -118,13 +120,28 @@ void copyRecord(int from, int to)
 
 // Copies to another file system. The disk is set to work at once, and not waited for: it writes
 // while the next file is read.
-bool beginCopy(const OpenFile &source, const OpenFile &copy)
+bool beginCopy(const OpenFile &source, const OpenFile &copy, const GoesOn &goesOn)
 {
     holdUnfinished(copy.descriptor());
-    const bool isComplete = copyContents(source.descriptor(), copy.descriptor());
+    const bool isComplete = copyContents(source.descriptor(), copy.descriptor(), goesOn);
     copyRecord(source.descriptor(), copy.descriptor());
     (void)sync_file_range(copy.descriptor(), 0, 0, SYNC_FILE_RANGE_WRITE);
     return isComplete;
+}
+
+// Waits for a large file piece by piece: to a slow disk it takes longer than a disk may be silent.
+bool flushInSteps(int file, const GoesOn &goesOn)
+{
+    constexpr off_t piece = off_t(8) << 20;
+    struct stat status = {};
+    const off_t size = fstat(file, &status) == 0 ? status.st_size : 0;
+    for (off_t from = 0; from + piece < size && goesOn(); from += piece)
+        (void)sync_file_range(file, from, piece,
+                              SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE
+                                  | SYNC_FILE_RANGE_WAIT_AFTER);
+    const bool isOnDisk = flushToDisk(file);
+    (void)goesOn();
+    return isOnDisk;
 }
 
 QByteArray partialName(const QByteArray &name)
@@ -155,9 +172,10 @@ bool isHalfCopy(const char *name)
  */
 class MovedFiles {
 public:
-    MovedFiles(const OpenFolder &from, const OpenFolder &to)
+    MovedFiles(const OpenFolder &from, const OpenFolder &to, const GoesOn &goesOn)
         : m_from(from)
         , m_to(to)
+        , m_goesOn(goesOn)
     {
     }
 
@@ -187,6 +205,7 @@ private:
 
     const OpenFolder &m_from;
     const OpenFolder &m_to;
+    const GoesOn &m_goesOn;
     std::vector<File> m_files;
 };
 
@@ -195,7 +214,9 @@ void MovedFiles::begin(const QByteArray &name)
     File file;
     file.name = name;
     struct stat there = {};
-    if (!isThere(m_to, name, there))
+    if (!m_goesOn())
+        file.state = Failed;
+    else if (!isThere(m_to, name, there))
         beginNew(file);
     else if (S_ISREG(there.st_mode))
         file.state = There;
@@ -216,7 +237,7 @@ void MovedFiles::beginNew(File &file)
     OpenFile copy = makePartial(m_to, file.name);
     if (!copy.isOpen())
         return;
-    if (beginCopy(source, copy)) {
+    if (beginCopy(source, copy, m_goesOn)) {
         file.state = Copied;
         file.written = std::move(copy);
     } else {
@@ -231,7 +252,9 @@ void MovedFiles::flushAll()
     helpers.setMaxThreadCount(flushesAtATime);
     for (File &file : m_files)
         if (file.written.isOpen())
-            helpers.start([&file] { file.isOnDisk = flushToDisk(file.written.descriptor()); });
+            helpers.start([this, &file] {
+                file.isOnDisk = flushInSteps(file.written.descriptor(), m_goesOn);
+            });
         else
             file.isOnDisk = true;
     helpers.waitForDone();
@@ -286,7 +309,7 @@ std::vector<QByteArray> MovedFiles::finish()
     std::vector<QByteArray> left;
     for (const File &file : m_files) {
         const bool isMoved = file.state == Renamed
-            || (file.state == There
+            || (file.state == There && m_goesOn()
                 && unlinkat(m_from.descriptor(), file.name.constData(), 0) == 0);
         if (!isMoved)
             left.push_back(file.name);
@@ -297,11 +320,12 @@ std::vector<QByteArray> MovedFiles::finish()
 } // namespace
 
 std::vector<QByteArray> moveFiles(const OpenFolder &from, const OpenFolder &to,
-                                  const std::vector<QByteArray> &names)
+                                  const std::vector<QByteArray> &names,
+                                  const std::function<bool()> &goesOn)
 {
     std::vector<QByteArray> left;
     for (size_t first = 0; first < names.size(); first += mostOpen) {
-        MovedFiles files(from, to);
+        MovedFiles files(from, to, goesOn);
         for (size_t i = first; i < std::min(first + mostOpen, names.size()); ++i)
             files.begin(names[i]);
         for (const QByteArray &name : files.finish())

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 
+#include <functional>
 #include <vector>
 
 class OpenFolder;
@@ -17,9 +18,13 @@ class OpenFolder;
  *
  * Returns the names of the files that were not moved; they are still where they were. Files that
  * were merely renamed are safe from a power cut only after to.flush().
+ *
+ * @p goesOn is told of every step, on several threads; once it says false, the files that are not
+ * moved yet are left where they are.
  */
-std::vector<QByteArray> moveFiles(const OpenFolder &from, const OpenFolder &to,
-                                  const std::vector<QByteArray> &names);
+std::vector<QByteArray> moveFiles(
+    const OpenFolder &from, const OpenFolder &to, const std::vector<QByteArray> &names,
+    const std::function<bool()> &goesOn = [] { return true; });
 
 /** Removes what saves that were cut off have left half copied in the folder. */
 void removeHalfCopies(const OpenFolder &folder);

@@ -33,6 +33,13 @@ bool closeToOthers(int folder)
 
 } // namespace
 
+QString PrivateFolder::temporaryFolder()
+{
+    const QString existing = QDir::tempPath();
+    return existing.isEmpty() ? QDir(QFile::decodeName(qgetenv("TMPDIR"))).absolutePath()
+                              : existing;
+}
+
 QString PrivateFolder::ensure(const QString &path)
 {
     const QString absolute = QDir(path).absolutePath();

@@ -11,6 +11,9 @@ class PrivateFolder {
 public:
     PrivateFolder() = delete;
 
+    /// The system's temporary folder, $TMPDIR or /tmp: an absolute path, also of one that is
+    /// missing and would have to be made, for which the toolkit has none.
+    static QString temporaryFolder();
     /// Makes the folder @p path with its parents, if it is missing, and closes it to everybody else
     /// (mode 0700), if it is not. Returns its absolute path.
     ///

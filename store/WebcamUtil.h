@@ -39,6 +39,9 @@ public:
     static QStringList m_tempbmpfilenameList;
     /// Meant for movie names; nothing fills it, see setTempMovieFilnameList().
     static QStringList m_tempmoviefilenameList;
+    /// The day's folder of the last saveData(); empty when it could not be made, or when its disk
+    /// does not answer.
+    static QString m_saveFolder;
     /// What isSaveFile() last found, newest first. A record only: saving lists the area afresh.
     static QStringList m_savefilenameList;
 
@@ -55,6 +58,9 @@ public:
     static void setTemporaryPath();
     /// The temporary area, set up on first use; empty if there is none, and tried again.
     static QString getTemporaryPath();
+    /// Sets the temporary area up anew if it has vanished, as before everything that is written
+    /// into it without a look at the disk's free space.
+    static void restoreTemporaryPath();
     /// Removes the temporary area if it is empty, and forgets it either way.
     static void deleteTemporaryPath();
     /// Opens @p file for writing as a new file at @p path, in place of an older one. What lies
@@ -66,7 +72,7 @@ public:
 
     // WebcamUtilNames.cpp: names made of the moment of capture, in local time
     // A name carries no counter: photos of the same millisecond, or movies of the same second,
-    // share it.
+    // would share it, see newPhotofilename().
 
     /// yyyyMMddhhmmsszzz
     static QString CurrentTimeQString(const QDateTime &moment = QDateTime::currentDateTime());
@@ -80,6 +86,11 @@ public:
     static QString CreateTempPhotofilename(const QDateTime &moment = QDateTime::currentDateTime());
     /// Full path in the temporary area: "movie" + seconds + ".mov".
     static QString CreateMoviefilename(const QDateTime &moment = QDateTime::currentDateTime());
+    /// The same for a capture that is about to be written: while the temporary area has something
+    /// of that name, as after a clock was set back, the next millisecond's, and for a movie, which
+    /// must not take another's still picture either, the next second's.
+    static QString newPhotofilename(const QDateTime &moment = QDateTime::currentDateTime());
+    static QString newMoviefilename(const QDateTime &moment = QDateTime::currentDateTime());
     /// Full path in the temporary area: "movie" + seconds + "tmpphoto", with no suffix.
     static QString CreateTempMoviefilename(const QDateTime &moment = QDateTime::currentDateTime());
     /// The still picture of @p movie, a name or a path: "....mov" becomes "...tmp.png". Lists and
@@ -120,9 +131,14 @@ public:
     ///
     /// False if the folder cannot be made, a file could not be moved, or there was nothing to save.
     /// What was moved is on the disk when it returns.
-    /// A copy to another file system takes its time; the wait cursor is shown meanwhile.
+    /// A copy to another file system takes its time; the wait cursor is shown meanwhile, and the
+    /// windows stay painted. A disk that does not answer for ten seconds is given up: false, and
+    /// what is not moved by then stays in the temporary area.
     static bool saveData(const QString &target,
                          const QDateTime &moment = QDateTime::currentDateTime());
+    /// To be called before saveData() with the same arguments: captures whose name another file has
+    /// in that folder get one of their own, or they would count as saved before.
+    static void keepApartFromSaved(const QString &target, const QDateTime &moment);
     /// Deletes everything captured. A file that cannot be deleted stays, silently.
     static void deleteData();
     /// Deletes the hidden files of captures that were cut off when the program was killed: of those
@@ -153,6 +169,7 @@ public:
 
 private:
     static QString ensuredFolder(const QString &path);
+    static QString savePath(const QString &base, const QDateTime &moment);
     static bool isCaptured(const char *name);
     static std::vector<FolderFile> readTemporaryArea(const QStringList &patterns = {});
     static QStringList listTemporaryArea(const QStringList &patterns = {});

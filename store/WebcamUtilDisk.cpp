@@ -1,19 +1,12 @@
 // Whether the next capture has room.
 
-#include "PrivateFolder.h"
 #include "WebcamUtil.h"
 
 #include <sys/statvfs.h>
 
 bool WebcamUtil::chkdiskFreeSpace()
 {
-    // A cleaner of temporary files may have taken the area away while the program ran, and somebody
-    // else may have put something in its place.
-    if (!m_pictureDataPath.isEmpty() && !PrivateFolder::isOwn(m_pictureDataPath))
-        m_pictureDataPath.clear();
-    if (m_pictureDataPath.isEmpty())
-        setTemporaryPath();
-
+    restoreTemporaryPath();
     // Not the file name encoding: an area outside Latin letters is not found and reads as full.
     struct statvfs fileSystem = {};
     if (statvfs(m_pictureDataPath.toLatin1().constData(), &fileSystem) != 0)

@@ -2,9 +2,14 @@
 
 #include "WebcamUtil.h"
 
+#include <QFile>
 #include <QLocale>
 
+#include <sys/stat.h>
+
 namespace {
+
+constexpr int mostSteps = 1000; // names that are tried for one capture
 
 QString movieSuffix()
 {
@@ -20,6 +25,13 @@ QString stillSuffix()
 QString stamp(const QDateTime &moment, const QString &layout)
 {
     return QLocale::c().toString(moment, layout);
+}
+
+// Whatever it is: a link that leads nowhere, too.
+bool isTaken(const QString &path)
+{
+    struct stat status = {};
+    return lstat(QFile::encodeName(path).constData(), &status) == 0;
 }
 
 } // namespace
@@ -55,6 +67,26 @@ QString WebcamUtil::CreateMoviefilename(const QDateTime &moment)
         + movieSuffix();
 }
 
+QString WebcamUtil::newPhotofilename(const QDateTime &moment)
+{
+    const QString folder = getTemporaryPath() + QLatin1Char('/');
+    QDateTime next = moment;
+    while (isTaken(folder + CreatePhotofilename(next)) && next < moment.addMSecs(mostSteps))
+        next = next.addMSecs(1);
+    return CreatePhotofilename(next);
+}
+
+QString WebcamUtil::newMoviefilename(const QDateTime &moment)
+{
+    QDateTime next = moment;
+    QString movie = CreateMoviefilename(next);
+    while ((isTaken(movie) || isTaken(stillNameOf(movie))) && next < moment.addSecs(mostSteps)) {
+        next = next.addSecs(1);
+        movie = CreateMoviefilename(next);
+    }
+    return movie;
+}
+
 QString WebcamUtil::CreateTempMoviefilename(const QDateTime &moment)
 {
     return getTemporaryPath() + QStringLiteral("/movie") + CurrentSecondString(moment)
@@ -71,7 +103,12 @@ QString WebcamUtil::movieNameOf(const QString &still)
     return QString(still).replace(stillSuffix(), movieSuffix());
 }
 
+QString WebcamUtil::savePath(const QString &base, const QDateTime &moment)
+{
+    return base + QStringLiteral("/TavelinCamera/") + CurrentDateString(moment);
+}
+
 QString WebcamUtil::CreateSavePath(const QString &base, const QDateTime &moment)
 {
-    return ensuredFolder(base + QStringLiteral("/TavelinCamera/") + CurrentDateString(moment));
+    return ensuredFolder(savePath(base, moment));
 }

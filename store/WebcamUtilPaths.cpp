@@ -11,6 +11,7 @@
 
 QString WebcamUtil::m_apppath;
 QString WebcamUtil::m_pictureDataPath;
+QString WebcamUtil::m_saveFolder;
 QStringList WebcamUtil::m_tempbmpfilenameList;
 QStringList WebcamUtil::m_tempmoviefilenameList;
 QStringList WebcamUtil::m_savefilenameList;
@@ -45,7 +46,7 @@ void WebcamUtil::setTemporaryPath()
 {
     // The user's number keeps the areas of several users of one machine apart.
     // Captures show children: nobody else looks at them, and no link leads them elsewhere.
-    m_pictureDataPath = PrivateFolder::ensure(QDir::tempPath() + temporaryAreaName()
+    m_pictureDataPath = PrivateFolder::ensure(PrivateFolder::temporaryFolder() + temporaryAreaName()
                                               + QLatin1Char('_') + QString::number(geteuid()));
 }
 
@@ -56,12 +57,23 @@ QString WebcamUtil::getTemporaryPath()
     return m_pictureDataPath;
 }
 
+void WebcamUtil::restoreTemporaryPath()
+{
+    // A cleaner of temporary files may have taken the area away while the program ran, and somebody
+    // else may have put something in its place.
+    if (!m_pictureDataPath.isEmpty() && !PrivateFolder::isOwn(m_pictureDataPath))
+        m_pictureDataPath.clear();
+    if (m_pictureDataPath.isEmpty())
+        setTemporaryPath();
+}
+
 void WebcamUtil::deleteTemporaryPath()
 {
     // Without the user's number if no area was set up here: a process that never had one must not
     // take away the area of another that is about to use it.
-    const QString path =
-        m_pictureDataPath.isEmpty() ? QDir::tempPath() + temporaryAreaName() : m_pictureDataPath;
+    const QString path = m_pictureDataPath.isEmpty()
+        ? PrivateFolder::temporaryFolder() + temporaryAreaName()
+        : m_pictureDataPath;
     const QDir folder(path);
     if (folder.exists())
         folder.rmpath(path);

@@ -5,12 +5,14 @@
 #include "WebcamUtil.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QFrame>
 #include <QLabel>
 #include <QRegularExpression>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QThread>
@@ -91,6 +93,8 @@ private Q_SLOTS:
 
     void aPhotoBeforeCreateDoesNotTouchTheEngine();
     void aPhotoIsWrittenToTheTemporaryAreaUnderTheNameReturned();
+    void noCaptureTakesTheNameOfAnother();
+    void aPhotoIsWrittenThoughTheAreaHasVanished();
     void aPhotoThatCannotBeWrittenIsANullString();
     void aPhotoIsAtHandWhileItsFileIsWritten();
     void withoutACameraOrAFrameThereIsNoPhoto();
@@ -388,6 +392,43 @@ void LiveVideoWidgetTest::aPhotoIsWrittenToTheTemporaryAreaUnderTheNameReturned(
     const QString path = WebcamUtil::getTemporaryPath() + '/' + name;
     QCOMPARE(callsOf("SaveBitmap"), QStringList{"SaveBitmap(" + path + ')'});
     QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB32), picture);
+}
+
+// As after a clock was set back: the area has the names of all the moments to come.
+void LiveVideoWidgetTest::noCaptureTakesTheNameOfAnother()
+{
+    LiveVideoWidget widget;
+    widget.Create();
+    const QString area = WebcamUtil::getTemporaryPath() + '/';
+    const QDateTime now = QDateTime::currentDateTime();
+    QSet<QString> taken;
+    for (int i = 0; i < 800; ++i) {
+        taken.insert(area + WebcamUtil::CreatePhotofilename(now.addMSecs(i)));
+        taken.insert(WebcamUtil::CreateMoviefilename(now.addSecs(i)));
+    }
+    for (const QString &path : qAsConst(taken))
+        QVERIFY(QFile(path).open(QIODevice::WriteOnly));
+    const QString photo = widget.SaveBmp();
+    QVERIFY2(!photo.isEmpty() && !taken.contains(area + photo), qPrintable(photo));
+    const QString next = widget.takePhoto().name;
+    QVERIFY2(!next.isEmpty() && !taken.contains(area + next), qPrintable(next));
+    QVERIFY(widget.Record());
+    QVERIFY2(!taken.contains(widget.movieFileName()), qPrintable(widget.movieFileName()));
+    for (const QString &path : qAsConst(taken)) {
+        QCOMPARE(QFileInfo(path).size(), 0);
+        QVERIFY(QFile::remove(path));
+    }
+}
+
+// As those of a series are, before which nobody looks at the disk.
+void LiveVideoWidgetTest::aPhotoIsWrittenThoughTheAreaHasVanished()
+{
+    LiveVideoWidget widget;
+    widget.Create();
+    const QString area = WebcamUtil::getTemporaryPath();
+    QVERIFY(QDir(area).removeRecursively());
+    const QString name = widget.SaveBmp();
+    QVERIFY(QFile::exists(area + '/' + name));
 }
 
 void LiveVideoWidgetTest::aPhotoThatCannotBeWrittenIsANullString()

@@ -24,7 +24,7 @@ public:
 
     /// Builds the window as the program does, and shows it.
     CVistrelDlg &build();
-    CVistrelDlg &dialog() { return *m_dialog; }
+    CVistrelDlg &dialog() const { return *m_dialog; }
     bool isBuilt() const { return m_dialog != nullptr; }
 
     /// The child of class @p Child; fails the test when there is none.

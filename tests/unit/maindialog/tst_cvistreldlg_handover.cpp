@@ -112,6 +112,7 @@ private Q_SLOTS:
     void twiceWithinASecondTheSecondReplacesTheFirst();
     void filesOfDifferentSecondsAccumulate();
     void aFolderThatCannotBeMadeIsNotReported();
+    void anAreaThatVanishedIsNotMadeOpenToOthers();
     void aFileThatCannotBeOpenedIsNotReported();
     void withoutATemporaryAreaNothingIsWrittenElsewhere();
     void theFolderSurvivesDiscarding();
@@ -255,6 +256,18 @@ void HandOverTest::aFolderThatCannotBeMadeIsNotReported()
     QVERIFY(inTheWay.open(QIODevice::WriteOnly));
     QCOMPARE(DialogFixture::boxDuring([&] { paste.dialog().OnTVS(); }), QString());
     QVERIFY(QFileInfo(paste.folder()).isFile());
+}
+
+void HandOverTest::anAreaThatVanishedIsNotMadeOpenToOthers()
+{
+    Paste paste;
+    QVERIFY(QDir(paste.temporaryArea()).removeRecursively());
+    paste.dialog().OnTVS();
+    QCOMPARE(paste.files().size(), 1);
+    const QFileInfo area(paste.temporaryArea());
+    QCOMPARE(area.permissions()
+                 & (QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther),
+             QFile::Permissions());
 }
 
 void HandOverTest::aFileThatCannotBeOpenedIsNotReported()

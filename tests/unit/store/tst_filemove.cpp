@@ -1,4 +1,6 @@
 #include "FakeDisk.h"
+#include "FileMove.h"
+#include "OpenFolder.h"
 #include "OrdinaryUser.h"
 #include "SavingPlaces.h"
 #include "StoreFolders.h"
@@ -8,6 +10,7 @@
 #include <QFile>
 #include <QTest>
 
+#include <atomic>
 #include <cerrno>
 #include <memory>
 
@@ -59,6 +62,7 @@ private Q_SLOTS:
     void aLessonOfManyPhotosIsSavedWhole_data();
     void aLessonOfManyPhotosIsSavedWhole();
     void halfCopiesOfASaveThatWasCutOffAreRemoved();
+    void aMoveThatIsGivenUpLeavesTheRestWhereItIs();
 };
 
 void FileMoveTest::aNameThatIsNoTextIsSavedAsItIs_data()
@@ -315,6 +319,27 @@ void FileMoveTest::halfCopiesOfASaveThatWasCutOffAreRemoved()
     QCOMPARE(filesIn(day),
              QStringList({".notes.part", ".part", ".photo2.png", ".photo4.png.part",
                           ".photo5.png.part", "photo3.png.part", "photo9.png"}));
+}
+
+// With the copy made, and the disk awake again after the user was told that it failed.
+void FileMoveTest::aMoveThatIsGivenUpLeavesTheRestWhereItIs()
+{
+    const StoreFolders folders;
+    const AreaElsewhere elsewhere(folders);
+    QVERIFY2(elsewhere.isOther(), "needs a second file system at /dev/shm");
+    const QString area = WebcamUtil::getTemporaryPath();
+    QVERIFY(StoreFolders::write(area + "/photo1.png", "a photo"));
+    QVERIFY(QDir().mkpath(folders.target()));
+    std::atomic<bool> goesOn(true);
+    const FakeDisk disk;
+    FakeDisk::onFlush = [&](const QByteArray &) {
+        goesOn = false;
+        return 0;
+    };
+    const std::vector<QByteArray> left = moveFiles(OpenFolder(area), OpenFolder(folders.target()),
+                                                   {"photo1.png"}, [&] { return bool(goesOn); });
+    QCOMPARE(left.size(), size_t(1));
+    QCOMPARE(StoreFolders::read(area + "/photo1.png"), QByteArray("a photo"));
 }
 
 QTEST_MAIN(FileMoveTest)

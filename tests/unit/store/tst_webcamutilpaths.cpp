@@ -21,6 +21,7 @@ private Q_SLOTS:
     void theDocumentsFolderIsTheHomeFolderOfTheMoment();
     void theTemporaryAreaBelongsToTheUser();
     void theTemporaryAreaLiesInTmpWithoutTmpdir();
+    void aTemporaryFolderThatIsMissingIsMade();
     void anAreaOfAnEarlierRunIsFoundWithItsFiles();
     void anAreaThatCannotBeMadeIsEmptyAndTriedAgain();
     void theAreaIsClosedToOtherUsers_data();
@@ -104,6 +105,15 @@ void WebcamUtilPathsTest::theTemporaryAreaLiesInTmpWithoutTmpdir()
     QVERIFY(QFileInfo(expected).isDir());
     if (!existedBefore)
         QDir().rmdir(expected);
+}
+
+void WebcamUtilPathsTest::aTemporaryFolderThatIsMissingIsMade()
+{
+    const StoreFolders folders;
+    qputenv("TMPDIR", QFile::encodeName(folders.root() + "/not/there"));
+    const QString area = WebcamUtil::getTemporaryPath();
+    QVERIFY2(area.startsWith(folders.root() + "/not/there/"), qPrintable(area));
+    QVERIFY(QFileInfo(area).isDir());
 }
 
 void WebcamUtilPathsTest::anAreaOfAnEarlierRunIsFoundWithItsFiles()
