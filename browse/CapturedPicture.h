@@ -9,8 +9,8 @@
 
 /**
  * Reading the pictures of the temporary area. Null when there is no such file, when it is damaged,
- * or when it is larger than any camera's picture (50 megapixels): a stray file must not take all
- * the memory.
+ * neither a PNG nor a BMP file, or when it is larger than any camera's picture (50 megapixels): a
+ * stray file must not take all the memory.
  */
 namespace CapturedPicture {
 
@@ -23,6 +23,12 @@ QString path(const QString &name);
  * do not hold several of them.
  */
 QImage read(const QString &path);
+
+/**
+ * Whether the file of that bare name says that it is larger than a camera's usual ones (3840x2160),
+ * so that to decode it may take some seconds.
+ */
+bool isLarge(const QString &name);
 
 /**
  * The picture by its bare file name. The one read last is remembered until its file changes: a

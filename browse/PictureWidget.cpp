@@ -35,6 +35,10 @@ void PictureWidget::Loadbmp(const QString &name)
     PictureLoader::shared().forget(this);
     if (!name.isEmpty())
         m_fileName = name;
+    if (CapturedPicture::isLarge(m_fileName)) {
+        loadLater(m_fileName); // the window does not wait for it
+        return;
+    }
     m_pixmap = CapturedPicture::load(m_fileName);
     PictureLoader::shared().prepare(m_fileName);
     m_fittedSize = QSize();
@@ -67,6 +71,10 @@ void PictureWidget::showPicture(const QString &name, const QImage &picture)
 void PictureWidget::reload()
 {
     PictureLoader::shared().forget(this);
+    if (CapturedPicture::isLarge(m_fileName)) {
+        loadLater(m_fileName);
+        return;
+    }
     m_fittedSize = sizeOnScreen();
     m_pixmap = QPixmap::fromImage(PictureLoader::shared().now(m_fileName, m_fittedSize));
     update();

@@ -22,7 +22,8 @@ public:
     explicit PictureWidget(QWidget *parent, Qt::WindowFlags f = {});
     ~PictureWidget() override;
 
-    /// @p name is a bare file name in the temporary area; an empty one loads the same file again.
+    /// @p name is a bare file name in the temporary area; an empty one loads the same file again. A
+    /// picture larger than a camera's usual ones is loaded as by loadLater().
     void Loadbmp(const QString &name);
     /// Like Loadbmp(), but returns at once: the widget stays black until a worker has read the
     /// picture, in the size that the widget has now.
