@@ -1,5 +1,7 @@
 #include "SelectDeviceDlg.h"
 
+#include "TextSize.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QIcon>
@@ -10,10 +12,15 @@
 
 namespace {
 
-constexpr int dialogWidth = 200; // px
+constexpr int plainWidth = 200; // px
 
 // Of the normal 50, on the toolkit's scale from 0 to 99: the font's thinnest, like the other texts.
 constexpr int hairlineWeight = 5;
+
+int dialogWidth()
+{
+    return qRound(plainWidth * TextSize::factor());
+}
 
 QString ownCameraModel()
 {
@@ -57,14 +64,14 @@ SelectDeviceDlg::SelectDeviceDlg(QWidget *parent)
     column->addWidget(m_promptLabel);
     column->addWidget(m_deviceBox);
     column->addWidget(m_okButton);
-    setFixedWidth(dialogWidth);
+    setFixedWidth(dialogWidth());
 
     connect(m_okButton, &QPushButton::clicked, this, &QDialog::accept);
 }
 
 QSize SelectDeviceDlg::sizeHint() const
 {
-    return {dialogWidth, layout()->totalHeightForWidth(dialogWidth)};
+    return {dialogWidth(), layout()->totalHeightForWidth(dialogWidth())};
 }
 
 void SelectDeviceDlg::setVideoDeviceList(const QStringList &names)

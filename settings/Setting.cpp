@@ -9,18 +9,21 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSettings>
 #include <QTextCodec>
 
 #include <algorithm>
 #include <array>
-
 #include <cstdio>
 #include <sys/stat.h>
 
 static const QString emptyFile = QStringLiteral("/dev/null");
 static constexpr int lockLimit = 2000; // ms; nobody writes so small a file for longer
+
 namespace {
+
+constexpr int titleBarRoom = 20; // px; for the title bar of a box on a screen it barely fits
 
 QString settingsFile()
 {
@@ -56,9 +59,6 @@ int readNumber(const QSettings &file, const QString &key, int absent, int least,
     return value;
 }
 
-void select(QComboBox &box, const QString &text, int otherwise)
-{
-    const int index = box.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
 // A file that the toolkit must not read is put aside, where the user finds it, and makes room for a
 // new one. A folder stays.
 bool isReadyToBeWritten(const QString &path)
@@ -82,6 +82,9 @@ bool canBeLocked(const QString &path)
     return lock.tryLock(lockLimit) || lock.error() != QLockFile::LockFailedError;
 }
 
+void select(QComboBox &box, const QString &text, int otherwise)
+{
+    const int index = box.findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
     box.setCurrentIndex(index < 0 ? otherwise : index);
 }
 
@@ -106,12 +109,16 @@ Setting::Setting(QWidget *parent)
     fitRowsToTexts();
     adjustSize();
     setFixedSize(size());
+    m_roomyHeight = height();
+    for (const QWidget *row : rows())
+        m_rowTops.append(row->y());
 }
 
 void Setting::showEvent(QShowEvent * /*event*/)
 {
     readFile();
     setParam();
+    fitRowsToScreen();
     adjustPosition(parentWidget());
 }
 
@@ -154,10 +161,18 @@ void Setting::setCaptions()
     m_ui.tolSaveDirectory->setAccessibleName(tr("SaveDirectory"));
 }
 
-// Rows have fixed places. Where a language needs more room all of them become wider together, and
-// the words behind the boxes equally wide, so that the boxes stay in one column.
+// Rows have fixed places. Where a language or a large text needs more room all of them become wider
+// together, and the boxes and the words behind them equally wide, so that they stay in columns.
 void Setting::fitRowsToTexts()
 {
+    const std::array<QComboBox *, 3> boxes = {m_ui.cmbAutoShooting, m_ui.cmbContinuousShooting,
+                                              m_ui.cmbResolution};
+    int boxWidth = 0;
+    for (const QComboBox *box : boxes)
+        boxWidth = std::max({boxWidth, box->minimumWidth(), box->sizeHint().width()});
+    for (QComboBox *box : boxes)
+        box->setFixedWidth(boxWidth);
+
     const std::array<QLabel *, 3> units = {m_ui.lblShootingInterval, m_ui.lblShootingCount,
                                            m_ui.lblShootingCount_2};
     int unitWidth = 0;
@@ -166,13 +181,46 @@ void Setting::fitRowsToTexts()
     for (QLabel *unit : units)
         unit->setMinimumWidth(unitWidth);
 
-    const auto rows = findChildren<QWidget *>(
-        QRegularExpression(QStringLiteral("^horizontalLayoutWidget")), Qt::FindDirectChildrenOnly);
+    const QList<QWidget *> rows = this->rows();
     int width = 0;
-    for (const QWidget *row : rows)
+    int missing = 0; // of the height of a row
+    for (const QWidget *row : rows) {
         width = std::max({width, row->width(), row->sizeHint().width()});
-    for (QWidget *row : rows)
-        row->resize(width, row->height());
+        missing = std::max(missing, row->sizeHint().height() - row->height());
+    }
+    for (int i = 0; i < rows.size(); ++i)
+        rows[i]->setGeometry(rows[i]->x(), rows[i]->y() + i * missing, width,
+                             rows[i]->height() + missing);
+}
+
+// From the top to the bottom.
+QList<QWidget *> Setting::rows() const
+{
+    auto rows = findChildren<QWidget *>(
+        QRegularExpression(QStringLiteral("^horizontalLayoutWidget")), Qt::FindDirectChildrenOnly);
+    std::sort(rows.begin(), rows.end(),
+              [](const QWidget *one, const QWidget *other) { return one->y() < other->y(); });
+    return rows;
+}
+
+// On a low screen rows move together, as far as they do not overlap. There is one when a large
+// screen that everything is drawn large for gives way to a small one.
+void Setting::fitRowsToScreen()
+{
+    const QWidget *where = parentWidget() ? parentWidget()->window() : this;
+    const int available = where->screen()->availableGeometry().height() - titleBarRoom;
+    const QList<QWidget *> rows = this->rows();
+    int spare = m_roomyHeight; // what the rows leave free
+    for (const QWidget *row : rows)
+        spare -= row->height();
+    const int missing = qBound(0, m_roomyHeight - available, qMax(0, spare));
+    int above = 0; // what is free above the row where there is room
+    for (int i = 0; i < rows.size(); ++i) {
+        const int before = i > 0 ? m_rowTops[i - 1] + rows[i - 1]->height() : 0;
+        above += m_rowTops[i] - before;
+        rows[i]->move(rows[i]->x(), m_rowTops[i] - missing * above / qMax(1, spare));
+    }
+    setFixedHeight(m_roomyHeight - missing);
 }
 
 void Setting::connectControls()
@@ -217,6 +265,8 @@ void Setting::SaveFile()
     m_resolution = m_ui.cmbResolution->currentText();
     m_saveDirectory = m_ui.rbtnCustom->isChecked() ? m_ui.txbSaveDirectory->text() : QString();
 
+    if (!isReadyToBeWritten(settingsFile()) || !canBeLocked(settingsFile()))
+        return; // not noticed, like every other reason why it cannot be written
     QSettings file(settingsFile(), QSettings::IniFormat);
     file.setValue(QStringLiteral("AutoShoot"), m_autoShooting);
     file.setValue(QStringLiteral("AutoShootTime"), m_autoShootingTime);
@@ -265,8 +315,6 @@ QString Setting::getSaveDirectory() const
     return m_ui.txbSaveDirectory->text();
 }
 
-    if (!isReadyToBeWritten(settingsFile()) || !canBeLocked(settingsFile()))
-        return; // not noticed, like every other reason why it cannot be written
 QString Setting::getResolution() const
 {
     return m_ui.cmbResolution->currentText();

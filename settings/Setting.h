@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 /**
  * The modal "Settings" dialog and the owner of the settings file, ".halcyra_orvantacc.ini" in the
@@ -68,7 +69,9 @@ private Q_SLOTS:
     void OnOk();
 
 private:
+    QList<QWidget *> rows() const;
     void fitRowsToTexts();
+    void fitRowsToScreen();
     void connectControls();
 
     // The preferences as last read from or written to the file.
@@ -83,6 +86,9 @@ private:
     QStringList m_autoShootingTimes;
     QStringList m_continuousCounts;
     QStringList m_resolutions;
+
+    QVector<int> m_rowTops; ///< px; where there is room
+    int m_roomyHeight = 0; ///< px; the dialog's there
 
     QString m_defaultSaveDirectory; ///< the home folder when the dialog was built
     Ui_Setting m_ui;

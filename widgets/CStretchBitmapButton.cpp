@@ -2,6 +2,7 @@
 
 #include "ButtonGeometry.h"
 #include "Spoken.h"
+#include "TextSize.h"
 
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -21,6 +22,12 @@ constexpr qreal focusMarkInset = 4;
 constexpr qreal focusMarkRadius = 6;
 constexpr qreal focusMarkRim = 6;
 constexpr qreal focusMarkLine = 3;
+
+// Of the caption's column, which has three of the button's five parts; a text up to the very rim of
+// the bitmap looks cut off.
+constexpr int pictureParts = 2;
+constexpr int captionParts = 3;
+constexpr int captionRim = 6; // px
 
 // Of the screen that the button's window stands on, or will stand on.
 int availableScreenWidth(const QWidget *button)
@@ -100,8 +107,8 @@ void CStretchBitmapButton::createCaption()
     grid->setSpacing(0);
     grid->addWidget(iconSpace, 0, 0);
     grid->addWidget(m_caption, 0, 1);
-    grid->setColumnStretch(0, 2);
-    grid->setColumnStretch(1, 3);
+    grid->setColumnStretch(0, pictureParts);
+    grid->setColumnStretch(1, captionParts);
     setLayoutDirection(Qt::LeftToRight);
     m_caption->setLayoutDirection(textDirection);
 }
@@ -113,6 +120,40 @@ void CStretchBitmapButton::setCaptionText(const QString &text)
     m_caption->setText(mirrored ? QStringLiteral("  ") + text : text);
     const QString spoken = text.simplified();
     setAccessibleName(spoken.isEmpty() ? m_baseName : spoken);
+    fitCaption();
+}
+
+void CStretchBitmapButton::resizeEvent(QResizeEvent *event)
+{
+    QPushButton::resizeEvent(event);
+    fitCaption();
+}
+
+// As large as the desktop's texts are, or, since the button does not grow with them, as large as
+// there is room for, but no smaller than designed.
+void CStretchBitmapButton::fitCaption()
+{
+    static constexpr double step = 0.05;
+    const double most = TextSize::factor();
+    const int points = ButtonGeometry::captionPointSize(availableScreenWidth(this));
+    QFont font(QStringLiteral("Arial"), points, QFont::Black, false);
+    // The toolkit enlarges what is given in points.
+    const auto enlarge = [&](double times) {
+        font.setPointSizeF(qMax(1.0, points * times / most));
+    };
+    double times = most;
+    for (enlarge(times); times > 1 && !captionFits(font); enlarge(times))
+        times = qMax(1.0, times - step);
+    m_caption->setFont(font);
+}
+
+bool CStretchBitmapButton::captionFits(const QFont &font) const
+{
+    const QRect column(0, 0, width() * captionParts / (pictureParts + captionParts), height());
+    const QRect needed = QFontMetrics(font, m_caption)
+                             .boundingRect(column, int(m_caption->alignment()) | Qt::TextWordWrap,
+                                           m_caption->text());
+    return needed.width() <= column.width() - captionRim && needed.height() <= column.height();
 }
 
 QString CStretchBitmapButton::bitmapPath(State state) const
@@ -126,13 +167,12 @@ void CStretchBitmapButton::setIconFromObjectNameBitmap()
 {
     m_bitmaps = {};
     const int screenWidth = availableScreenWidth(this);
-    m_caption->setFont(QFont(QStringLiteral("Arial"), ButtonGeometry::captionPointSize(screenWidth),
-                             QFont::Black, false));
     const QSize bitmap = QImageReader(bitmapPath(Up)).size();
     const QSize size =
         ButtonGeometry::fittedBitmapSize(bitmap.isValid() ? bitmap : QSize(0, 0), screenWidth);
     setBaseSize(size);
     resize(size);
+    fitCaption();
 }
 
 const QPixmap &CStretchBitmapButton::bitmapOf(State state)

@@ -26,6 +26,7 @@ public:
     CStretchBitmapButton(const QString &name, QWidget *parent);
 
     /// Line breaks and blanks are shown as they are; assistive tools are told the text without.
+    /// Where texts are large it is as large as the button has room for.
     void setCaptionText(const QString &text);
     /// Makes bitmaps, size and caption fit the screen, as at first: for a screen that has changed.
     void setIconFromObjectNameBitmap();
@@ -35,6 +36,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     enum State { Up, Down, Disabled, StateCount };
@@ -42,6 +44,8 @@ private:
     QString bitmapPath(State state) const;
     const QPixmap &bitmapOf(State state);
     void createCaption();
+    void fitCaption();
+    bool captionFits(const QFont &font) const;
     bool goToNeighbour(int key);
     void paintFocusMark(QPainter &painter) const;
 

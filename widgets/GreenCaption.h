@@ -1,6 +1,8 @@
 #ifndef GREENCAPTION_H
 #define GREENCAPTION_H
 
+#include "TextSize.h"
+
 #include <QFont>
 #include <QPalette>
 
@@ -23,10 +25,12 @@ inline QPalette palette(QPalette base)
     return base;
 }
 
-/** 24 points. */
+/** 24 points, also on desktops with large texts: larger ones would hide more than they tell. */
 inline QFont font()
 {
-    return {QStringLiteral("Arial"), 24, hairlineWeight, false};
+    QFont font(QStringLiteral("Arial"), 24, hairlineWeight, false);
+    font.setPointSizeF(24 / TextSize::factor());
+    return font;
 }
 
 } // namespace GreenCaption

