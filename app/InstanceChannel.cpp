@@ -45,14 +45,12 @@ InstanceChannel::InstanceChannel(const QString &id, const QString &folder)
     , m_socketPath(socketPathIn(folder, m_open, id))
     , m_lock(folder + "/" + id + ".lock")
 {
-    // Held by a process that is gone it is free at once; held by one that lives, for good.
-    m_lock.setStaleLockTime(0);
     connect(&m_server, &QLocalServer::newConnection, this, &InstanceChannel::welcomeClients);
 }
 
 bool InstanceChannel::becomeFirst()
 {
-    if (m_folder.isEmpty() || (!m_lock.isLocked() && !m_lock.tryLock(0)))
+    if (m_folder.isEmpty() || m_lock.tryLock() != InstanceLock::Locked)
         return false;
     if (!m_server.isListening())
         listen();
@@ -61,7 +59,7 @@ bool InstanceChannel::becomeFirst()
 
 bool InstanceChannel::isTaken()
 {
-    return !m_folder.isEmpty() && !becomeFirst();
+    return !becomeFirst() && !m_folder.isEmpty() && m_lock.tryLock() == InstanceLock::Taken;
 }
 
 bool InstanceChannel::send(const QString &message, int timeoutMs)
@@ -121,6 +119,18 @@ void InstanceChannel::welcomeClients()
         auto *patience = new QTimer(client);
         connect(patience, &QTimer::timeout, client, &QObject::deleteLater);
         patience->start(clientTimeMs);
+    }
+}
+
+void InstanceChannel::answerWaiting()
+{
+    if (!m_server.isListening())
+        return;
+    m_server.waitForNewConnection(0);
+    const auto clients = m_server.findChildren<QLocalSocket *>();
+    for (QLocalSocket *client : clients) {
+        client->waitForReadyRead(0);
+        client->flush();
     }
 }
 

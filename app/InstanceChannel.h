@@ -1,10 +1,10 @@
 #ifndef INSTANCECHANNEL_H
 #define INSTANCECHANNEL_H
 
+#include "InstanceLock.h"
 #include "OpenFolder.h"
 
 #include <QLocalServer>
-#include <QLockFile>
 #include <QObject>
 #include <QString>
 
@@ -20,7 +20,7 @@ class QLocalSocket;
  * length, clients in number and in time.
  *
  * GUI thread only. The first listens from the moment it becomes first, but answers from its event
- * loop.
+ * loop, or when it is told to.
  */
 class InstanceChannel : public QObject {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     static constexpr int clientTimeMs = 5000; ///< what a client may take for its message
 
     /// id names the program; it becomes part of file names. An empty folder is one where nobody can
-    /// be met: this copy is then neither first nor second.
+    /// be met: this copy is then neither first nor second. So is one where nothing can be locked.
     InstanceChannel(const QString &id, const QString &folder);
 
     /// True when this copy is the first, as it may become by this very call.
@@ -42,6 +42,9 @@ public:
     /// that, also for a first that has its lock but does not listen yet. False at once when there
     /// is no other copy, and then this one is the first.
     bool send(const QString &message, int timeoutMs);
+
+    /// Answers, in the first, whoever waits for it now. Does not wait, and handles no event.
+    void answerWaiting();
 
 Q_SIGNALS:
     /// In the first only: somebody's message has come in and was answered.
@@ -57,7 +60,7 @@ private:
     QString m_folder;
     OpenFolder m_open; // outlives the server, whose socket may have its path through it
     QString m_socketPath;
-    QLockFile m_lock; // outlives the server: the next first finds no socket that is still in use
+    InstanceLock m_lock; // outlives the server: the next first finds no socket that is still in use
     QLocalServer m_server;
 };
 

@@ -2,24 +2,27 @@
 
 #include "PrivateFolder.h"
 
-#include <QDir>
-
 #include <unistd.h>
 
 namespace {
 
 // Copies would fight over what was captured, so they meet where that lies. The session's own folder
-// is no such place: a user who is logged in twice, or starts a copy by "su", has two or none.
+// comes second only: a user who is logged in twice, or starts a copy by "su", has two or none. But
+// there nobody else can have taken the place before.
 QString meetingPlace()
 {
-    return QDir::tempPath() + "/orvanta-" + QString::number(geteuid());
+    const QString place = PrivateFolder::ensure(PrivateFolder::temporaryFolder() + "/orvanta-"
+                                                + QString::number(geteuid()));
+    const QString session = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return place.isEmpty() && !session.isEmpty() ? PrivateFolder::ensure(session + "/orvanta")
+                                                 : place;
 }
 
 } // namespace
 
 QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **argv)
     : QApplication(argc, argv)
-    , m_channel(id, PrivateFolder::ensure(meetingPlace()))
+    , m_channel(id, meetingPlace())
 {
     connect(&m_channel, &InstanceChannel::messageReceived, this,
             &QtSingleApplication::messageReceived);
@@ -29,6 +32,11 @@ QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **ar
 bool QtSingleApplication::sendMessage(const QString &message, int timeout)
 {
     return m_channel.send(message, timeout);
+}
+
+void QtSingleApplication::answerWaiting()
+{
+    m_channel.answerWaiting();
 }
 
 bool QtSingleApplication::isFirst()

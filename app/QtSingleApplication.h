@@ -21,6 +21,9 @@ public:
     /// True when the first copy has acknowledged the message. False after timeout ms when it does
     /// not answer, as when its window is stuck; false at once when this copy is the first.
     bool sendMessage(const QString &message, int timeout = 5000);
+    /// In the first copy: answers those who wait for it, as the event loop does, without handling
+    /// any event.
+    void answerWaiting();
     /// True when another copy is the first.
     bool isRunning();
     /// True when this copy is known to be the first; of several copies one at most.

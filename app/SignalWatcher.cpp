@@ -22,10 +22,13 @@ void passOn(int)
     come = 1;
     const int interrupted = errno;
     const char byte = 0;
-    // The pipe is never full: each of the two signals is passed on once.
+    // The pipe is never full: each of the few signals is passed on once.
     [[maybe_unused]] const ssize_t written = write(writeEnd, &byte, 1);
     errno = interrupted;
 }
+
+// The end of the session, an interruption by the keyboard, the end of the terminal.
+constexpr int signals[] = {SIGTERM, SIGINT, SIGHUP};
 
 void handleWith(void (*handler)(int))
 {
@@ -33,8 +36,14 @@ void handleWith(void (*handler)(int))
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART | SA_RESETHAND;
     sigemptyset(&action.sa_mask);
-    sigaction(SIGTERM, &action, nullptr);
-    sigaction(SIGINT, &action, nullptr);
+    for (const int signal : signals) {
+        struct sigaction before = {};
+        // Whoever started the program may have said that it is to outlive its terminal, as "nohup".
+        if (signal == SIGHUP && sigaction(signal, nullptr, &before) == 0
+            && before.sa_handler == SIG_IGN)
+            continue;
+        sigaction(signal, &action, nullptr);
+    }
 }
 
 } // namespace

@@ -9,8 +9,9 @@ class QSocketNotifier;
 class QWidget;
 
 /**
- * Turns the end of a session into an ordinary one: on SIGTERM or SIGINT the window is closed as if
- * the user had closed it, so that a recording is finished first.
+ * Turns the end of a session into an ordinary one: on SIGTERM, SIGINT or SIGHUP, the end of the
+ * terminal, the window is closed as if the user had closed it, so that a recording is finished
+ * first. A SIGHUP that was ignored at the start stays so.
  *
  * A box that is open meanwhile is closed before, as by its own close button, and so is the next one
  * that its flow opens: a window that went away beneath a box would leave a program without windows,

@@ -2,6 +2,8 @@
 #include "CVistrelDlg.h"
 #include "LayoutScale.h"
 #include "LiveVideoWidget.h"
+#include "LostScreen.h"
+#include "LostSession.h"
 #include "PlainButtons.h"
 #include "PromptEnd.h"
 #include "QtSingleApplication.h"
@@ -54,6 +56,7 @@ int runWindow()
     dialog.setVisible(true);
     dialog.raise();
     dialog.chkdevice();
+    const LostScreen lostScreen([&dialog] { dialog.completeUnseen(); });
     return QtSingleApplication::exec();
 }
 
@@ -96,11 +99,14 @@ int main(int argc, char **argv)
     // desktop's own part of the toolkit tells it the entry's name besides.
     QCoreApplication::setApplicationName("orvanta");
     QGuiApplication::setDesktopFileName("orvanta");
+    LostSession::outlive();
     QtSingleApplication application("Orvanta", argc, argv);
     // Left alone, the toolkit closes the window when the user logs out, without asking anything.
     QGuiApplication::setFallbackSessionManagementEnabled(false);
     if (application.sendMessage("Wake up!", 5000))
         return 0;
+    // A camera may take longer to open than another copy waits for an answer.
+    LiveVideoWidget::setMeanwhile([&application] { application.answerWaiting(); });
     // Servers and drivers think while the window is built.
     LiveVideoWidget::beginDeviceList();
     // The answer is not needed: a copy that is there but did not respond in time must not keep the

@@ -208,6 +208,12 @@ bool LoginSession::isCancelled() const
     return d->isCancelled;
 }
 
+void LoginSession::crash()
+{
+    if (d->connection)
+        d->forget();
+}
+
 void LoginSession::end()
 {
     if (d->program)

@@ -32,6 +32,9 @@ public:
     bool isCancelled() const;
     // The session ends for the program.
     void end();
+    // The program's connection is cut without a word, as when a session manager crashes. Another
+    // program may come.
+    void crash();
 
     struct Private;
 

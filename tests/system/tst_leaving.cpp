@@ -21,6 +21,7 @@ private Q_SLOTS:
     void closingTheWindowAsksNothingAndKeepsThePhotos();
     void terminatingTheProcessKeepsThePhotos();
     void aKilledProgramStartsAgainWithItsPhotos();
+    void photosInTheFolderItWasStartedInAreNotItsOwn();
     void theNextStartSweepsWhatAKilledProgramLeftHalfDone();
 
 private:
@@ -137,6 +138,29 @@ void TestLeaving::aKilledProgramStartsAgainWithItsPhotos()
     m_user->program().kill();
     QVERIFY(m_user->startLive());
     QCOMPARE(m_user->program().captured(), files);
+}
+
+// Without a folder for captures of its own it has none.
+void TestLeaving::photosInTheFolderItWasStartedInAreNotItsOwn()
+{
+    m_user = std::make_unique<Session>(ORVANTA_PROGRAM, "cam1", QSize(1280, 720));
+    m_user->program().setEnvironment("TMPDIR", "/dev/null/nowhere");
+    const QString photo = m_user->program().home() + "/photo20240229101500000.png";
+    QVERIFY(QImage(64, 48, QImage::Format_RGB32).save(photo));
+    m_user->program().start();
+    QTRY_VERIFY(m_user->dialog().isActive);
+    QVERIFY(
+        m_user->messageSays("The disk free space is insufficient.\n"
+                            "Taking a picture is discontinued. Please secure the free space. "));
+    QVERIFY(m_user->confirmMessage());
+    QVERIFY(m_user->waitForMainWindow());
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Close"));
+    // It asks where there are files in the folder that it works in instead.
+    QTRY_VERIFY(!m_user->program().isRunning() || m_user->dialog().isActive);
+    if (m_user->program().isRunning())
+        QVERIFY(m_user->answerExitQuestion("No"));
+    QVERIFY(m_user->program().hasEndedWithin(patience));
+    QVERIFY(QFile::exists(photo));
 }
 
 void TestLeaving::theNextStartSweepsWhatAKilledProgramLeftHalfDone()

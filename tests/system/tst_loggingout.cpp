@@ -22,8 +22,11 @@ private Q_SLOTS:
     void whereNobodyMayBeAskedThePhotosAreKept();
     void theQuestionAtExitIsAskedOnceMore();
     void aRecordingIsSavedWhole();
+    void theProgramOutlivesItsSessionManager();
 
 private:
+    qint64 windowsWork() const;
+
     bool endsWithItsSession();
 
     std::unique_ptr<LoginSession> m_login;
@@ -139,6 +142,39 @@ void TestLoggingOut::aRecordingIsSavedWhole()
     QCOMPARE(movie.complaints(), QStringList());
     QVERIFY2(movie.duration() > 1.4, qPrintable(QString::number(movie.duration())));
     QVERIFY(movie.frames().size() > 10);
+}
+
+// Ticks of the processor that the window's thread takes in a while.
+qint64 TestLoggingOut::windowsWork() const
+{
+    static constexpr int whileMs = 1500;
+    const auto ticks = [this]() -> qint64 {
+        const qint64 pid = m_user->program().pid();
+        QFile file(QStringLiteral("/proc/%1/task/%1/stat").arg(pid));
+        if (!file.open(QIODevice::ReadOnly))
+            return 0;
+        const QByteArrayList fields = file.readAll().split(')').last().split(' ');
+        return fields.value(12).toLongLong() + fields.value(13).toLongLong();
+    };
+    const qint64 before = ticks();
+    QTest::qWait(whileMs); // nothing to wait for: work that must not be done
+    return ticks() - before;
+}
+
+void TestLoggingOut::theProgramOutlivesItsSessionManager()
+{
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Movie"));
+    QVERIFY(m_user->waitForPressable(WindowMap::RecordingScreen, {"MovieStop"}));
+    const qint64 usualWork = windowsWork();
+    m_login->crash();
+    const qint64 work = windowsWork();
+    QVERIFY2(work < 2 * usualWork + 20, qPrintable(QString("%1, not %2").arg(work).arg(usualWork)));
+    QVERIFY(m_user->program().isRunning());
+    QVERIFY(m_user->isRecording());
+    QVERIFY(m_user->isLiveAt(m_user->map().videoRect()));
+    m_user->program().terminate();
+    QVERIFY(m_user->program().hasEndedWithin(patience));
+    QVERIFY(!m_user->program().hasCrashed());
 }
 
 QTEST_MAIN(TestLoggingOut)

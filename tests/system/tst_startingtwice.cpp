@@ -1,3 +1,4 @@
+#include "LabCommands.h"
 #include "Session.h"
 
 #include <QDir>
@@ -6,6 +7,7 @@
 #include <QTest>
 
 #include <memory>
+#include <unistd.h>
 
 // One camera, one program: what a second start does, and what belongs to each start.
 class TestStartingTwice : public QObject {
@@ -14,6 +16,7 @@ class TestStartingTwice : public QObject {
 private Q_SLOTS:
     void theSecondStartEndsSoonAndShowsNothing();
     void theSecondStartEndsWhileTheFirstAsksSomething();
+    void theSecondStartEndsWhileTheFirstOpensASlowCamera();
     void theSecondStartEndsInAnotherSession();
     void aStuckFirstHoldsTheSecondUpForFiveSeconds();
     void afterAKillTheNextStartIsAFirstOne();
@@ -59,6 +62,26 @@ void TestStartingTwice::theSecondStartEndsWhileTheFirstAsksSomething()
     QVERIFY(second.hasEndedWithin(5000));
     QCOMPARE(second.exitStatus(), 0);
     QCOMPARE(user.dialog().title, QString("Settings"));
+}
+
+// Slow enough that a user starts it once more.
+void TestStartingTwice::theSecondStartEndsWhileTheFirstOpensASlowCamera()
+{
+    QVERIFY(labctl({"freeze", "cam1"}));
+    Program first(ORVANTA_PROGRAM);
+    first.start();
+    const QString socket = QStringLiteral("%1/orvanta-%2/Orvanta.socket");
+    const QString path = socket.arg(first.temporaryFolder()).arg(geteuid());
+    QVERIFY(QTest::qWaitFor([&] { return QFile::exists(path); }, 20000));
+    Program second(ORVANTA_PROGRAM);
+    second.setEnvironment("TMPDIR", first.temporaryFolder());
+    second.start();
+    const bool hasEnded = second.hasEndedWithin(20000);
+    QVERIFY(labctl({"thaw", "cam1"}));
+    QVERIFY(hasEnded);
+    QVERIFY(!second.hasCrashed());
+    QCOMPARE(second.exitStatus(), 0);
+    QVERIFY(first.isRunning());
 }
 
 void TestStartingTwice::theSecondStartEndsInAnotherSession()

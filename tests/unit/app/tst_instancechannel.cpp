@@ -14,6 +14,7 @@
 #include <future>
 #include <memory>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -56,6 +57,9 @@ private Q_SLOTS:
     void theFirstToAskIsTheFirst();
     void theNextOneTakesOverWhenTheFirstIsGone();
     void withoutAFolderNobodyIsMet();
+    void whereNothingCanBeLockedNobodyIsMet();
+    void whatACrashedFirstLeftIsNoLock_data();
+    void whatACrashedFirstLeftIsNoLock();
     void theSocketIsForThisUserOnly();
     void aFolderWithALongPathIsNoHindrance_data();
     void aFolderWithALongPathIsNoHindrance();
@@ -68,6 +72,7 @@ private Q_SLOTS:
     void aFirstThatDoesNotAnswerIsGivenUpAfterTheTime();
     void aFirstThatAnswersSomethingElseHasNotAcknowledged();
     void aSenderBecomesFirstWhenTheFirstEndsMeanwhile();
+    void aFirstWithoutTimeForItsEventsAnswersWhenToldTo();
 
     void garbageFromAClientIsDropped_data();
     void garbageFromAClientIsDropped();
@@ -120,6 +125,42 @@ void tst_InstanceChannel::withoutAFolderNobodyIsMet()
     QVERIFY(!channel.becomeFirst());
     QVERIFY(!channel.isTaken());
     QVERIFY(!channel.send("Wake up!", 60000));
+}
+
+void tst_InstanceChannel::whereNothingCanBeLockedNobodyIsMet()
+{
+    QVERIFY(QDir(folder()).mkdir("Orvanta.lock")); // a folder, which cannot be made a file
+    InstanceChannel channel("Orvanta", folder());
+    QVERIFY(!channel.becomeFirst());
+    QVERIFY(!channel.isTaken());
+    QVERIFY(!channel.send("Wake up!", 60000));
+}
+
+void tst_InstanceChannel::whatACrashedFirstLeftIsNoLock_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("nothing, since the disk was full") << QByteArray();
+    QTest::newRow("half a line") << QByteArray("12");
+    // Of a process that lives, but is something else now.
+    const QByteArray process = QByteArray::number(getpid());
+    const QByteArray program = QCoreApplication::applicationName().toUtf8();
+    QTest::newRow("what it wrote before the computer was given another name")
+        << process + '\n' + program + "\nanother-name\n\n\n";
+    QTest::newRow("a number that somebody else's process has now")
+        << process + '\n' + program + '\n' + QSysInfo::machineHostName().toUtf8() + "\n\n\n";
+}
+
+void tst_InstanceChannel::whatACrashedFirstLeftIsNoLock()
+{
+    QFETCH(QByteArray, content);
+    QFile left(m_dir->filePath("Orvanta.lock"));
+    QVERIFY(left.open(QIODevice::WriteOnly));
+    QCOMPARE(left.write(content), qint64(content.size()));
+    left.close();
+    InstanceChannel channel("Orvanta", folder());
+    QVERIFY(!channel.isTaken());
+    QVERIFY(channel.becomeFirst());
+    QVERIFY(QFile::exists(socketPath()));
 }
 
 void tst_InstanceChannel::theSocketIsForThisUserOnly()
@@ -202,8 +243,8 @@ void tst_InstanceChannel::aMessageThatIsTooLongIsNotSent()
 
 void tst_InstanceChannel::aFirstThatDoesNotListenYetIsWaitedFor()
 {
-    QLockFile lock(m_dir->filePath("Orvanta.lock"));
-    QVERIFY(lock.tryLock());
+    InstanceLock lock(m_dir->filePath("Orvanta.lock"));
+    QCOMPARE(lock.tryLock(), InstanceLock::Locked);
     Sender second(folder(), "Wake up!", 20000);
     QTest::qWait(200); // nothing to wait for: an end that must not come
     QVERIFY(!second.isFinished());
@@ -222,8 +263,8 @@ void tst_InstanceChannel::aFirstThatDoesNotListenYetIsWaitedFor()
 
 void tst_InstanceChannel::aFirstThatDoesNotAnswerIsGivenUpAfterTheTime()
 {
-    QLockFile lock(m_dir->filePath("Orvanta.lock"));
-    QVERIFY(lock.tryLock());
+    InstanceLock lock(m_dir->filePath("Orvanta.lock"));
+    QCOMPARE(lock.tryLock(), InstanceLock::Locked);
     QLocalServer mute; // its clients are connected by the kernel, nobody ever reads them
     QVERIFY(mute.listen(socketPath()));
 
@@ -238,8 +279,8 @@ void tst_InstanceChannel::aFirstThatDoesNotAnswerIsGivenUpAfterTheTime()
 
 void tst_InstanceChannel::aFirstThatAnswersSomethingElseHasNotAcknowledged()
 {
-    QLockFile lock(m_dir->filePath("Orvanta.lock"));
-    QVERIFY(lock.tryLock());
+    InstanceLock lock(m_dir->filePath("Orvanta.lock"));
+    QCOMPARE(lock.tryLock(), InstanceLock::Locked);
     QLocalServer stranger;
     QVERIFY(stranger.listen(socketPath()));
     int answered = 0;
@@ -255,14 +296,29 @@ void tst_InstanceChannel::aFirstThatAnswersSomethingElseHasNotAcknowledged()
 
 void tst_InstanceChannel::aSenderBecomesFirstWhenTheFirstEndsMeanwhile()
 {
-    QScopedPointer<QLockFile> lock(new QLockFile(m_dir->filePath("Orvanta.lock")));
-    QVERIFY(lock->tryLock());
+    QScopedPointer<InstanceLock> lock(new InstanceLock(m_dir->filePath("Orvanta.lock")));
+    QCOMPARE(lock->tryLock(), InstanceLock::Locked);
     Sender second(folder(), "Wake up!", 60000);
     QTest::qWait(100); // nothing to wait for: an end that must not come
     QVERIFY(!second.isFinished());
     lock.reset();
     QTRY_VERIFY(second.isFinished());
     QVERIFY(!second.delivered());
+}
+
+void tst_InstanceChannel::aFirstWithoutTimeForItsEventsAnswersWhenToldTo()
+{
+    InstanceChannel first("Orvanta", folder());
+    QVERIFY(first.becomeFirst());
+    QSignalSpy received(&first, &InstanceChannel::messageReceived);
+    for (int i = 0; i < 3; ++i) {
+        Sender second(folder(), "Wake up!", patience);
+        while (!second.isFinished())
+            first.answerWaiting();
+        QVERIFY(second.delivered());
+        QCOMPARE(received.size(), 0); // it is busy with something else
+    }
+    QTRY_COMPARE(received.size(), 3);
 }
 
 void tst_InstanceChannel::garbageFromAClientIsDropped_data()

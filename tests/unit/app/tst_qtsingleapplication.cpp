@@ -71,6 +71,7 @@ private Q_SLOTS:
     void aStuckFirstIsGivenUpAfterTheTime();
     void aFirstInAModalDialogStillAnswers();
     void copiesOfSeveralSessionsMeet();
+    void copiesMeetThoughTheirPlaceIsTaken();
     void copiesWithOtherTemporaryFoldersRunBesideEachOther();
 
 private:
@@ -193,6 +194,19 @@ void tst_QtSingleApplication::copiesOfSeveralSessionsMeet()
         Copy second(m_temporary->path(), 20000, session);
         QTRY_VERIFY_WITH_TIMEOUT(second.foundAnother(), 20000);
     }
+    QVERIFY(!first.hasEnded());
+}
+
+// By somebody else, who could do so in a folder that is everybody's.
+void tst_QtSingleApplication::copiesMeetThoughTheirPlaceIsTaken()
+{
+    QVERIFY(QFile(folder()).open(QIODevice::WriteOnly));
+    const QTemporaryDir session;
+    Copy first(m_temporary->path(), 20000, session.path());
+    QTRY_VERIFY(first.runs());
+    Copy second(m_temporary->path(), 20000, session.path());
+    QTRY_VERIFY_WITH_TIMEOUT(second.hasEnded() || second.runs(), 20000);
+    QVERIFY(second.foundAnother());
     QVERIFY(!first.hasEnded());
 }
 

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void boxesAreClosedBeforeTheWindow();
     void afterTheFirstSignalTheUsualEffectIsBack();
     void withoutAWatcherTheUsualEffectIsBack();
+    void whatWasIgnoredStaysIgnored();
 };
 
 namespace {
@@ -35,6 +36,7 @@ void tst_SignalWatcher::aSignalClosesTheWindowFromTheEventLoop_data()
     QTest::addColumn<int>("signal");
     QTest::newRow("SIGTERM") << SIGTERM;
     QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGHUP") << SIGHUP;
 }
 
 void tst_SignalWatcher::aSignalClosesTheWindowFromTheEventLoop()
@@ -89,6 +91,21 @@ void tst_SignalWatcher::withoutAWatcherTheUsualEffectIsBack()
     }
     QVERIFY(endsTheProgram(SIGTERM));
     QVERIFY(endsTheProgram(SIGINT));
+}
+
+// Started by "nohup" it is to outlive its terminal.
+void tst_SignalWatcher::whatWasIgnoredStaysIgnored()
+{
+    std::signal(SIGHUP, SIG_IGN);
+    {
+        QWidget window;
+        window.show();
+        const SignalWatcher watcher(&window);
+        QCOMPARE(kill(getpid(), SIGHUP), 0);
+        QVERIFY(!SignalWatcher::hasCome());
+        QVERIFY(!QTest::qWaitFor([&] { return !window.isVisible(); }, 200));
+    }
+    QVERIFY(std::signal(SIGHUP, SIG_DFL) == SIG_IGN);
 }
 
 QTEST_MAIN(tst_SignalWatcher)
