@@ -159,9 +159,11 @@ QVector<QRect> DialogGeometry::viewPlaces(const QRect &video) const
             seriesPhotoRect(seriesLive)};
 }
 
+// The rows before the single cell: where a row begins at the very edge its first place is that
+// cell, too, but not on the next screen.
 QVector<QRect> DialogGeometry::buttonPlaces() const
 {
-    QVector<QRect> places = {buttonCell(), acceptCell(), retryCell()};
+    QVector<QRect> places;
     const auto addRow = [&](double start, int count) {
         for (int i = 0; i < count; ++i)
             places.append(cellAt(start + i * m_button.width()));
@@ -169,5 +171,6 @@ QVector<QRect> DialogGeometry::buttonPlaces() const
     addRow(rowStart(5), 5);
     addRow(rowStart(3), 3);
     addRow(movieRowStart(), 3);
+    places << acceptCell() << retryCell() << buttonCell();
     return places;
 }

@@ -1,6 +1,8 @@
 #ifndef FOOTPRINT_H
 #define FOOTPRINT_H
 
+#include <QtGlobal>
+
 /// What a process keeps, to be compared before and after something was done many times.
 struct Footprint {
     int threads = 0;
@@ -15,6 +17,8 @@ struct Footprint {
 
     /// Of this process, now.
     static Footprint now();
+    /// Of another of this user's; memory is negative when it is gone.
+    static Footprint of(qint64 pid);
 };
 
 #endif

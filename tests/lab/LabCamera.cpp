@@ -204,6 +204,8 @@ void LabCamera::setPaced(bool paced)
     // A first expiry of zero would switch the timer off, so it comes after a nanosecond.
     timespec first = {0, paced ? 1 : 0};
     timespec period = {0, paced ? 1000000000L / m_options.rate : 0};
+    if (paced && m_options.rate == 1)
+        period = {1, 0}; // a timer takes no whole second for nanoseconds
     pw_loop_update_timer(pw_main_loop_get_loop(m_loop), m_timer, &first, &period, false);
 }
 

@@ -28,7 +28,7 @@ bool addSize(const std::string &text, LabCamera::Options *options)
 bool setRate(const std::string &text, int *rate)
 {
     *rate = QString::fromStdString(text).toInt();
-    return *rate >= 2 && *rate <= 120;
+    return *rate >= 1 && *rate <= 120;
 }
 
 bool setOption(const std::string &option, const std::string &value, LabCamera::Options *options)

@@ -3,6 +3,7 @@
 
 #include <QGuiApplication>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScreen>
 
 #include <memory>
@@ -17,6 +18,8 @@ private Q_SLOTS:
     void theLiveScreenFindsItsNewPlaceAndTheOldOne();
     void aPhotoThatWaitsIsStillThereAndAccepted();
     void aRecordingGoesOn();
+    void aSeriesGoesOn();
+    void aMoviePlaysOnAndIsInTheList();
     void chosenThumbnailsStayChosen();
     void tilesAndAnEnlargedOneFindTheirPlaces();
     void theWindowMovesOverWhenItsScreenIsPulledOut();
@@ -81,6 +84,49 @@ void TestChangingScreen::aRecordingGoesOn()
     QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
     QVERIFY(m_user->pressWhenReady(WindowMap::RecordingScreen, "MovieStop"));
     QVERIFY(m_user->pressWhenReady(WindowMap::MovieScreen, "Live"));
+}
+
+void TestChangingScreen::aSeriesGoesOn()
+{
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti"));
+    QTRY_VERIFY(!m_user->program().captured().filter(QRegularExpression("^photo")).isEmpty());
+    QVERIFY(setMode("800x600"));
+    QVERIFY(m_user->waitForMainWindowAt(m_small));
+    QVERIFY(m_user->waitForPressable(WindowMap::LiveScreen, {"Live", "PhotoMulti"}));
+    QTRY_VERIFY(m_user->isLiveAt(m_user->map().seriesLiveRect()));
+    QTRY_VERIFY(m_user->isStillAt(m_user->map().seriesPhotoRect()));
+    // The next one comes by itself.
+    QTRY_VERIFY(m_user->program().captured().filter(QRegularExpression("^photo")).size() > 1);
+    QTRY_VERIFY(m_user->isStillAt(m_user->map().seriesPhotoRect()));
+    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Live"));
+    QTRY_VERIFY(m_user->isLiveAt(m_user->map().videoRect()));
+}
+
+void TestChangingScreen::aMoviePlaysOnAndIsInTheList()
+{
+    QVERIFY(m_user->beginMovie());
+    QTest::qWait(6000); // nothing to wait for: the movie's length, to see it before its end
+    QVERIFY(m_user->pressWhenReady(WindowMap::RecordingScreen, "MovieStop"));
+    QVERIFY(m_user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
+    QTRY_VERIFY(m_user->counterAt(m_user->map().videoRect()) > 0);
+    QVERIFY(setMode("800x600"));
+    QVERIFY(m_user->waitForMainWindowAt(m_small));
+    const int counter = m_user->counterAt(m_user->map().videoRect());
+    QTRY_VERIFY(m_user->counterAt(m_user->map().videoRect()) > counter);
+    QVERIFY(m_user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay")); // it has ended
+    QVERIFY(m_user->pressWhenReady(WindowMap::PlayingScreen, "MoviePause"));
+
+    QVERIFY(m_user->pressWhenReady(WindowMap::MovieScreen, "List"));
+    QVERIFY(m_user->waitForPressable(WindowMap::MovieListScreen, {"Live", "SwitchPhoto", "Close"}));
+    QVERIFY(setMode("1024x768"));
+    QVERIFY(m_user->waitForMainWindowAt(m_large));
+    m_user->desktop().click(m_user->map().thumbnail(0).center());
+    QTRY_VERIFY(m_user->isStillAt(m_user->map().selectionRect()));
+    QVERIFY(setMode("800x600"));
+    QVERIFY(m_user->waitForMainWindowAt(m_small));
+    QTRY_VERIFY(m_user->isStillAt(m_user->map().selectionRect()));
+    QVERIFY(m_user->pressWhenReady(WindowMap::MovieListScreen, "Show"));
+    QVERIFY(m_user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay"));
 }
 
 void TestChangingScreen::chosenThumbnailsStayChosen()

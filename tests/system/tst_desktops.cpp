@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 // One lesson on the desktop that the lab was made with: whoever manages the windows there, the one
@@ -27,6 +28,7 @@ private Q_SLOTS:
 private:
     bool isOnWayland() const { return qEnvironmentVariableIsSet("ORVANTA_LAB_SCREEN"); }
     bool isCovered() const;
+    bool hasEffect(const std::function<bool()> &press, const std::function<bool()> &isSeen) const;
 
     std::unique_ptr<Session> m_user;
     QString m_output; ///< of the program, up to its end
@@ -53,6 +55,7 @@ void TestDesktops::initTestCase()
 void TestDesktops::theWindowCoversTheScreen()
 {
     QCOMPARE(m_user->mainWindow().geometry, m_user->desktop().screen());
+    m_user->desktop().moveMouse({0, 0}); // a compositor draws it, perhaps on a button
     QVERIFY(m_user->waitForPressable(
         WindowMap::LiveScreen,
         {"Live", "Photo", "PhotoMulti", "Movie", "List", "Settings", "Close"}));
@@ -85,8 +88,6 @@ void TestDesktops::theWindowComesBackInFront()
         seen = QTest::qWaitFor([this] { return isCovered(); }, 400);
     }
     keepPicture(*m_user, "covered");
-    if (isOnWayland())
-        return; // it does not, and says so
     const SpareTime time;
     QElapsedTimer timer;
     timer.start();
@@ -117,13 +118,27 @@ void TestDesktops::aMessageCanBeReadAndConfirmed()
     QVERIFY(m_user->confirmMessage());
 }
 
+// A compositor may lose a press of the lab's while it draws a box that has just come or gone: on a
+// Wayland desktop, and only there, it is repeated.
+bool TestDesktops::hasEffect(const std::function<bool()> &press,
+                             const std::function<bool()> &isSeen) const
+{
+    const int tries = isOnWayland() ? 4 : 1;
+    for (int i = 0; i < tries; ++i)
+        if (press() && QTest::qWaitFor(isSeen, 30000 / tries))
+            return true;
+    return false;
+}
+
 void TestDesktops::theQuestionAtExitIsAnswered()
 {
-    QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "Close"));
-    const bool isAnswered = m_user->answerExitQuestion("No");
+    const bool isAsked =
+        hasEffect([this] { return m_user->pressWhenReady(WindowMap::LiveScreen, "Close"); },
+                  [this] { return m_user->dialog().isActive; });
     keepPicture(*m_user, "exit");
-    QVERIFY(isAnswered);
-    QVERIFY(m_user->program().hasEndedWithin(10000));
+    QVERIFY(isAsked);
+    QVERIFY(hasEffect([this] { return m_user->answerExitQuestion("No"); },
+                      [this] { return m_user->program().hasEndedWithin(100); }));
     QCOMPARE(m_user->program().exitStatus(), 0);
     m_user.reset();
 }
