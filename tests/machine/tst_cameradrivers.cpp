@@ -6,6 +6,7 @@
 #include "GstStart.h"
 #include "LiveVideoData.h"
 #include "PictureConverter.h"
+#include "SpareTime.h"
 
 #include <QFrame>
 #include <QSignalSpy>
@@ -83,6 +84,7 @@ private:
     bool open();
     QImage photo();
     bool framesGoOn();
+    static int framesInStep(CameraPipeline &camera, int rate, int frames);
     static std::unique_ptr<CameraPipeline> pipelineOf(const QByteArray &format, const QSize &size,
                                                       int rate);
 
@@ -347,20 +349,16 @@ void TestCameraDrivers::framesComeAtTheRateThatWasChosen_data()
         QTest::addRow("%d", rate) << rate;
 }
 
-// By the times of the driver: a slow machine loses frames, but none comes at a wrong time.
-void TestCameraDrivers::framesComeAtTheRateThatWasChosen()
+// Of the next frames, how many came as many periods after the one before as the rate says. By the
+// times of the driver, which on a machine without time are those of when it had some.
+int TestCameraDrivers::framesInStep(CameraPipeline &camera, int rate, int frames)
 {
-    QFETCH(int, rate);
-    begin({Kind::Webcam});
-    const std::unique_ptr<CameraPipeline> camera = pipelineOf("YUY2", {320, 180}, rate);
-    QVERIFY(camera);
-    QVERIFY(camera->play());
     GstClockTime last = GST_CLOCK_TIME_NONE;
     int inStep = 0;
-    const int frames = 12;
     for (int i = 0; i < frames; ++i) {
-        const GstMiniHandle<GstSample> sample = camera->nextSample(frameLimit);
-        QVERIFY2(sample, qPrintable(camera->failure()));
+        const GstMiniHandle<GstSample> sample = camera.nextSample(frameLimit);
+        if (!sample)
+            return -1;
         const GstClockTime time = GST_BUFFER_PTS(gst_sample_get_buffer(sample.get()));
         if (last != GST_CLOCK_TIME_NONE) {
             const double steps = double(time - last) * rate / double(GST_SECOND);
@@ -368,7 +366,28 @@ void TestCameraDrivers::framesComeAtTheRateThatWasChosen()
         }
         last = time;
     }
-    QVERIFY2(inStep >= frames - 3, qPrintable(QString::number(inStep)));
+    return inStep;
+}
+
+// A slow machine loses frames, but none comes at a wrong time.
+void TestCameraDrivers::framesComeAtTheRateThatWasChosen()
+{
+    QFETCH(int, rate);
+    begin({Kind::Webcam});
+    const std::unique_ptr<CameraPipeline> camera = pipelineOf("YUY2", {320, 180}, rate);
+    QVERIFY(camera);
+    QVERIFY(camera->play());
+    const int frames = 12;
+    const int mostTries = 10;
+    for (int i = 0; i < mostTries; ++i) {
+        const SpareTime spare;
+        const int inStep = framesInStep(*camera, rate, frames);
+        QVERIFY2(inStep >= 0, qPrintable(camera->failure()));
+        if (inStep >= frames - 3)
+            return;
+        QVERIFY2(!spare.isPlenty(), qPrintable(QString::number(inStep)));
+    }
+    QSKIP("the machine had no time for a camera that keeps its rate");
 }
 
 QTEST_MAIN(TestCameraDrivers)

@@ -1,6 +1,7 @@
 #include "LabPattern.h"
 #include "LiveVideoData.h"
 #include "MovieFile.h"
+#include "Opening.h"
 #include "UvcPlug.h"
 
 #include <QDir>
@@ -101,8 +102,7 @@ void TestUvcCameras::open(const QStringList &names, int index)
 {
     QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList(), names, patience);
     m_engine->SetVideoDevice(index);
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
     m_engine->Start();
 }
 
@@ -223,8 +223,7 @@ void TestUvcCameras::aPulledCameraIsLostOnceAndFoundInAnotherPort()
     QVERIFY(camera.plugIn(3));
     QVERIFY(camera.nodes() != nodes);
     QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList().size(), 2, patience);
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
     QVERIFY(showsCameraOf("A1"));
     QCOMPARE(m_losses->count(), 1);
 }
@@ -269,8 +268,7 @@ void TestUvcCameras::aMovieOfAPulledCameraIsComplete()
     open({"Desk Camera"});
     QTRY_VERIFY_WITH_TIMEOUT(m_engine->IsValidAudioDevice(), patience);
     const QString path = m_folder.filePath("movie.mov");
-    m_engine->Record(path);
-    QVERIFY(m_engine->IsRecording());
+    QVERIFY(records(*m_engine, path));
     const int begin = LabPattern::counterOf(photo());
     QTRY_VERIFY_WITH_TIMEOUT(LabPattern::counterOf(photo()) > begin + 45, patience);
     QVERIFY(camera.pullOut());
@@ -353,8 +351,7 @@ void TestUvcCameras::twoOfOneModelThatChangedPlacesAreKeptApart()
     QVERIFY(second.plugIn(0));
     QVERIFY(first.plugIn(1));
     QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList().size(), 2, patience);
-    m_engine->Create();
-    QVERIFY(m_engine->created);
+    QVERIFY(opens(*m_engine));
     QVERIFY(showsCameraOf("A1"));
 }
 
