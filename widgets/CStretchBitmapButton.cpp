@@ -29,6 +29,8 @@ constexpr int pictureParts = 2;
 constexpr int captionParts = 3;
 constexpr int captionRim = 6; // px
 
+constexpr int drawAgainTime = 300; // ms; the first picture of the change is on the screen by then
+
 // Of the screen that the button's window stands on, or will stand on.
 int availableScreenWidth(const QWidget *button)
 {
@@ -76,6 +78,9 @@ CStretchBitmapButton::CStretchBitmapButton(const QString &name, QWidget *parent)
     setCheckable(false);
     createCaption();
     setIconFromObjectNameBitmap();
+    m_drawAgain.setSingleShot(true);
+    m_drawAgain.setInterval(drawAgainTime);
+    connect(&m_drawAgain, &QTimer::timeout, this, [this] { update(); });
     hide();
 }
 
@@ -127,6 +132,15 @@ void CStretchBitmapButton::resizeEvent(QResizeEvent *event)
 {
     QPushButton::resizeEvent(event);
     fitCaption();
+}
+
+// What is drawn while a compositor fetches what was drawn before can stay off the screen (mutter on
+// a busy computer, in one of 15 photos): the button would look dead though it can be pressed.
+bool CStretchBitmapButton::event(QEvent *event)
+{
+    if (event->type() == QEvent::EnabledChange || event->type() == QEvent::Show)
+        m_drawAgain.start();
+    return QPushButton::event(event);
 }
 
 // As large as the desktop's texts are, or, since the button does not grow with them, as large as

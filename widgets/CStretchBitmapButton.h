@@ -3,6 +3,7 @@
 
 #include <QPixmap>
 #include <QPushButton>
+#include <QTimer>
 
 #include <array>
 #include <optional>
@@ -37,6 +38,8 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    /// One that appears, can be pressed from now on, or no longer, is drawn twice.
+    bool event(QEvent *event) override;
 
 private:
     enum State { Up, Down, Disabled, StateCount };
@@ -52,6 +55,7 @@ private:
     QLabel *m_caption = nullptr;
     QString m_baseName;
     std::array<std::optional<QPixmap>, StateCount> m_bitmaps; ///< of those painted so far
+    QTimer m_drawAgain;
 };
 
 #endif

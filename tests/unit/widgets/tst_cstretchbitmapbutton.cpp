@@ -36,6 +36,20 @@ struct Stage {
     CStretchBitmapButton *button = nullptr;
 };
 
+// Counts how often a widget is drawn.
+class Draws : public QObject {
+public:
+    explicit Draws(QWidget *widget) { widget->installEventFilter(this); }
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
 // Mirrors the whole program for the length of a test.
 struct RightToLeft {
     RightToLeft() { QApplication::setLayoutDirection(Qt::RightToLeft); }
@@ -76,6 +90,7 @@ private Q_SLOTS:
     void arrowsGoBesideAsTheRowStandsInEveryLanguage();
     void arrowsSkipWhatCannotBePressed();
     void onlyTheKeyboardFocusIsMarked();
+    void whatCanBePressedFromNowOnIsDrawnTwice();
 };
 
 void TestCStretchBitmapButton::aBitmapIsShrunkToASixthOfTheScreenAndNeverEnlarged_data()
@@ -426,6 +441,21 @@ void TestCStretchBitmapButton::onlyTheKeyboardFocusIsMarked()
     // Bright on a dark rim, for faces of any colour.
     QVERIFY(stage.colorAt(104, 30).value() > 200);
     QVERIFY(stage.colorAt(101, 30).value() < upColor.value());
+}
+
+// A compositor may have missed the first time.
+void TestCStretchBitmapButton::whatCanBePressedFromNowOnIsDrawnTwice()
+{
+    Stage stage("Small");
+    stage.button->setEnabled(false);
+    stage.open();
+    QVERIFY(QTest::qWaitForWindowExposed(&stage.window));
+    Draws draws(stage.button);
+    QVERIFY(!QTest::qWaitFor([&] { return draws.count > 2; }, 1000));
+    draws.count = 0;
+    stage.button->setEnabled(true);
+    QTRY_COMPARE(draws.count, 2);
+    QVERIFY(!QTest::qWaitFor([&] { return draws.count > 2; }, 1000));
 }
 
 QTEST_MAIN(TestCStretchBitmapButton)
