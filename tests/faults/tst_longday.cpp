@@ -69,7 +69,7 @@ void TestLongDay::initTestCase()
     QVERIFY(m_user->program().writeSettings("AutoShoot=0\nContinuShootCount=2\n"));
     QVERIFY(m_user->startLive());
     // What is made once and kept.
-    const int rounds = FaultTrial::isWholeSuite() ? 10 : 1;
+    const int rounds = FaultTrial::isWholeSuite() ? 40 : 1; // some minutes
     for (int round = 0; round < rounds; ++round)
         QVERIFY(takePhoto() && takeSeries() && recordAndPlayMovie());
     m_morning = settledHoldings();

@@ -49,7 +49,7 @@ private:
 };
 
 static constexpr int usualTries = 1;
-static constexpr int wholeTries = 10 * Lesson::moments;
+static constexpr int wholeTries = 20 * Lesson::moments;
 static constexpr int longestStandstill = 5000; // ms, of a window whose camera or server hangs
 static constexpr int mostAnswerTime = 30000; // ms, after which it is said to hang
 

@@ -30,7 +30,7 @@ private:
 };
 
 static constexpr int usualTries = 1;
-static constexpr int wholeTries = 10 * Lesson::moments;
+static constexpr int wholeTries = 20 * Lesson::moments;
 
 void TestSuddenEnd::initTestCase()
 {
