@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 
+#include <cstdlib>
 #include <memory>
 #include <xcb/res.h>
 

@@ -4,6 +4,7 @@
 #include "LostScreen.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <unistd.h>
 
