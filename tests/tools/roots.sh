@@ -66,8 +66,8 @@ roots_copy_names() { # ROOT
 }
 
 # In namespaces of its own, which the kernel clears away with all that was mounted and started in
-# them when this ends, however it ends. The devices are the bare ones: no camera and no sound card of
-# this machine gets into a test.
+# them when this ends, however it ends. The devices are the bare ones and what disks of our own are
+# made with: no camera and no sound card of this machine gets into a test.
 roots_inside() { # ROOT COMMAND ARGS...
     local root=$1 device
     shift
@@ -76,7 +76,8 @@ roots_inside() { # ROOT COMMAND ARGS...
     mount -t proc proc "$root/proc"
     mount -t sysfs -o ro sysfs "$root/sys"
     mount -t tmpfs -o mode=755 tmpfs "$root/dev"
-    for device in null zero full random urandom tty; do
+    for device in null zero full random urandom tty fuse; do
+        [ -e "/dev/$device" ] || continue # the kernel may have no such disks
         touch "$root/dev/$device"
         mount --bind "/dev/$device" "$root/dev/$device"
     done
