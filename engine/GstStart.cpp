@@ -18,6 +18,23 @@ static bool elementExists(const char *name)
 // another reads it.
 static const bool letsVideoNodesGo = qputenv("GST_V4L2_FORCE_DRAIN", "1");
 
+// The movie player is told of messages as they are posted, but leaves them in its bus, and with
+// them every movie's decoders: what nobody will read is thrown away when the next one comes.
+static gboolean throwUnreadAway(GSignalInvocationHint *, guint, const GValue *values, gpointer)
+{
+    auto *bus = static_cast<GstBus *>(g_value_get_object(values));
+    while (const GstMiniHandle<GstMessage> unread{gst_bus_pop(bus)}) { }
+    return TRUE;
+}
+
+// Our own pipelines read their messages, and have no such signal.
+static void watchUnreadBuses()
+{
+    g_type_class_ref(GST_TYPE_BUS); // before there is a bus it has no signals
+    g_signal_add_emission_hook(g_signal_lookup("sync-message", GST_TYPE_BUS), 0, throwUnreadAway,
+                               nullptr, nullptr);
+}
+
 static bool startOnce()
 {
     GError *reason = nullptr;
@@ -27,6 +44,7 @@ static bool startOnce()
         qCWarning(engineLog, "GStreamer does not start: %s", error ? error->message : "no reason");
         return false;
     }
+    watchUnreadBuses();
     bool complete = true;
     for (const char *name : {"capsfilter", "tee", "appsink"})
         complete = elementExists(name) && complete;
