@@ -2,6 +2,8 @@
 #include "Patience.h"
 #include "Session.h"
 
+#include "SpareTime.h"
+
 #include <QRegularExpression>
 #include <QTime>
 
@@ -90,21 +92,25 @@ void TestTakingASeries::timedPhotosComeOnTimeAndTheNextSeriesFollowsNewSettings(
 {
     QVERIFY(startWith("AutoShoot=1\nAutoShootTime=2\nContinuShootCount=4\n"));
     const WindowMap &map = m_user->map();
+    const SpareTime time;
     QVERIFY(m_user->pressWhenReady(WindowMap::LiveScreen, "PhotoMulti"));
     QTRY_VERIFY(m_user->isLiveAt(map.seriesLiveRect()));
     QVERIFY(m_user->waitForPressable(WindowMap::LiveScreen, {"Live", "PhotoMulti"}));
-    QTRY_COMPARE_WITH_TIMEOUT(photos().size(), 1, 6000);
+    QTRY_COMPARE_WITH_TIMEOUT(photos().size(), 1, patience);
     const QString first = photos().value(0);
     QTRY_COMPARE(m_user->counterAt(map.seriesPhotoRect()), counterInFile(first));
 
     const QStringList row{"Live", "PutPhoto", "List", "Close"};
-    QTRY_VERIFY_WITH_TIMEOUT(photos().size() == 4, 15000);
+    QTRY_VERIFY_WITH_TIMEOUT(photos().size() == 4, patience);
     QVERIFY(m_user->waitForPressable(WindowMap::PhotoScreen, row));
     const QStringList timed = photos();
+    // A photo is written before the next seconds are counted, on a busy machine by a slow disk.
+    const int lateness = time.isPlenty() ? 250 : 5000;
     QVERIFY(showsSideBySide(timed));
     for (int i = 1; i < 4; ++i) {
         const int interval = momentOf(timed[i]) - momentOf(timed[i - 1]);
-        QVERIFY2(qAbs(interval - 3000) < 250, qPrintable(QString::number(interval)));
+        QVERIFY2(interval > 2750 && interval < 3000 + lateness,
+                 qPrintable(QString::number(interval)));
     }
     QVERIFY(m_user->pressWhenReady(WindowMap::PhotoScreen, "PutPhoto"));
     QTRY_COMPARE(m_user->program().handedOver(), handOverOf(timed));
