@@ -27,9 +27,9 @@ private Q_SLOTS:
     void theMovieSpansTheWholeTime();
 
 private:
-    void judge(const QString &path, int rate, double age, bool hadTime) const;
+    void judge(const QString &path, int rate, double age, double lateness) const;
     void verifySound(const MovieFile &movie, int rate, bool hadTime) const;
-    void verifyFrames(const MovieFile &movie, int rate) const;
+    void verifyFrames(const MovieFile &movie, int rate, double lateness) const;
 
     QTemporaryDir m_folder;
 };
@@ -83,7 +83,7 @@ void TestMovieThrottle::verifySound(const MovieFile &movie, int rate, bool hadTi
     QVERIFY2(movie.loudness() > 0.5 * 0.1 / beat, qPrintable(QString::number(movie.loudness())));
 }
 
-void TestMovieThrottle::verifyFrames(const MovieFile &movie, int rate) const
+void TestMovieThrottle::verifyFrames(const MovieFile &movie, int rate, double lateness) const
 {
     const QVector<MovieFile::Frame> &frames = movie.frames();
     QVERIFY(!movie.counters().contains(-1));
@@ -102,18 +102,19 @@ void TestMovieThrottle::verifyFrames(const MovieFile &movie, int rate) const
     qInfo("%d frames in %.2f s, one every %.0f ms, %.0f ms at most; delays differ by %.0f ms",
           int(frames.size()), movie.duration(), usual * 1000, longest * 1000,
           (latest - earliest) * 1000);
-    QVERIFY2(longest < 6 * usual + 0.5, qPrintable(QString::number(longest)));
+    QVERIFY2(longest < 6 * usual + 0.5 + lateness, qPrintable(QString::number(longest)));
 }
 
-void TestMovieThrottle::judge(const QString &path, int rate, double age, bool hadTime) const
+// The lateness, in s, is what the machine may be to blame for.
+void TestMovieThrottle::judge(const QString &path, int rate, double age, double lateness) const
 {
     const MovieProbe probe(path);
     QCOMPARE(probe.complaints(), QString());
     QVERIFY2(probe.duration() > age - 0.4 && probe.duration() < age + 0.4,
              qPrintable(QStringLiteral("%1 of %2").arg(probe.duration()).arg(age)));
     const MovieFile movie(path);
-    verifySound(movie, rate, hadTime);
-    verifyFrames(movie, rate);
+    verifySound(movie, rate, lateness <= 0);
+    verifyFrames(movie, rate, lateness);
 }
 
 // Programs beside each other, as they stand still most of the time.
@@ -146,11 +147,11 @@ void TestMovieThrottle::theMovieSpansTheWholeTime()
     }
     for (const auto &recording : recordings)
         QVERIFY(recording->stop());
-    const bool hadTime = time.isPlenty();
+    const double lateness = time.lateness();
     qInfo("the end of the programs took %lld ms", timer.elapsed());
     for (std::size_t i = 0; i < percents.size() && !QTest::currentTestFailed(); ++i) {
         qInfo("recorded for %.2f s in %d %% of the time:", ages[i], percents[i]);
-        judge(recordings[i]->path(), rate, ages[i], hadTime);
+        judge(recordings[i]->path(), rate, ages[i], lateness);
     }
 }
 

@@ -171,9 +171,13 @@ bool Session::beginMovie()
     for (int i = 0; i < mostTries; ++i) {
         const SpareTime spare;
         const bool isPressed = pressWhenReady(WindowMap::LiveScreen, QStringLiteral("Movie"));
-        const bool answers =
-            isPressed && waitFor([this] { return isRecording() || dialog().isActive; }, startLimit);
-        if (isRecording())
+        bool hasBegun = false;
+        const auto isAnswered = [&] {
+            hasBegun = isRecording();
+            return hasBegun || dialog().isActive;
+        };
+        const bool answers = isPressed && waitFor(isAnswered, startLimit);
+        if (hasBegun)
             return true;
         if (!answers || spare.isPlenty() || !confirmMessage()) {
             qWarning(
