@@ -117,7 +117,12 @@ void TestLoggingOut::theQuestionAtExitIsAskedOnceMore()
     QVERIFY(m_user->waitForDialog("Orvanta"));
     const quint32 first = m_user->dialog().id;
     m_login->logOut(LoginSession::MayAsk);
-    QTRY_VERIFY(m_user->dialog().id != 0 && m_user->dialog().id != first);
+    // One look at a time: between two the first box may go.
+    const auto isAskedAnew = [&] {
+        const quint32 id = m_user->dialog().id;
+        return id != 0 && id != first;
+    };
+    QTRY_VERIFY(isAskedAnew());
     QVERIFY(m_user->answerExitQuestion("Yes"));
     QTRY_VERIFY(m_login->isReadyToEnd());
     QVERIFY(endsWithItsSession());
