@@ -104,7 +104,7 @@ void TestTakingASeries::timedPhotosComeOnTimeAndTheNextSeriesFollowsNewSettings(
     QTRY_VERIFY_WITH_TIMEOUT(photos().size() == 4, patience);
     QVERIFY(m_user->waitForPressable(WindowMap::PhotoScreen, row));
     const QStringList timed = photos();
-    // A photo is written before the next seconds are counted, on a busy machine by a slow disk.
+    // The next seconds are counted when a photo is taken, which takes a busy machine a while.
     const int lateness = time.isPlenty() ? 250 : 5000;
     QVERIFY(showsSideBySide(timed));
     for (int i = 1; i < 4; ++i) {
