@@ -3,6 +3,7 @@
 #include "GstStart.h"
 #include "MovieMaker.h"
 #include "MovieRecorder.h"
+#include "Patience.h"
 #include "SpareTime.h"
 
 #include <QElapsedTimer>

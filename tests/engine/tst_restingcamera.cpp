@@ -3,6 +3,7 @@
 #include "LiveVideoData.h"
 #include "MovieFile.h"
 #include "Opening.h"
+#include "Patience.h"
 
 #include <QFile>
 #include <QFrame>

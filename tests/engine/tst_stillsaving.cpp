@@ -1,5 +1,6 @@
 #include "CameraFrame.h"
 #include "GstStart.h"
+#include "Patience.h"
 #include "StillSaving.h"
 
 #include <QDir>

@@ -2,6 +2,7 @@
 #include "CapturedPicture.h"
 #include "FaultTrial.h"
 #include "PastedPhotos.h"
+#include "Patience.h"
 #include "PictureListView.h"
 #include "PictureWidget.h"
 

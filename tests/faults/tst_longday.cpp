@@ -120,13 +120,15 @@ bool TestLongDay::takeSeries()
 bool TestLongDay::recordAndPlayMovie()
 {
     const QStringList waits{"Live", "MoviePlay", "List", "Close"};
+    const QStringList plays{"Live", "MoviePause", "List", "Close"};
     if (!m_user->beginMovie())
         return false;
     ++m_movies;
-    QTest::qWait(500); // nothing to wait for: the movie's length
+    QTest::qWait(1000); // nothing to wait for: the movie's length
     return m_user->pressWhenReady(WindowMap::RecordingScreen, "MovieStop")
         && m_user->waitForPressable(WindowMap::MovieScreen, waits)
         && m_user->pressWhenReady(WindowMap::MovieScreen, "MoviePlay")
+        && m_user->waitForPressable(WindowMap::PlayingScreen, plays)
         && m_user->waitForPressable(WindowMap::MovieScreen, waits)
         && returnToLive(WindowMap::MovieScreen);
 }

@@ -5,6 +5,7 @@
 #include "Devices.h"
 #include "GstStart.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 #include "PictureConverter.h"
 #include "SpareTime.h"
 

@@ -1,6 +1,7 @@
 #include "DeviceSession.h"
 #include "Devices.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,5 +1,6 @@
 #include "Devices.h"
 #include "LiveVideoData.h"
+#include "Patience.h"
 
 #include <QTest>
 

@@ -1,6 +1,7 @@
 #include "DeviceSession.h"
 #include "Devices.h"
 #include "MovieProbe.h"
+#include "Patience.h"
 #include "SpareTime.h"
 
 #include <QTest>

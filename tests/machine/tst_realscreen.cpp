@@ -1,5 +1,6 @@
 #include "DeviceSession.h"
 #include "Devices.h"
+#include "Patience.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -2,6 +2,7 @@
 #include "LiveVideoData.h"
 #include "MovieFile.h"
 #include "MovieProbe.h"
+#include "Patience.h"
 
 #include <QTemporaryDir>
 #include <QTest>

@@ -2,6 +2,7 @@
 #include "LiveVideoData.h"
 #include "MovieFile.h"
 #include "Opening.h"
+#include "Patience.h"
 #include "UvcPlug.h"
 
 #include <QDir>
@@ -16,7 +17,7 @@
 
 #include <memory>
 
-static const int patience = 60000; // ms, of an emulated machine
+static const int reactionLimit = 60000; // ms, of an emulated machine
 // What is added there to the limit that an operation keeps.
 static const int slack = 1500; // ms
 static const QStringList smallPicture{"MJPG:320x240:15"};
@@ -100,7 +101,7 @@ void TestUvcCameras::cleanup()
 
 void TestUvcCameras::open(const QStringList &names, int index)
 {
-    QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList(), names, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList(), names, reactionLimit);
     m_engine->SetVideoDevice(index);
     QVERIFY(opens(*m_engine));
     m_engine->Start();
@@ -126,7 +127,7 @@ bool TestUvcCameras::movesOn() const
             const int now = LabPattern::counterOf(photo());
             return now >= 0 && now != before;
         },
-        patience);
+        reactionLimit);
 }
 
 void TestUvcCameras::aCameraOfTwoNodesIsListedOnce()
@@ -176,7 +177,7 @@ void TestUvcCameras::aCameraThatPausesIsNotLost()
     QVERIFY(camera.command("stall 2000"));
     const int before = LabPattern::counterOf(photo());
     const int missed = 15; // in one of its two seconds
-    QTRY_VERIFY_WITH_TIMEOUT(LabPattern::counterOf(photo()) > before + missed, patience);
+    QTRY_VERIFY_WITH_TIMEOUT(LabPattern::counterOf(photo()) > before + missed, reactionLimit);
     QCOMPARE(m_losses->count(), 0);
 }
 
@@ -186,7 +187,7 @@ void TestUvcCameras::aCameraThatStandsStillIsLostOnce()
     QVERIFY(camera.plugIn(0));
     open({"Desk Camera"});
     QVERIFY(camera.command("stall"));
-    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, reactionLimit);
     QVERIFY(!m_engine->SaveBitmap(m_folder.filePath("late.png")));
     m_engine->Release();
     QVERIFY(camera.command("go"));
@@ -201,7 +202,7 @@ void TestUvcCameras::aLooseContactIsToldAsALoss()
     QVERIFY(camera.plugIn(0));
     open({"Desk Camera"});
     QVERIFY(camera.command("halt"));
-    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, reactionLimit);
     m_engine->Release();
     open({"Desk Camera"});
     QVERIFY(movesOn());
@@ -214,7 +215,7 @@ void TestUvcCameras::aPulledCameraIsLostOnceAndFoundInAnotherPort()
     open({"Desk Camera"});
     const QStringList nodes = camera.nodes();
     QVERIFY(camera.pullOut());
-    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, reactionLimit);
     m_engine->Release();
 
     // Something else has taken its port and its node meanwhile.
@@ -222,7 +223,7 @@ void TestUvcCameras::aPulledCameraIsLostOnceAndFoundInAnotherPort()
     QVERIFY(other.plugIn(0));
     QVERIFY(camera.plugIn(3));
     QVERIFY(camera.nodes() != nodes);
-    QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList().size(), 2, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList().size(), 2, reactionLimit);
     QVERIFY(opens(*m_engine));
     QVERIFY(showsCameraOf("A1"));
     QCOMPARE(m_losses->count(), 1);
@@ -238,7 +239,7 @@ void TestUvcCameras::ofAReleasedCameraNothingIsHeldOpen()
         QVERIFY(showsCameraOf("A1"));
         QVERIFY(!heldNodes().isEmpty());
         m_engine->Release();
-        QTRY_COMPARE_WITH_TIMEOUT(heldNodes(), QStringList(), patience / 10);
+        QTRY_COMPARE_WITH_TIMEOUT(heldNodes(), QStringList(), reactionLimit / 10);
     }
 }
 
@@ -254,9 +255,9 @@ void TestUvcCameras::ofAPulledCameraNothingIsHeldOpen()
         open({"Desk Camera"});
         QVERIFY(!heldNodes().isEmpty());
         QVERIFY(camera.pullOut());
-        QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), round + 1, patience);
+        QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), round + 1, reactionLimit);
         m_engine->Release();
-        QTRY_COMPARE_WITH_TIMEOUT(heldNodes(), QStringList(), patience / 10);
+        QTRY_COMPARE_WITH_TIMEOUT(heldNodes(), QStringList(), reactionLimit / 10);
     }
 }
 
@@ -266,15 +267,15 @@ void TestUvcCameras::aMovieOfAPulledCameraIsComplete()
     UvcPlug camera("A1", smallPicture);
     QVERIFY(camera.plugIn(0));
     open({"Desk Camera"});
-    QTRY_VERIFY_WITH_TIMEOUT(m_engine->IsValidAudioDevice(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(m_engine->IsValidAudioDevice(), reactionLimit);
     const QString path = m_folder.filePath("movie.mov");
     QVERIFY(records(*m_engine, path));
     const int begin = LabPattern::counterOf(photo());
-    QTRY_VERIFY_WITH_TIMEOUT(LabPattern::counterOf(photo()) > begin + 45, patience);
+    QTRY_VERIFY_WITH_TIMEOUT(LabPattern::counterOf(photo()) > begin + 45, reactionLimit);
     QVERIFY(camera.pullOut());
-    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, reactionLimit);
     QVERIFY(!m_engine->IsRecording());
-    QTRY_VERIFY_WITH_TIMEOUT(m_engine->CompleteMovies(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(m_engine->CompleteMovies(), reactionLimit);
     const MovieFile movie(path);
     QVERIFY2(movie.complaints().isEmpty(), qPrintable(movie.complaints().join('\n')));
     QVERIFY2(movie.duration() > 2, qPrintable(QString::number(movie.duration())));
@@ -302,7 +303,7 @@ void TestUvcCameras::aCameraThatAnswersNothingHoldsNobodyUp()
     m_engine->Release();
     QVERIFY(camera.command("go"));
     // What is still under way with the camera ends first.
-    QTRY_VERIFY_WITH_TIMEOUT((m_engine->Create(), m_engine->created), patience);
+    QTRY_VERIFY_WITH_TIMEOUT((m_engine->Create(), m_engine->created), reactionLimit);
     QVERIFY(movesOn());
 }
 
@@ -310,7 +311,8 @@ void TestUvcCameras::aCameraThatIsMuteWhenItIsOpenedHoldsNobodyUp()
 {
     UvcPlug camera("A1", smallPicture);
     QVERIFY(camera.plugIn(0));
-    QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList(), QStringList{"Desk Camera"}, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList(), QStringList{"Desk Camera"},
+                              reactionLimit);
     QVERIFY(camera.command("mute"));
     m_engine->SetVideoDevice(0);
     QElapsedTimer watch;
@@ -319,7 +321,7 @@ void TestUvcCameras::aCameraThatIsMuteWhenItIsOpenedHoldsNobodyUp()
     QVERIFY(!m_engine->created);
     QVERIFY2(watch.elapsed() < 4800 + slack, qPrintable(QString::number(watch.elapsed())));
     QVERIFY(camera.command("go"));
-    QTRY_VERIFY_WITH_TIMEOUT((m_engine->Create(), m_engine->created), patience);
+    QTRY_VERIFY_WITH_TIMEOUT((m_engine->Create(), m_engine->created), reactionLimit);
     QVERIFY(movesOn());
 }
 
@@ -350,7 +352,7 @@ void TestUvcCameras::twoOfOneModelThatChangedPlacesAreKeptApart()
     QVERIFY(second.pullOut());
     QVERIFY(second.plugIn(0));
     QVERIFY(first.plugIn(1));
-    QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList().size(), 2, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_engine->GetVideoDeviceList().size(), 2, reactionLimit);
     QVERIFY(opens(*m_engine));
     QVERIFY(showsCameraOf("A1"));
 }
@@ -366,7 +368,7 @@ void TestUvcCameras::theOneThatIsPulledBesideItsTwinIsTheOneThatIsLost()
     QVERIFY(movesOn());
     QCOMPARE(m_losses->count(), 0);
     QVERIFY(second.pullOut());
-    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, patience);
+    QTRY_COMPARE_WITH_TIMEOUT(m_losses->count(), 1, reactionLimit);
 }
 
 QTEST_MAIN(TestUvcCameras)

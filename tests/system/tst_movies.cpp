@@ -131,6 +131,8 @@ void MoviesTest::aMovieIsRecordedAndPlayedTwice()
                                           {"Live", "MoviePlay", "List", "Close"}));
             QTRY_VERIFY(user.isStillAt(picture));
             user.press(WindowMap::MovieScreen, "MoviePlay");
+            QVERIFY(user.waitForPressable(WindowMap::PlayingScreen,
+                                          {"Live", "MoviePause", "List", "Close"}));
         }
         // Its end brings "Play" back.
         QTRY_VERIFY(

@@ -1,4 +1,5 @@
 #include "Footprint.h"
+#include "Patience.h"
 #include "SpareMemory.h"
 
 #include <QByteArray>

@@ -1,5 +1,6 @@
 #include "ButtonGeometry.h"
 #include "CStretchBitmapButton.h"
+#include "Patience.h"
 
 #include <QApplication>
 #include <QLabel>
