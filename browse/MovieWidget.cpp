@@ -5,6 +5,8 @@
 #include "Spoken.h"
 #include "WebcamUtil.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPainter>
@@ -75,6 +77,10 @@ MovieWidget::~MovieWidget() = default;
 
 bool MovieWidget::Create(const QString &filename)
 {
+    if (m_created) {
+        Stop();
+        hearPlayerOut();
+    }
     load(Phonon::MediaSource(QUrl::fromLocalFile(filename)));
     showStillPicture(QFileInfo(filename).fileName());
     // The player makes its video surface on first use, and puts it above the other children.
@@ -86,6 +92,17 @@ bool MovieWidget::Create(const QString &filename)
             Qt::UniqueConnection);
     m_created = true;
     return true;
+}
+
+// How a movie goes on, that it is at its end or cannot be played, is told to the player from other
+// threads, on a busy machine late: heard when it was stopped, or when the next movie is there, it
+// would be taken for what became of that.
+void MovieWidget::hearPlayerOut()
+{
+    const QList<QObject *> parts = mediaObject()->findChildren<QObject *>();
+    for (int step = 0; step < 2; ++step) // an error is passed on once
+        for (QObject *part : parts)
+            QCoreApplication::sendPostedEvents(part, QEvent::MetaCall);
 }
 
 void MovieWidget::showStillPicture(const QString &movie)
@@ -121,6 +138,7 @@ void MovieWidget::Play()
 
 void MovieWidget::Stop()
 {
+    hearPlayerOut();
     stop();
     m_stillPicture->setVisible(m_created);
 }

@@ -45,6 +45,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void hearPlayerOut();
     void showStillPicture(const QString &movie);
     void hideStillPicture(qint64 position);
 

@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QThread>
 #include <phonon/mediaobject.h>
 
 namespace {
@@ -42,6 +43,8 @@ private Q_SLOTS:
     void stopEndsPlayback();
     void anUnplayableFileCountsAsComplete();
     void oneWidgetPlaysOneMovieAfterTheOther();
+    void whatIsToldLateOfAMovieThatWasLeftStopsNoOther_data();
+    void whatIsToldLateOfAMovieThatWasLeftStopsNoOther();
 
 private:
     const CaptureFolder m_captures;
@@ -249,6 +252,31 @@ void TestMovieWidget::oneWidgetPlaysOneMovieAfterTheOther()
         QTRY_VERIFY(player.isPlaying() && player.currentTime() > 100);
         player.Stop();
     }
+}
+
+void TestMovieWidget::whatIsToldLateOfAMovieThatWasLeftStopsNoOther_data()
+{
+    QTest::addColumn<QString>("left");
+    QTest::addColumn<int>("late"); // ms
+    const QString empty = m_folder.filePath("empty.mov");
+    QVERIFY(QFile(empty).open(QIODevice::WriteOnly));
+    QTest::newRow("an error") << empty << 1000;
+    QTest::newRow("its end") << m_movie << movieMs + 1000;
+}
+
+void TestMovieWidget::whatIsToldLateOfAMovieThatWasLeftStopsNoOther()
+{
+    QFETCH(QString, left);
+    QFETCH(int, late);
+    MovieWidget player(nullptr);
+    player.show();
+    player.Create(left);
+    player.Play();
+    QThread::msleep(late); // nothing to wait for: who sleeps is told nothing
+    player.Stop();
+    player.Create(m_movie);
+    player.Play();
+    QTRY_VERIFY2(player.isPlaying() && player.currentTime() > 0, position(player).constData());
 }
 
 QTEST_MAIN(TestMovieWidget)
