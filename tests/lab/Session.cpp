@@ -37,6 +37,16 @@ Session::Session(const QString &executable, const QString &cameraName, QSize cam
     QApplication::setStyle(new PlainButtons); // of the program, for the twins of its boxes
 }
 
+Session::~Session()
+{
+    if (QTest::currentTestFailed())
+        qWarning(
+            "when the test had failed, the program %s, \"%s\" was in front, and it had said: %s",
+            m_program.isRunning() ? "ran" : "had ended",
+            qPrintable(m_desktop.topWindowOf(m_program.pid()).title),
+            qPrintable(m_program.output()));
+}
+
 bool Session::waitFor(const std::function<bool()> &isThere, int limit)
 {
     const QDeadlineTimer deadline(limit);

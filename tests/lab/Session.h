@@ -21,7 +21,7 @@ public:
     // Its pixels are as large as those of this test's own windows.
     Session(const QString &executable, const QString &cameraName, QSize cameraSize,
             QRect area = {});
-    virtual ~Session() = default;
+    virtual ~Session(); // says what stood there, when the test has failed
     Q_DISABLE_COPY(Session)
 
     Desktop &desktop() { return m_desktop; }
