@@ -3,6 +3,7 @@
 #include "EngineLog.h"
 #include "FrameGate.h"
 #include "FrameTap.h"
+#include "JpegGuard.h"
 #include "PipelineStart.h"
 #include "PipelineTools.h"
 
@@ -104,6 +105,8 @@ bool CameraPipeline::assemble(GstObjectHandle<GstElement> source, GstMiniHandle<
     const GstObjectHandle<GstPad> first(gst_element_get_static_pad(elements.at(1), "sink"));
     m_gate = std::make_shared<FrameGate>();
     FrameGate::attach(m_gate, first.get());
+    if (m_mode.encoding == CameraMode::Encoding::Jpeg)
+        JpegGuard::attach(first.get());
     m_source = std::move(source);
     m_sink.reset(static_cast<GstElement *>(gst_object_ref(sink)));
     return true;

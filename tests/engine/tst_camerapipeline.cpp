@@ -15,6 +15,7 @@ class TestCameraPipeline : public QObject {
 private Q_SLOTS:
     void initTestCase() { QVERIFY(startGstreamer()); }
     void damagedPicturesAreLeftOut();
+    void aPictureThatIsCutAnywhereCostsNoOther();
     void whatComesDuringARestIsDropped();
 
 private:
@@ -90,6 +91,23 @@ void TestCameraPipeline::damagedPicturesAreLeftOut()
         send(damaged);
     send(jpeg(Qt::white));
     QVERIFY(frameComes());
+    QCOMPARE(m_camera->failure(), QString());
+}
+
+void TestCameraPipeline::aPictureThatIsCutAnywhereCostsNoOther()
+{
+    build(CameraMode::Encoding::Jpeg);
+    const QByteArray cut = jpeg(Qt::darkGray);
+    for (int size = 1; size < cut.size(); ++size) {
+        const bool isWhite = size % 2 == 0;
+        const auto isThere = [&] {
+            const auto frame = CameraFrame::fromSample(m_camera->nextSample(100));
+            return frame && qAbs(frame->view().at<uchar>(0, 0) - (isWhite ? 255 : 0)) < 50;
+        };
+        send(cut.left(size));
+        send(jpeg(isWhite ? Qt::white : Qt::black));
+        QVERIFY2(QTest::qWaitFor(isThere), qPrintable(QString::number(size)));
+    }
     QCOMPARE(m_camera->failure(), QString());
 }
 
