@@ -3,6 +3,7 @@
 #include "AppLog.h"
 #include "PromptEnd.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <dlfcn.h>
 #include <unistd.h>
@@ -13,6 +14,8 @@ static std::function<void()> completion; // null without an object
 LostScreen::LostScreen(std::function<void()> complete)
 {
     completion = std::move(complete);
+    // To write to a server that has just ended is deadly by default.
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 LostScreen::~LostScreen()

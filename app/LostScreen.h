@@ -10,7 +10,8 @@
  * threads run may wait for one another for ever: the camera would be taken until the next boot.
  *
  * As long as the object lives, exit() completes what is being captured and ends the process without
- * tidying up. One object at a time, on the GUI thread.
+ * tidying up; and a write to a connection that is closed at the other end fails, as it does for the
+ * rest of the process, instead of ending it. One object at a time, on the GUI thread.
  */
 class LostScreen {
 public:

@@ -6,6 +6,7 @@ class tst_LostScreen : public QObject {
 
 private Q_SLOTS:
     void capturesAreCompletedAndNothingIsWaitedFor();
+    void aWriteToAServerThatIsGoneDoesNotEndTheProcess();
     void afterwardsTheEndIsAUsualOne();
 };
 
@@ -22,6 +23,11 @@ static QByteArray outputOf(const QStringList &arguments, int status)
 void tst_LostScreen::capturesAreCompletedAndNothingIsWaitedFor()
 {
     QCOMPARE(outputOf({}, 7), QByteArray("completed\n"));
+}
+
+void tst_LostScreen::aWriteToAServerThatIsGoneDoesNotEndTheProcess()
+{
+    QCOMPARE(outputOf({"writing"}, 7), QByteArray("not written\ncompleted\n"));
 }
 
 void tst_LostScreen::afterwardsTheEndIsAUsualOne()
