@@ -36,6 +36,7 @@ public:
     bool isRunning() const;
     // True when the program has ended by itself within the limit.
     bool hasEndedWithin(int milliseconds);
+    // Of one that has crashed, the signal.
     int exitStatus() const { return m_process.exitCode(); }
     bool hasCrashed() const { return m_process.exitStatus() != QProcess::NormalExit; }
     qint64 pid() const { return m_process.processId(); }
