@@ -33,6 +33,11 @@ endif()
 if(ORVANTA_FUZZ)
     target_compile_options(orvanta_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
+if(ORVANTA_COVERAGE)
+    add_library(orvanta_counted_exit STATIC cmake/CountedExit.cpp)
+    target_link_options(orvanta_options INTERFACE "LINKER:--wrap=_exit")
+    target_link_libraries(orvanta_options INTERFACE orvanta_counted_exit)
+endif()
 
 include(cmake/OrvantaPrecompiled.cmake)
 
