@@ -18,20 +18,35 @@ static bool elementExists(const char *name)
 // another reads it.
 static const bool letsVideoNodesGo = qputenv("GST_V4L2_FORCE_DRAIN", "1");
 
+// The movie player asks, a while before the end of each movie, for the next one, and waits for it
+// as long as this one lasts; a movie that is damaged is at its end when it is stopped, and the
+// window would stand still for that time. There is no next one here: the player is not told.
+static void offerNoNextMovie(GstObject *player)
+{
+    const guint offer =
+        GST_IS_PIPELINE(player) ? g_signal_lookup("about-to-finish", G_OBJECT_TYPE(player)) : 0;
+    if (offer == 0)
+        return;
+    while (const gulong handler = g_signal_handler_find(player, G_SIGNAL_MATCH_ID, offer, 0,
+                                                        nullptr, nullptr, nullptr))
+        g_signal_handler_disconnect(player, handler);
+}
+
 // The movie player is told of messages as they are posted, but leaves them in its bus, and with
 // them every movie's decoders: what nobody will read is thrown away when the next one comes.
-static gboolean throwUnreadAway(GSignalInvocationHint *, guint, const GValue *values, gpointer)
+static gboolean onPlayersMessage(GSignalInvocationHint *, guint, const GValue *values, gpointer)
 {
     auto *bus = static_cast<GstBus *>(g_value_get_object(values));
     while (const GstMiniHandle<GstMessage> unread{gst_bus_pop(bus)}) { }
+    offerNoNextMovie(GST_MESSAGE_SRC(static_cast<GstMessage *>(g_value_get_boxed(values + 1))));
     return TRUE;
 }
 
 // Our own pipelines read their messages, and have no such signal.
-static void watchUnreadBuses()
+static void watchPlayers()
 {
     g_type_class_ref(GST_TYPE_BUS); // before there is a bus it has no signals
-    g_signal_add_emission_hook(g_signal_lookup("sync-message", GST_TYPE_BUS), 0, throwUnreadAway,
+    g_signal_add_emission_hook(g_signal_lookup("sync-message", GST_TYPE_BUS), 0, onPlayersMessage,
                                nullptr, nullptr);
 }
 
@@ -44,7 +59,7 @@ static bool startOnce()
         qCWarning(engineLog, "GStreamer does not start: %s", error ? error->message : "no reason");
         return false;
     }
-    watchUnreadBuses();
+    watchPlayers();
     bool complete = true;
     for (const char *name : {"capsfilter", "tee", "appsink"})
         complete = elementExists(name) && complete;
