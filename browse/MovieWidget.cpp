@@ -130,10 +130,11 @@ void MovieWidget::resizeEvent(QResizeEvent *event)
 
 void MovieWidget::Release() { }
 
+// Asked for while playing, too, which changes nothing: one that was stopped may still be taken for
+// playing, when it was told too late that it had begun.
 void MovieWidget::Play()
 {
-    if (!isPlaying())
-        play();
+    play();
 }
 
 void MovieWidget::Stop()

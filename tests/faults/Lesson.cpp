@@ -1,5 +1,6 @@
 #include "Lesson.h"
 
+#include "BallMovie.h"
 #include "FaultTrial.h"
 #include "LabPattern.h"
 #include "MovieProbe.h"
@@ -39,16 +40,6 @@ static QImage noise()
     return picture;
 }
 
-static bool makeMovie(const QString &path)
-{
-    return QProcess::execute("gst-launch-1.0",
-                             {"-q", "videotestsrc", "pattern=ball", "num-buffers=200", "!",
-                              "video/x-raw,format=I420,width=320,height=240,framerate=20/1", "!",
-                              "x264enc", "tune=zerolatency", "key-int-max=10", "!", "qtmux", "!",
-                              "filesink", "location=" + path})
-        == 0;
-}
-
 const char *Lesson::nameOf(Moment moment)
 {
     static const char *const names[moments] = {
@@ -68,7 +59,7 @@ Lesson::Lesson()
     QImage still(320, 240, QImage::Format_RGB32);
     still.fill(Qt::blue);
     still.save(m_earlier.filePath("movie20240229101500tmp.png"));
-    makeMovie(m_earlier.filePath("movie20240229101500.mov"));
+    makeBallMovie(m_earlier.filePath("movie20240229101500.mov"), 200);
     noise().save(m_earlier.filePath("photo"), "PNG", 100);
 }
 
