@@ -62,6 +62,9 @@ void TestCapsModes::modesAreReadFromCaps_data()
     QTest::newRow("a range without a usual size gives its largest")
         << "video/x-raw,format=YUY2,width=[10,200],height=[10,100],framerate=30/1"
         << QStringList{"YUY2 200x100 30/1"};
+    QTest::newRow("a list of ranges gives its largest")
+        << "video/x-raw,format=YUY2,width={[10,200],[250,300]},height={100,50},framerate=30/1"
+        << QStringList{"YUY2 300x100 30/1"};
     QTest::newRow("a range of rates around 30")
         << "video/x-raw,format=YUY2,width=640,height=480,framerate=[0/1,2147483647/1]"
         << QStringList{"YUY2 640x480 30/1"};
