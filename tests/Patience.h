@@ -19,10 +19,14 @@ static constexpr int patience = 30000;
 #define QTRY_VERIFY_WITH_TIMEOUT(condition, timeout)                                               \
     QTRY_VERIFY2_WITH_TIMEOUT((condition), "not: " #condition, (timeout))
 
+// To compare with something empty says more when it fails.
 #undef QTRY_COMPARE_WITH_TIMEOUT
 #define QTRY_COMPARE_WITH_TIMEOUT(actual, expected, timeout)                                       \
     do {                                                                                           \
-        if (!QTest::qWaitFor([&] { return (actual) == (expected); }, (timeout)))                   \
+        const auto isEqual = [&] {                                                                 \
+            return (actual) == (expected); /* NOLINT(readability-container-size-empty) */          \
+        };                                                                                         \
+        if (!QTest::qWaitFor(isEqual, (timeout)))                                                  \
             QCOMPARE(actual, expected);                                                            \
     } while (false)
 
