@@ -189,7 +189,7 @@ bool Session::beginMovie()
         const bool answers = isPressed && waitFor(isAnswered, startLimit);
         if (hasBegun)
             return true;
-        if (!answers || spare.isPlenty() || !confirmMessage()) {
+        if (!answers || spare.isPlenty() || !dismissMessage()) {
             qWarning(
                 "no movie at try %d: \"Movie\" was %spressed, there was %sanswer; idle for %.0f "
                 "%%, longest wait %d ms",
@@ -281,6 +281,12 @@ bool Session::messageSays(const QString &text, const QString &confirm)
             return box.id != 0 && seenAt(box.geometry) == expected;
         },
         reactionLimit);
+}
+
+bool Session::dismissMessage()
+{
+    m_desktop.pressKey("Return");
+    return waitUntilNoDialog();
 }
 
 bool Session::confirmMessage()

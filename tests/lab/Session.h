@@ -71,7 +71,10 @@ public:
     // Whether the open dialog is a message box with this very text and this caption of its button,
     // compared pixel by pixel. A box that reads from the right needs a QApplication that does.
     bool messageSays(const QString &text, const QString &confirm = "OK");
+    // With the mouse, after messageSays(): where the button is depends on the text.
     bool confirmMessage();
+    // With the keyboard, whatever it says.
+    bool dismissMessage();
 
 protected:
     // Looks until it is there, for a limited time (ms).
