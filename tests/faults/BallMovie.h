@@ -3,8 +3,8 @@
 
 #include <QString>
 
-/// Makes a movie of a ball that flies about, 320x240 px, 20 frames a second, without sound, as the
-/// program's own are made. Waits until it is there; false when it cannot be made.
+/// Makes a movie of a ball that flies about, 320x240 px, 20 frames a second, without sound. Waits
+/// until it is there; false when it cannot be made.
 bool makeBallMovie(const QString &path, int frames);
 
 #endif
