@@ -5,7 +5,6 @@
 #endif
 
 static constexpr int quietTime = 2000; // ms, longer than from one photo to the next
-static constexpr int backgroundTime = 20000; // ms, in which the encoders are tried at the latest
 
 static void giveBack()
 {
@@ -14,18 +13,17 @@ static void giveBack()
 #endif
 }
 
-SpareMemory::SpareMemory()
+SpareMemory::SpareMemory(std::chrono::milliseconds pace)
 {
     m_soon.setSingleShot(true);
     m_soon.setInterval(quietTime);
     m_soon.callOnTimeout(giveBack);
-    m_later.setSingleShot(true);
-    m_later.setInterval(backgroundTime);
-    m_later.callOnTimeout(giveBack);
+    m_againAndAgain.setInterval(pace);
+    m_againAndAgain.callOnTimeout(giveBack);
 }
 
 void SpareMemory::giveBackSoon()
 {
     m_soon.start();
-    m_later.start();
+    m_againAndAgain.start();
 }

@@ -3,6 +3,8 @@
 
 #include <QTimer>
 
+#include <chrono>
+
 /**
  * Gives back to the system what was used for a moment only. Photos, movies and the search for
  * encoders take tens of megabytes for a second, and the C library keeps what is freed in case that
@@ -12,15 +14,18 @@
  */
 class SpareMemory {
 public:
-    SpareMemory();
+    /// @p pace is how often it is given back in a long rest. The encoders have been tried after
+    /// 20 s at the latest.
+    explicit SpareMemory(std::chrono::milliseconds pace = std::chrono::seconds(20));
 
-    /// Something was done: a moment after the last of these calls what it left is given back, and
-    /// once more when what still runs in the background has ended as well.
+    /// Something was done: a moment after the last of these calls what it left is given back. Then
+    /// again and again: what runs in the background ends late, and frames of the live picture lie
+    /// now here, now there in what is free, until all of it is taken again.
     void giveBackSoon();
 
 private:
     QTimer m_soon;
-    QTimer m_later;
+    QTimer m_againAndAgain;
 };
 
 #endif
