@@ -98,6 +98,25 @@ void TestCapsModes::modesAreReadFromCaps_data()
            "image/jpeg,width=20000,height=20000,framerate=30/1;"
            "image/jpeg,width=640,height=480,framerate=30/1"
         << QStringList{"YUY2 640x480 30/1", "JPEG 640x480 30/1"};
+    QTest::newRow("a list of sizes among them usual ones")
+        << "video/x-raw,format=YUY2,width={[320,640],1000},height={240,480},framerate=30/1"
+        << QStringList{"YUY2 640x480 30/1", "YUY2 320x240 30/1"};
+    QTest::newRow("a whole picture on one side only")
+        << "image/jpeg,width=20000,height=480,framerate=30/1;"
+           "image/jpeg,width=640,height=20000,framerate=30/1"
+        << QStringList();
+    QTest::newRow("a size that is not said or is no number")
+        << "video/x-raw,format=YUY2,framerate=30/1;"
+           "video/x-raw,format=YUY2,width=640,framerate=30/1;"
+           "video/x-raw,format=YUY2,width=640,height=(string)high,framerate=30/1;"
+           "video/x-raw,format=YUY2,width=(string)wide,height=480,framerate=30/1"
+        << QStringList();
+    QTest::newRow("a format that is not said or is no text")
+        << "video/x-raw,width=640,height=480,framerate=30/1;"
+           "video/x-raw,format=(int)5,width=640,height=480,framerate=30/1"
+        << QStringList();
+    QTest::newRow("a rate that is no number")
+        << "image/jpeg,width=640,height=480,framerate=(string)fast" << QStringList();
     QTest::newRow("nothing") << "EMPTY" << QStringList();
     QTest::newRow("anything") << "ANY" << QStringList();
 }

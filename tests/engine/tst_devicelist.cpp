@@ -72,6 +72,7 @@ private Q_SLOTS:
     void camerasAreListed();
     void theOrderOfTheRecordsDoesNotMatter();
     void identitiesAreUniqueAndIndependentOfTheName();
+    void whatIsOnNoBusIsKnownByItsNode();
     void theChoiceIsFoundAgain_data();
     void theChoiceIsFoundAgain();
 };
@@ -109,6 +110,13 @@ void TestDeviceList::camerasAreListed_data()
         << QVector<DeviceRecord>{with(serverNode("Webcam", "v4l2_input"), &DeviceRecord::devicePath,
                                       "/dev/video0")}
         << QStringList{"Webcam"};
+    QTest::newRow("the server's node stays when the video node is hidden") << QVector<DeviceRecord>{
+        with(serverNode("Webcam", "v4l2_input"), &DeviceRecord::devicePath, "/dev/video0"),
+        with(webcam, &DeviceRecord::hasColour, false)} << QStringList{"Webcam"};
+    QTest::newRow("the server's nodes for other cameras stay") << QVector<DeviceRecord>{
+        with(serverNode("A", "a"), &DeviceRecord::devicePath, "/dev/video9"),
+        with(serverNode("B", "b"), &DeviceRecord::libcameraPath, "\\_SB_.HS06-6:1.0-04F2:b6c2"),
+        with(webcam, &DeviceRecord::usbIds, "1234:5678")} << QStringList{"Webcam", "A", "B"};
     QTest::newRow("libcamera's node for a listed camera is skipped")
         << QVector<DeviceRecord>{with(serverNode("Webcam", "libcamera_input"),
                                       &DeviceRecord::libcameraPath, "\\_SB_.HS06-6:1.0-04F2:b6c2"),
@@ -178,6 +186,17 @@ void TestDeviceList::identitiesAreUniqueAndIndependentOfTheName()
     QCOMPARE(identities.removeDuplicates(), 0);
     const QVector<ListedDevice> renamed = listedDevices({videoNode("Renamed", "usb-1", 7, "A")});
     QCOMPARE(renamed.first().identity, devices.first().identity);
+}
+
+// A loopback, or a camera on the board itself.
+void TestDeviceList::whatIsOnNoBusIsKnownByItsNode()
+{
+    const auto identity = [](const QString &bus, const QString &serial, int number) {
+        return listedDevices({videoNode("Screen", bus, number, serial)}).first().identity;
+    };
+    QVERIFY(identity({}, {}, 7) != identity({}, {}, 8));
+    QCOMPARE(identity({}, "A", 7), identity({}, "A", 8));
+    QCOMPARE(identity("usb-1", {}, 7), identity("usb-1", {}, 8));
 }
 
 void TestDeviceList::theChoiceIsFoundAgain_data()

@@ -334,6 +334,9 @@ void TestEncoderSearch::aMemoryThatIsDamagedIsNotBelieved_data()
     QTest::newRow("cut off") << QByteArray("failed") << QByteArray();
     QTest::newRow("an encoder that is not there") << QByteArray("x264enc") << QByteArray("x364enc");
     QTest::newRow("no time") << QByteArray("\"frame time\"") << QByteArray("\"frame\"");
+    QTest::newRow("a time that no encoder takes")
+        << QByteArray("\"frame time\": ") << QByteArray("\"frame time\": 99999");
+    QTest::newRow("too long to be ours") << QByteArray("{") << QByteArray(100000, ' ') + '{';
     QTest::newRow("a driver's encoder") << QByteArray("x264enc") << QByteArray("vah264enc");
 }
 

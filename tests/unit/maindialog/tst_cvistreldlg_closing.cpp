@@ -66,6 +66,7 @@ private Q_SLOTS:
     void whoCancelsTheLoggingOutStays();
     void whereNobodyMayBeAskedCapturesAreKept();
     void withoutCapturesLoggingOutAsksNobody();
+    void whoClosesTheWindowBeforeTheSessionLetsItAskIsNotAsked();
     void loggingOutAtTheQuestionAsksItAnew();
     void aRecordingRunsOnUntilTheLoggingOutIsAnswered();
     void closingByTheWindowSystemAsksNothingAndKeepsEverything();
@@ -237,6 +238,27 @@ void ClosingFlowTest::withoutCapturesLoggingOutAsksNobody()
     }));
     QVERIFY(!hasAsked);
     QVERIFY(dialog.isVisible());
+}
+
+void ClosingFlowTest::whoClosesTheWindowBeforeTheSessionLetsItAskIsNotAsked()
+{
+    DialogFixture fixture;
+    CVistrelDlg &dialog = fixture.build();
+    fixture.click("Photo");
+    const QStringList photos = fixture.captures();
+    const auto leave = [&] {
+        return dialog.leaveWithSession([&] {
+            dialog.close();
+            return true;
+        });
+    };
+    for (const char *time : {"while it thinks", "when it asks again"}) {
+        bool leaves = false;
+        const QString text = DialogFixture::boxDuring([&] { leaves = leave(); });
+        QVERIFY2(text.isNull(), time);
+        QVERIFY2(leaves, time);
+    }
+    QCOMPARE(fixture.captures(), photos);
 }
 
 void ClosingFlowTest::loggingOutAtTheQuestionAsksItAnew()
