@@ -3,14 +3,22 @@
 #include "GstStart.h"
 #include "ModeChooser.h"
 
-#ifdef __SANITIZE_ADDRESS__
+// GCC tells it by a macro, Clang, whose fuzzer this is for, by a feature.
+#if defined(__SANITIZE_ADDRESS__)
+#define FINDS_LEAKS
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define FINDS_LEAKS
+#endif
+#endif
+#ifdef FINDS_LEAKS
 #include <sanitizer/lsan_interface.h>
 #endif
 
 // The framework leaks what it has read of a text that turns out to be wrong.
 static GstMiniHandle<GstCaps> capsFrom(const QByteArray &text)
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef FINDS_LEAKS
     const __lsan::ScopedDisabler theFrameworks;
 #endif
     return GstMiniHandle<GstCaps>(gst_caps_from_string(text.constData()));
