@@ -8,12 +8,15 @@
 #include <QApplication>
 #include <QDir>
 #include <QDirIterator>
+#include <QProcess>
+#include <QScreen>
 
 #include <memory>
 
 /**
  * Somebody who presses anything at any time, in the real program, with mouse and keyboard, while
- * the cables of camera and microphone are pulled and put back.
+ * the cables of camera and microphone are pulled and put back and the screen is set to another
+ * resolution.
  */
 class TestMonkeyOutside : public QObject {
     Q_OBJECT
@@ -28,6 +31,8 @@ private:
     void pressAnywhere(FaultTrial &trial);
     void pressAKey(FaultTrial &trial);
     void changeACable(FaultTrial &trial);
+    bool setScreen(const QRect &area);
+    void changeTheScreen();
     void look(FaultTrial &trial);
     int kept() const;
     void putAllBack();
@@ -40,9 +45,13 @@ private:
     qint64 m_longest = 0; // ms without an answer, in this try
     bool m_hasCamera = true;
     bool m_hasMicrophone = true;
+    QRect m_screen; // px, of the window
 };
 
 static const QSize cameraSize(1280, 720);
+// The right one of two.
+static const QRect large(1024, 0, 1024, 768);
+static const QRect small(1024, 0, 800, 600);
 static const int eventsUsually = 80;
 static const int eventsOfTheWhole = 300;
 static const int pingLimit = 30000; // ms; longer is no answer
@@ -52,7 +61,10 @@ static const int starvedFactor = 10;
 void TestMonkeyOutside::init()
 {
     QVERIFY2(!qEnvironmentVariableIsEmpty("ORVANTA_LAB"), "this test must be run by tests/lab/lab");
-    m_user = std::make_unique<Session>(ORVANTA_PROGRAM, "cam1", cameraSize);
+    QVERIFY(setScreen(large));
+    // The window manager tells what is free of it a moment later.
+    QTRY_COMPARE(QGuiApplication::primaryScreen()->availableGeometry(), large);
+    m_user = std::make_unique<Session>(ORVANTA_PROGRAM, "cam1", cameraSize, large);
 }
 
 void TestMonkeyOutside::cleanup()
@@ -69,6 +81,21 @@ void TestMonkeyOutside::putAllBack()
         m_hasCamera = labctl({"plug", "cam1", "1280x720"});
     if (!m_hasMicrophone)
         m_hasMicrophone = labctl({"microphone", "on"});
+}
+
+bool TestMonkeyOutside::setScreen(const QRect &area)
+{
+    m_screen = area;
+    const QString mode = QString("%1x%2").arg(area.width()).arg(area.height());
+    return QProcess::execute("xrandr", {"--output", "DUMMY1", "--mode", mode}) == 0;
+}
+
+void TestMonkeyOutside::changeTheScreen()
+{
+    QVERIFY(setScreen(m_screen == large ? small : large));
+    m_done.append(m_screen == large ? "screen large" : "screen small");
+    // One that is about to end follows no more.
+    QVERIFY(m_user->waitForMainWindowAt(m_screen) || !m_user->program().isRunning());
 }
 
 // Captures, wherever they are.
@@ -89,7 +116,6 @@ int TestMonkeyOutside::kept() const
 void TestMonkeyOutside::pressAnywhere(FaultTrial &trial)
 {
     const WindowMap &map = m_user->map();
-    const QRect screen = m_user->desktop().screen();
     const auto kind = WindowMap::Screen(trial.upTo(WindowMap::PlayingScreen));
     static const QStringList names{"Live",      "Photo",       "PhotoMulti",  "Movie",
                                    "MovieStop", "List",        "Settings",    "Close",
@@ -104,7 +130,8 @@ void TestMonkeyOutside::pressAnywhere(FaultTrial &trial)
     else if (trial.upTo(7) == 0)
         at = map.thumbnail(trial.upTo(3)).center();
     else if (button.isNull() || trial.upTo(7) == 0)
-        at = QPoint(trial.upTo(screen.width() - 1), trial.upTo(screen.height() - 1));
+        at = m_screen.topLeft()
+            + QPoint(trial.upTo(m_screen.width() - 1), trial.upTo(m_screen.height() - 1));
     m_mayLose |= box.id || map.button(WindowMap::PreviewScreen, "Retry").contains(at);
     m_done.append(QString("press %1,%2").arg(at.x()).arg(at.y()));
     m_user->desktop().click(at);
@@ -140,8 +167,10 @@ void TestMonkeyOutside::doAnything(FaultTrial &trial)
     const int what = trial.upTo(99);
     if (what < 72)
         pressAnywhere(trial);
-    else if (what < 94)
+    else if (what < 92)
         pressAKey(trial);
+    else if (what < 95)
+        changeTheScreen();
     else if (what < 97)
         QTest::qWait(trial.upTo(1500)); // nothing to wait for: so long nothing is done
     else
@@ -169,7 +198,7 @@ void TestMonkeyOutside::look(FaultTrial &trial)
 
 void TestMonkeyOutside::anyoneMayPressAnythingAtAnyTime()
 {
-    FaultTrial trial("a child at the real program, and cables pulled meanwhile", 1, 6);
+    FaultTrial trial("a child at the real program, cables and screen changed meanwhile", 1, 6);
     while (trial.next()) {
         m_done.clear();
         m_longest = 0;
