@@ -90,6 +90,8 @@ void TestLoggingOut::cancelStaysAndTheNextTimeNoDeletes()
     QVERIFY(m_user->waitUntilNoDialog());
     QTRY_VERIFY(m_user->isLiveAt(m_user->map().previewLiveRect()));
     QCOMPARE(m_user->program().captured(), photos);
+    // Its answer to the first time, late, would be taken for that to the next.
+    QTRY_VERIFY(m_login->isReadyToEnd());
     m_login->logOut(LoginSession::MayAsk);
     QVERIFY(m_user->answerExitQuestion("No"));
     QTRY_VERIFY(m_login->isReadyToEnd());
