@@ -19,7 +19,7 @@ static const int lateThreads = 4;
 static const int lateDescriptors = 6;
 static const int lateScreenObjects = 10;
 static const double memoryGrowth = 5; // MB
-static const int restTime = 30000; // ms: the window gives back what it can each 20 s of rest
+static const int restTime = 60; // s; in a rest the window gives back what it can each 20 s
 static const int liveRounds = 3600; // of one second each: an hour of live picture
 
 namespace {
@@ -184,12 +184,15 @@ Holdings TestLongDay::settledHoldings() const
     return now;
 }
 
-/// In MB, when what was used for a moment has been given back.
+/// In MB, the least of a rest: what the live picture takes besides comes and goes.
 double TestLongDay::restedMemory() const
 {
-    if (FaultTrial::isWholeSuite()) // else, nobody asks for it
-        QTest::qWait(restTime); // nothing to wait for: in the next moment it may be less yet
-    return Footprint::of(m_user->program().pid()).memory;
+    double least = Footprint::of(m_user->program().pid()).memory;
+    for (int second = 0; FaultTrial::isWholeSuite() && second < restTime; ++second) {
+        QTest::qWait(1000); // nothing to wait for: in the next moment it may be less yet
+        least = qMin(least, Footprint::of(m_user->program().pid()).memory);
+    }
+    return least;
 }
 
 void TestLongDay::compareWithMorning(const Holdings &now) const
@@ -237,7 +240,7 @@ void TestLongDay::aDayLeavesNothingBehind()
 void TestLongDay::inTheEveningItTakesNoMoreMemory()
 {
     const double growth = restedMemory() - m_morningMemory;
-    qInfo("%.1f MB more than in the morning", growth);
+    qInfo("%.1f MB more than the %.1f of the morning", growth, m_morningMemory);
 #if !defined(__SANITIZE_ADDRESS__) // it keeps freed memory
     if (FaultTrial::isWholeSuite()) // before, the first minutes are not over
         QVERIFY(growth <= memoryGrowth);
